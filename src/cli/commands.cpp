@@ -1,0 +1,90 @@
+#include "cli/commands.h"
+
+#include <array>
+#include <chrono>
+
+#include "cli/puzzle_lines.h"
+#include "grid/candidates.h"
+#include "grid/levels.h"
+#include "solver/brute_force.h"
+#include "solver/ladder.h"
+
+namespace tavi::cli {
+
+namespace {
+
+// The rating of a puzzle as the workbench gives it: the level reached when the
+// ladder solves it, Outlaw when it does not.
+int RatePuzzle(SolveContext& ctx, const Digits& puzzle, const WorkbenchRun& run) {
+    ctx.board = BoardFromPuzzle(puzzle);
+    return SolveSudoku(ctx, run) ? ctx.SolvingLevel : kOutlaw;
+}
+
+std::string FormatChange(const BoardChange& change) {
+    return CellName(change.cell) + (change.kind == BoardChange::Placed ? "=" : "-") +
+           std::to_string(change.digit);
+}
+
+}  // namespace
+
+int Rate(std::istream& in, std::ostream& out, std::ostream& err, const RateOptions& options) {
+    SolveContext ctx(Side::Workbench);
+    const WorkbenchRun run;
+    std::array<long, 10> perLevel{};
+    long total = 0;
+    const auto start = std::chrono::steady_clock::now();
+    const int bad = ForEachPuzzle(in, err, [&](const PuzzleLine& p) {
+        const int level = RatePuzzle(ctx, p.digits, run);
+        ++perLevel[level];
+        ++total;
+        out << p.text << '\t' << level << '\t' << LevelName(level) << '\n';
+    });
+    if (options.summary) {
+        const double seconds =
+            std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+        for (int level = 1; level <= kLevelCount; ++level)
+            err << LevelName(level) << '\t' << perLevel[level] << '\n';
+        err << "puzzles\t" << total << '\n';
+        err << "puzzles per second\t" << long(seconds > 0 ? total / seconds : 0) << '\n';
+    }
+    return bad ? 1 : 0;
+}
+
+int Solve(std::istream& in, std::ostream& out, std::ostream& err) {
+    SolveContext ctx(Side::Workbench);
+    const int bad = ForEachPuzzle(in, err, [&](const PuzzleLine& p) {
+        ctx.board = Board{};
+        ctx.board.Puzzle = p.digits;
+        bool contradiction = false;
+        const int found = BruteForceSolutions(ctx, contradiction);
+        out << p.text << '\t' << (found == 0 ? "none" : found == 1 ? "unique" : "multiple") << '\t'
+            << (found == 1 ? FormatDigits(ctx.board.CurrentGrid) : "-") << '\n';
+    });
+    return bad ? 1 : 0;
+}
+
+int Steps(std::istream& in, std::ostream& out, std::ostream& err) {
+    SolveContext ctx(Side::Workbench);
+    std::vector<BoardChange> changes;
+    int step = 0;
+    WorkbenchRun run;
+    run.observer.hit = [&](const Rung& rung) {
+        out << "step\t" << ++step << '\t' << rung.number << '\t' << rung.Name() << '\t';
+        for (size_t i = 0; i < changes.size(); ++i)
+            out << (i ? " " : "") << FormatChange(changes[i]);
+        out << '\n';
+        changes.clear();
+    };
+    const int bad = ForEachPuzzle(in, err, [&](const PuzzleLine& p) {
+        step = 0;
+        changes.clear();
+        ctx.trace = &changes;
+        const int level = RatePuzzle(ctx, p.digits, run);
+        ctx.trace = nullptr;
+        out << "result\t" << (level == kOutlaw ? "unsolved" : "solved") << '\t' << level << '\t'
+            << LevelName(level) << '\n';
+    });
+    return bad ? 1 : 0;
+}
+
+}  // namespace tavi::cli

@@ -1,0 +1,28 @@
+// The commands of tavi-sudoku-cli, each over streams so that tests can drive them.
+// Every command answers the process exit status: 0, or 1 when some input line was
+// no puzzle (the other lines are still processed).
+#pragma once
+
+#include <istream>
+#include <ostream>
+
+namespace tavi::cli {
+
+struct RateOptions {
+    bool summary = false;  // counts per level and puzzles per second to `err`
+};
+
+// Per puzzle: the 81 characters, the level 1..9 and its name; the workbench
+// ladder in the default order, Outlaw when it fails.
+int Rate(std::istream& in, std::ostream& out, std::ostream& err, const RateOptions& options = {});
+
+// Per puzzle: the 81 characters, "unique", "none" or "multiple", and the solution
+// or "-".
+int Solve(std::istream& in, std::ostream& out, std::ostream& err);
+
+// Per puzzle: a line per ladder hit ("step", its number, the technique number,
+// the technique's name, the changes), then "result" with "solved" or "unsolved",
+// the level and its name.
+int Steps(std::istream& in, std::ostream& out, std::ostream& err);
+
+}  // namespace tavi::cli

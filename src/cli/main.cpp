@@ -1,0 +1,69 @@
+// tavi-sudoku-cli: the command-line companion of Tavi Sudoku 1, for rating,
+// solving and explaining puzzles in bulk.
+#include <fstream>
+#include <iostream>
+#include <string>
+#include <vector>
+
+#include "cli/commands.h"
+
+namespace {
+
+constexpr const char* kUsage =
+    "usage: tavi-sudoku-cli COMMAND [options] [FILE]\n"
+    "\n"
+    "Puzzles are read one per line from FILE, or from standard input: the first 81\n"
+    "characters of a line are the puzzle ('1'-'9' a clue, '0' or '.' an empty cell).\n"
+    "Blank lines and lines starting with '#' are skipped.\n"
+    "\n"
+    "commands:\n"
+    "  rate [--summary]   puzzle, level number and level name\n"
+    "  solve              puzzle, unique/none/multiple, and the solution or -\n"
+    "  steps              every step of the ladder, then the result\n";
+
+int Usage(const std::string& problem) {
+    if (!problem.empty()) std::cerr << "tavi-sudoku-cli: " << problem << "\n\n";
+    std::cerr << kUsage;
+    return 2;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    std::vector<std::string> args(argv + 1, argv + argc);
+    if (args.empty()) return Usage("no command given");
+    const std::string command = args[0];
+    if (command == "--help" || command == "-h" || command == "help") {
+        std::cout << kUsage;
+        return 0;
+    }
+
+    tavi::cli::RateOptions rateOptions;
+    std::string file;
+    for (size_t i = 1; i < args.size(); ++i) {
+        if (args[i] == "--summary" && command == "rate")
+            rateOptions.summary = true;
+        else if (args[i].rfind("--", 0) == 0)
+            return Usage("unknown option " + args[i] + " for " + command);
+        else if (file.empty())
+            file = args[i];
+        else
+            return Usage("more than one input file");
+    }
+
+    std::ifstream fileStream;
+    if (!file.empty() && file != "-") {
+        fileStream.open(file);
+        if (!fileStream) {
+            std::cerr << "tavi-sudoku-cli: cannot open " << file << '\n';
+            return 2;
+        }
+    }
+    std::istream& in = fileStream.is_open() ? fileStream : std::cin;
+    std::ios::sync_with_stdio(false);
+
+    if (command == "rate") return tavi::cli::Rate(in, std::cout, std::cerr, rateOptions);
+    if (command == "solve") return tavi::cli::Solve(in, std::cout, std::cerr);
+    if (command == "steps") return tavi::cli::Steps(in, std::cout, std::cerr);
+    return Usage("unknown command " + command);
+}

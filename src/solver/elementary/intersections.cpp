@@ -1,0 +1,107 @@
+// Pointing pairs and box/line reductions: where a digit of a box is held to one
+// line, or a digit of a line to one box, the rest of the other unit loses it.
+#include "solver/primitives.h"
+#include "solver/techniques.h"
+
+namespace tavi {
+
+bool VerwijderPP(SolveContext& ctx, int digit, int leftTop, int segment) {
+    bool removed = false;
+    const int firstRow = leftTop / 9, firstColumn = leftTop % 9;
+    if (segment < 3) {
+        const int row = firstRow + segment;
+        for (int col = 0; col < 9; ++col)
+            if (col < firstColumn || col > firstColumn + 2)
+                removed |= VerwijderKnop(ctx, digit, 9 * row + col);
+    } else {
+        const int col = firstColumn + segment - 3;
+        for (int row = 0; row < 9; ++row)
+            if (row < firstRow || row > firstRow + 2)
+                removed |= VerwijderKnop(ctx, digit, 9 * row + col);
+    }
+    return removed;
+}
+
+bool VerwijderBL(SolveContext& ctx, int digit, int line, int segment, int kind) {
+    const int cell = kind == 1 ? 9 * line + 3 * segment : 9 * (3 * segment) + line;
+    const int leftTop = Global::BoxLeftTopOfCell[cell];
+    bool removed = false;
+    for (int p = 0; p < 9; ++p) {
+        const int c = leftTop + 9 * (p / 3) + p % 3;
+        const bool onLine = kind == 1 ? c / 9 == line : c % 9 == line;
+        if (!onLine) removed |= VerwijderKnop(ctx, digit, c);
+    }
+    return removed;
+}
+
+// For each digit, each box in reading order: if the digit's cells of the box lie
+// in one segment (a total of one matches its row segment first), the rest of that
+// line loses it. A pattern that removes nothing is passed over.
+bool PointingPair(SolveContext& ctx) {
+    const Board& b = ctx.board;
+    for (int digit = 1; digit <= 9; ++digit) {
+        for (int box = 0; box < 9; ++box) {
+            int count[6] = {}, total = 0;
+            for (int p = 0; p < 9; ++p) {
+                if (!b.Has(digit, Global::CellOfBoxPosition[box][p])) continue;
+                ++total;
+                ++count[p / 3];
+                ++count[3 + p % 3];
+            }
+            if (total < 1 || total > 3) continue;
+            const int leftTop = Global::BoxLeftTop[box];
+            for (int segment = 0; segment < 6; ++segment) {
+                if (count[segment] != total || !VerwijderPP(ctx, digit, leftTop, segment)) continue;
+                if (ctx.HintOnly) {
+                    ctx.hint.HintCell = leftTop;
+                    ctx.hint.HintVariant = segment;
+                    ctx.hint.HintNumber = digit;
+                    ctx.hint.HintKind = 3;
+                } else {
+                    ctx.RaiseLevel(2);
+                }
+                return true;
+            }
+        }
+    }
+    return false;
+}
+
+// All rows for all digits, then all columns: where a digit of a line lies in one
+// segment, the other six cells of that box lose it.
+bool BoxLine(SolveContext& ctx) {
+    const Board& b = ctx.board;
+    for (int kind = 1; kind <= 2; ++kind) {
+        for (int digit = 1; digit <= 9; ++digit) {
+            for (int line = 0; line < 9; ++line) {
+                int count[3] = {}, total = 0;
+                for (int i = 0; i < 9; ++i) {
+                    const int c = kind == 1 ? 9 * line + i : 9 * i + line;
+                    if (b.Has(digit, c)) {
+                        ++total;
+                        ++count[i / 3];
+                    }
+                }
+                if (total < 1 || total > 3) continue;
+                for (int segment = 0; segment < 3; ++segment) {
+                    if (count[segment] != total || !VerwijderBL(ctx, digit, line, segment, kind))
+                        continue;
+                    if (ctx.HintOnly) {
+                        const int cell = kind == 1 ? 9 * line + 3 * segment : 27 * segment + line;
+                        ctx.hint.HintNumber = digit;
+                        ctx.hint.HintCell = Global::BoxLeftTopOfCell[cell];
+                        ctx.hint.HintVariant = kind;
+                        (kind == 1 ? ctx.hint.HintRow : ctx.hint.HintColumn) = line;
+                        ctx.hint.HintKind = 4;
+                    } else {
+                        ctx.RaiseLevel(2);
+                    }
+                    return true;
+                }
+            }
+        }
+    }
+    return false;
+}
+
+}  // namespace tavi
