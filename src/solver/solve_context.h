@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "grid/board.h"
+#include "grid/notifier.h"
 #include "solver/hint_record.h"
 
 namespace tavi {
@@ -33,15 +34,6 @@ public:
     virtual void ZetAuto(Board& board, int digit, int cell) = 0;
     // A candidate the solver took away while it was a user-visible move.
     virtual void CandidateRemoved(int digit, int cell) = 0;
-};
-
-// How the solver speaks to the person: a beep and a message box. The shell
-// implements it; tests record it.
-class Notifier {
-public:
-    virtual ~Notifier() = default;
-    virtual void Beep() = 0;
-    virtual void Message(std::string_view title, std::string_view text) = 0;
 };
 
 // One change made by a rung, for the step trace of the command-line companion.
