@@ -9,9 +9,10 @@ void Zet(Board& board, int digit, int cell) {
 }
 
 bool EmptyCell(const Board& board) {
-    for (int c = 0; c < 81; ++c)
-        if (board.CurrentGrid[c] == 0 && board.Candidates[c] == 0) return true;
-    return false;
+    // Runs before every rung of every pass: one sweep without branches.
+    bool empty = false;
+    for (int c = 0; c < 81; ++c) empty |= (board.CurrentGrid[c] == 0) & (board.Candidates[c] == 0);
+    return empty;
 }
 
 bool Exclusief(const Board& board, const int (&set)[5], int count, int cell) {

@@ -56,6 +56,55 @@ void BruteForceSearch::Undo(Board& board, int pointer) {
     }
 }
 
+namespace {
+
+// True if `digit` can stand nowhere in `unit`: neither placed there nor a
+// candidate of an open cell. (A filled cell keeps its old candidates during the
+// search, so only open cells count.)
+bool NoPlaceInUnit(const Board& board, int unit, int digit) {
+    for (int x : UnitCells[unit]) {
+        const int placed = board.CurrentGrid[x];
+        if (placed == digit || (placed == 0 && board.Has(digit, x))) return false;
+    }
+    return true;
+}
+
+}  // namespace
+
+bool BruteForceSearch::DigitLostItsPlace(const Board& board, int cell, int digit) const {
+    const int entry = LogPointer;
+    const int row = cell / 9, col = cell % 9, leftTop = Global::BoxLeftTopOfCell[cell];
+    // The cell's own other candidates may have had their last place in it.
+    const int box = 18 + Global::BoxOfCell[cell];
+    for (CandidateMask m = board.Candidates[cell] & ~DigitBit(digit); m; m &= m - 1) {
+        const int other = LowestDigit(m);
+        if (NoPlaceInUnit(board, row, other) || NoPlaceInUnit(board, 9 + col, other) ||
+            NoPlaceInUnit(board, box, other))
+            return true;
+    }
+    // A peer that lost the digit leaves its two other units to be looked at.
+    for (int i = 0; i < 9; ++i) {
+        if (LogRowPeers[entry] >> i & 1) {
+            const int x = 9 * row + i;
+            if (NoPlaceInUnit(board, 9 + i, digit) ||
+                NoPlaceInUnit(board, 18 + Global::BoxOfCell[x], digit))
+                return true;
+        }
+        if (LogColumnPeers[entry] >> i & 1) {
+            const int x = 9 * i + col;
+            if (NoPlaceInUnit(board, i, digit) ||
+                NoPlaceInUnit(board, 18 + Global::BoxOfCell[x], digit))
+                return true;
+        }
+        if (LogBoxPeers[entry] >> i & 1) {
+            const int x = leftTop + 9 * (i / 3) + i % 3;
+            if (NoPlaceInUnit(board, x / 9, digit) || NoPlaceInUnit(board, 9 + x % 9, digit))
+                return true;
+        }
+    }
+    return false;
+}
+
 int BruteForceSearch::Search(Board& board, Digits& solution, bool& contradiction) {
     // Step 1. List the open cells in rising order with their candidates.
     int n = 0;
@@ -103,13 +152,12 @@ int BruteForceSearch::Search(Board& board, Digits& solution, bool& contradiction
         board.CurrentGrid[c] = std::uint8_t(digit);
         RemoveCandidates(board, c, digit, p - 1);
         --p;
-        // A dead end: some open cell has nothing left, so this cell tries its next.
-        for (int j = 0; j <= p; ++j) {
-            if (CellCandidateTotal[FreeCells[j]] == 0) {
-                ++p;
-                break;
-            }
-        }
+        // A dead end: some open cell has nothing left, or the digit has no place
+        // left in a unit of a cell that just lost it; this cell tries its next.
+        bool dead = false;
+        for (int j = 0; j <= p && !dead; ++j) dead = CellCandidateTotal[FreeCells[j]] == 0;
+        if (!dead && p >= 0) dead = DigitLostItsPlace(board, c, digit);
+        if (dead) ++p;
     }
     return solutions;
 }

@@ -34,6 +34,9 @@ public:
     void RemoveCandidates(Board& board, int cell, int digit, int pointer);
     // Takes back the last entry of the log.
     void Undo(Board& board, int pointer);
+    // After `cell` took `digit`: true if some unit of a peer that lost the digit
+    // has no place left for it, so that this branch can hold no solution.
+    bool DigitLostItsPlace(const Board& board, int cell, int digit) const;
     // Lists the candidates of `cell` from its mask.
     void RebuildCell(const Board& board, int cell);
 

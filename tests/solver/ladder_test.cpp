@@ -1,0 +1,208 @@
+#include "solver/ladder.h"
+
+#include <gtest/gtest.h>
+
+#include <set>
+
+#include "grid/candidates.h"
+#include "grid/levels.h"
+#include "support/puzzles.h"
+
+namespace tavi {
+namespace {
+
+using testing::RecordingNotifier;
+
+TEST(RungTable, NumbersLevelsAndLabels) {
+    const auto rungs = LadderRungs();
+    ASSERT_EQ(rungs.size(), 42u);  // techniques 3..39, the subsets six times
+    int previous = 3;
+    for (const Rung& r : rungs) {
+        EXPECT_GE(r.number, previous) << "the table runs in technique order";
+        previous = r.number;
+        EXPECT_TRUE(r.label.starts_with(" - Scanning for ")) << r.label;
+        EXPECT_GE(r.level, 1);
+        EXPECT_LE(r.level, 8);
+    }
+    EXPECT_EQ(RungsOf(7).size(), 6u);
+    EXPECT_EQ(RungsOf(7)[2].Name(), "Hidden Pairs");
+    EXPECT_EQ(RungsOf(6)[0].label, " - Scanning for Box/Line Reductions");
+    EXPECT_EQ(RungsOf(23)[0].Name(), "(Aligned) Pair Exclusion");
+    EXPECT_EQ(RungsOf(39)[0].level, 8);
+    EXPECT_EQ(RungsOf(36)[0].level, 7);
+    EXPECT_EQ(RungsOf(17)[0].level, 6);
+    EXPECT_EQ(RungsOf(12)[0].level, 5);
+    EXPECT_EQ(RungsOf(8)[0].level, 4);
+    for (int t : {28, 32}) EXPECT_EQ(RungsOf(t)[0].Name(), "Nice Loop");
+    for (int t : {29, 33, 38}) EXPECT_EQ(RungsOf(t)[0].Name(), "Alternating Inference Chains");
+    EXPECT_TRUE(RungsOf(2).empty());
+}
+
+TEST(SolvedMessage, NamesEachLevel) {
+    EXPECT_EQ(SolvedMessage(1), "Sudoku solved and rated as Easy");
+    EXPECT_EQ(SolvedMessage(8), "Sudoku solved and rated as Mayhem");
+}
+
+// A generated puzzle that the ladder rates `level`, from the test corpus.
+const GeneratedPuzzle* PuzzleRated(int level) {
+    for (const auto& p : testing::GeneratedPuzzles(400)) {
+        SolveContext ctx;
+        ctx.board = BoardFromPuzzle(p.puzzle);
+        if (SolveSudoku(ctx, {}) && ctx.SolvingLevel == level) return &p;
+    }
+    return nullptr;
+}
+
+TEST(WorkbenchLadder, SpeaksAtASolvedBoardUnlessABatchRuns) {
+    const GeneratedPuzzle* p = PuzzleRated(1);
+    ASSERT_NE(p, nullptr);
+    struct Case {
+        bool import, check;
+        int beeps;
+        size_t messages;
+    } cases[] = {{false, false, 1, 1}, {false, true, 1, 0}, {true, false, 0, 0}, {true, true, 0, 0}};
+    for (const Case& c : cases) {
+        RecordingNotifier notifier;
+        SolveContext ctx;
+        ctx.board = BoardFromPuzzle(p->puzzle);
+        WorkbenchRun run;
+        run.ImportRunning = c.import;
+        run.CheckRunning = c.check;
+        run.notifier = &notifier;
+        EXPECT_TRUE(SolveSudoku(ctx, run));
+        EXPECT_EQ(ctx.SolvingLevel, 1);
+        EXPECT_EQ(ctx.board.CurrentGrid, p->solution);
+        EXPECT_EQ(notifier.beeps, c.beeps);
+        ASSERT_EQ(notifier.messages.size(), c.messages);
+        if (c.messages) {
+            EXPECT_EQ(notifier.messages[0],
+                      std::make_pair(std::string("Sudoku solved"),
+                                     std::string("Sudoku solved and rated as Easy")));
+        }
+    }
+}
+
+TEST(WorkbenchLadder, ReportsProgressOnlyDuringABatch) {
+    const GeneratedPuzzle* p = PuzzleRated(3);
+    ASSERT_NE(p, nullptr);
+    std::vector<std::string> texts;
+    WorkbenchRun run;
+    run.observer.progress = [&](const std::string& t) { texts.push_back(t); };
+    SolveContext ctx;
+    ctx.board = BoardFromPuzzle(p->puzzle);
+    SolveSudoku(ctx, run);
+    EXPECT_TRUE(texts.empty());
+
+    run.CheckRunning = true;
+    ctx.board = BoardFromPuzzle(p->puzzle);
+    SolveSudoku(ctx, run);
+    ASSERT_FALSE(texts.empty());
+    // Before anything is found the base text is still empty.
+    EXPECT_EQ(texts.front(), " - Scanning for Hidden Singles");
+    const std::set<std::string> seen(texts.begin(), texts.end());
+    EXPECT_TRUE(seen.count("Solving Sudoku : Rated Easy or higher - Scanning for Naked Singles"));
+    EXPECT_TRUE(seen.count("Solving Sudoku : Rated Hard or higher - Scanning for Hidden Singles"));
+
+    texts.clear();
+    run.ImportRunning = true;
+    ctx.board = BoardFromPuzzle(p->puzzle);
+    SolveSudoku(ctx, run);
+    EXPECT_TRUE(std::set<std::string>(texts.begin(), texts.end())
+                    .count("Solving Imported Sudoku : Rated Easy or higher - Scanning for "
+                           "Pointing Pairs"));
+}
+
+TEST(WorkbenchLadder, FullBoardAndContradictions) {
+    const auto& p = testing::GeneratedPuzzles(1)[0];
+    RecordingNotifier notifier;
+    WorkbenchRun run;
+    run.notifier = &notifier;
+
+    // All 81 given: nothing to find, no level, no message.
+    SolveContext full;
+    full.board = BoardFromPuzzle(p.solution);
+    EXPECT_FALSE(SolveSudoku(full, run));
+    EXPECT_EQ(full.SolvingLevel, 0);
+    EXPECT_TRUE(notifier.messages.empty());
+
+    // A cell with no candidate left ends the run at once.
+    SolveContext broken;
+    broken.board = BoardFromPuzzle(p.puzzle);
+    int empty = 0;
+    while (p.puzzle[empty]) ++empty;
+    broken.board.Candidates[empty] = 0;
+    EXPECT_FALSE(SolveSudoku(broken, run));
+    EXPECT_EQ(broken.SolvingLevel, 0);
+
+    // Two equal givens in a row have no solution, whatever the candidates say.
+    SolveContext clash;
+    Digits twice = p.puzzle;
+    int a = -1, b = -1;
+    for (int c = 0; c < 9; ++c) (twice[c] ? a : b) = (twice[c] ? (a < 0 ? c : a) : c);
+    ASSERT_GE(a, 0);
+    ASSERT_GE(b, 0);
+    twice[b] = twice[a];
+    clash.board = BoardFromPuzzle(twice);
+    EXPECT_FALSE(SolveSudoku(clash, run));
+    EXPECT_FALSE(SolveSudokuGame(clash, &notifier));
+    EXPECT_TRUE(notifier.messages.empty());
+}
+
+// Moving a technique that finds nothing around must not change a rating, and a
+// position held by two techniques runs only the higher one.
+TEST(WorkbenchLadder, FollowsTheTechniqueOrder) {
+    const GeneratedPuzzle* p = PuzzleRated(8);
+    ASSERT_NE(p, nullptr) << "no puzzle of the corpus needs bifurcation";
+    auto rate = [&](const TechniqueOrder& order) {
+        SolveContext ctx;
+        ctx.board = BoardFromPuzzle(p->puzzle);
+        WorkbenchRun run;
+        run.order = &order;
+        const bool ok = SolveSudoku(ctx, run);
+        return ok ? ctx.SolvingLevel : 9;
+    };
+    TechniqueOrder order = DefaultTechniqueOrder();
+    EXPECT_EQ(rate(order), 8);
+    std::swap(order[8], order[38]);
+    EXPECT_EQ(rate(order), 8);
+
+    // Bifurcation keeps its place whatever the table says about it.
+    order = DefaultTechniqueOrder();
+    order[39] = 12;
+    EXPECT_EQ(rate(order), 8);
+}
+
+TEST(GameLadder, SpeaksWithTheLevelAndIgnoresTheOrder) {
+    const GeneratedPuzzle* p = PuzzleRated(3);
+    ASSERT_NE(p, nullptr);
+    RecordingNotifier notifier;
+    SolveContext ctx(Side::Game);
+    ctx.board = BoardFromPuzzle(p->puzzle);
+    EXPECT_TRUE(SolveSudokuGame(ctx, &notifier));
+    EXPECT_EQ(ctx.SolvingLevel, 3);
+    EXPECT_EQ(notifier.beeps, 1);
+    ASSERT_EQ(notifier.messages.size(), 1u);
+    EXPECT_EQ(notifier.messages[0].second, "Sudoku solved and rated as Hard");
+}
+
+TEST(PreSolve, SolvesWhatTheHeadCanAndFlagsContradictions) {
+    const GeneratedPuzzle* p = PuzzleRated(2);
+    ASSERT_NE(p, nullptr);
+    SolveContext ctx;
+    ctx.board = BoardFromPuzzle(p->puzzle);
+    int cells = ctx.board.EmptyCount();
+    bool contradiction = false;
+    EXPECT_TRUE(PreSolve(ctx, cells, contradiction));
+    EXPECT_EQ(cells, 0);
+    EXPECT_FALSE(contradiction);
+    EXPECT_EQ(ctx.board.CurrentGrid, p->solution);
+
+    ctx.board = BoardFromPuzzle(p->puzzle);
+    ctx.board.Candidates[std::find(p->puzzle.begin(), p->puzzle.end(), 0) - p->puzzle.begin()] = 0;
+    cells = ctx.board.EmptyCount();
+    EXPECT_FALSE(PreSolve(ctx, cells, contradiction));
+    EXPECT_TRUE(contradiction);
+}
+
+}  // namespace
+}  // namespace tavi

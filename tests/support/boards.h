@@ -1,0 +1,97 @@
+// Boards built by hand for the scan-order tests: start from a board where every
+// cell is open with all nine candidates, then shape the candidates of a few
+// units so that exactly the patterns a test wants are on it.
+#pragma once
+
+#include <algorithm>
+#include <initializer_list>
+#include <utility>
+#include <vector>
+
+#include "grid/candidates.h"
+#include "solver/solve_context.h"
+
+namespace tavi::testing {
+
+inline const auto& Row(int r) { return UnitCells[r]; }
+inline const auto& Column(int c) { return UnitCells[9 + c]; }
+inline const auto& Box(int b) { return UnitCells[18 + b]; }
+
+// No digit placed, all nine candidates everywhere.
+inline Board OpenBoard() {
+    Board b;
+    b.Candidates.fill(kAllCandidates);
+    return b;
+}
+
+inline CandidateMask MaskOf(std::initializer_list<int> digits) {
+    CandidateMask m = 0;
+    for (int d : digits) m |= DigitBit(d);
+    return m;
+}
+
+inline void SetCandidates(Board& b, int cell, std::initializer_list<int> digits) {
+    b.Candidates[cell] = MaskOf(digits);
+}
+
+// Takes `digit` from every cell of `unit` except the cells in `keep`.
+template <typename Unit>
+void KeepDigitOnlyIn(Board& b, int digit, const Unit& unit, std::initializer_list<int> keep) {
+    for (int c : unit)
+        if (std::find(keep.begin(), keep.end(), c) == keep.end())
+            b.Candidates[c] &= CandidateMask(~DigitBit(digit));
+}
+
+// Takes each of `digits` from every cell of `unit` except the cells in `keep`.
+template <typename Unit>
+void KeepDigitsOnlyIn(Board& b, std::initializer_list<int> digits, const Unit& unit,
+                      std::initializer_list<int> keep) {
+    for (int d : digits) KeepDigitOnlyIn(b, d, unit, keep);
+}
+
+// The candidates that `after` lost against `before`, as (cell, digit) in cell order.
+using Removal = std::pair<int, int>;
+inline std::vector<Removal> Removals(const Board& before, const Board& after) {
+    std::vector<Removal> out;
+    for (int c = 0; c < 81; ++c)
+        for (int d = 1; d <= 9; ++d)
+            if (before.Has(d, c) && !after.Has(d, c)) out.emplace_back(c, d);
+    return out;
+}
+
+// `digit` from each of `cells`, in the order given.
+inline std::vector<Removal> RemovalsOf(int digit, std::initializer_list<int> cells) {
+    std::vector<Removal> out;
+    for (int c : cells) out.emplace_back(c, digit);
+    return out;
+}
+
+// The game's move log as the solver sees it: what it was told, in order.
+struct RecordingListener : MoveListener {
+    std::vector<Removal> placed;   // (cell, digit) through ZetAuto
+    std::vector<Removal> removed;  // (cell, digit) as user-visible removals
+    void ZetAuto(Board& board, int digit, int cell) override {
+        placed.emplace_back(cell, digit);
+        Zet(board, digit, cell);
+    }
+    void CandidateRemoved(int digit, int cell) override { removed.emplace_back(cell, digit); }
+};
+
+// A context over `board` on `side`.
+inline SolveContext ContextOn(const Board& board, Side side = Side::Workbench) {
+    SolveContext ctx(side);
+    ctx.board = board;
+    return ctx;
+}
+
+// A hint record whose every field holds `mark`, to see which fields a kind writes.
+inline HintRecord MarkedHint(int mark = -99) {
+    HintRecord h;
+    h.HintKind = h.HintVariant = h.HintRow = h.HintColumn = h.HintCell = h.HintNumber = mark;
+    h.HintCellCount = h.HintValueCount = mark;
+    h.HintCells.fill(mark);
+    h.HintValues.fill(mark);
+    return h;
+}
+
+}  // namespace tavi::testing
