@@ -13,9 +13,15 @@
 
 namespace tavi::testing {
 
-inline const auto& Row(int r) { return UnitCells[r]; }
-inline const auto& Column(int c) { return UnitCells[9 + c]; }
-inline const auto& Box(int b) { return UnitCells[18 + b]; }
+inline const auto& Row(int r) {
+    return UnitCells[r];
+}
+inline const auto& Column(int c) {
+    return UnitCells[9 + c];
+}
+inline const auto& Box(int b) {
+    return UnitCells[18 + b];
+}
 
 // No digit placed, all nine candidates everywhere.
 inline Board OpenBoard() {
@@ -26,7 +32,8 @@ inline Board OpenBoard() {
 
 inline CandidateMask MaskOf(std::initializer_list<int> digits) {
     CandidateMask m = 0;
-    for (int d : digits) m |= DigitBit(d);
+    for (int d : digits)
+        m |= DigitBit(d);
     return m;
 }
 
@@ -46,7 +53,8 @@ void KeepDigitOnlyIn(Board& b, int digit, const Unit& unit, std::initializer_lis
 template <typename Unit>
 void KeepDigitsOnlyIn(Board& b, std::initializer_list<int> digits, const Unit& unit,
                       std::initializer_list<int> keep) {
-    for (int d : digits) KeepDigitOnlyIn(b, d, unit, keep);
+    for (int d : digits)
+        KeepDigitOnlyIn(b, d, unit, keep);
 }
 
 // The candidates that `after` lost against `before`, as (cell, digit) in cell order.
@@ -62,7 +70,8 @@ inline std::vector<Removal> Removals(const Board& before, const Board& after) {
 // `digit` from each of `cells`, in the order given.
 inline std::vector<Removal> RemovalsOf(int digit, std::initializer_list<int> cells) {
     std::vector<Removal> out;
-    for (int c : cells) out.emplace_back(c, digit);
+    for (int c : cells)
+        out.emplace_back(c, digit);
     return out;
 }
 

@@ -1,0 +1,141 @@
+#include "grid/candidates.h"
+
+#include <gtest/gtest.h>
+
+#include "solver/primitives.h"
+#include "support/boards.h"
+#include "support/puzzles.h"
+
+namespace tavi {
+namespace {
+
+using testing::OpenBoard;
+using testing::RecordingListener;
+using testing::SetCandidates;
+
+bool ArePeers(int a, int b) {
+    return a != b &&
+           (a / 9 == b / 9 || a % 9 == b % 9 || Global::BoxOfCell[a] == Global::BoxOfCell[b]);
+}
+
+TEST(Zet, ClearsTheCellAndTheDigitFromItsTwentyPeersOnly) {
+    Board b = OpenBoard();
+    Zet(b, 5, 40);
+    EXPECT_EQ(b.Candidates[40], 0);
+    EXPECT_EQ(b.CurrentGrid[40], 0) << "the caller writes CurrentGrid";
+    int peers = 0;
+    for (int c = 0; c < 81; ++c) {
+        if (c == 40) continue;
+        const CandidateMask expected =
+            ArePeers(c, 40) ? kAllCandidates & ~DigitBit(5) : kAllCandidates;
+        peers += ArePeers(c, 40);
+        EXPECT_EQ(b.Candidates[c], expected) << CellName(c);
+    }
+    EXPECT_EQ(peers, 20);
+    for (int d = 1; d <= 9; ++d)
+        EXPECT_FALSE(KnopAan(b, d, 40));
+    EXPECT_TRUE(KnopAan(b, 4, 41));
+    EXPECT_FALSE(KnopAan(b, 5, 41));
+}
+
+// How a technique's removal lands: under a hint it only reports, with ForceZet it
+// removes quietly, otherwise it removes and the game's move log hears of it.
+TEST(VerwijderKnop, HonoursHintOnlyAndForceZet) {
+    struct Case {
+        const char* name;
+        bool hintOnly, forceZet;
+        int digit;
+        bool answer, removes, heard;
+    } cases[] = {
+        {"plain removal", false, false, 7, true, true, true},
+        {"under a hint", true, false, 7, true, false, false},
+        {"under a hint with ForceZet", true, true, 7, true, false, false},
+        {"ForceZet alone", false, true, 7, true, true, false},
+        {"not a candidate", false, false, 3, false, false, false},
+        {"not a candidate under a hint", true, false, 3, false, false, false},
+    };
+    for (const Case& k : cases) {
+        SCOPED_TRACE(k.name);
+        Board b = OpenBoard();
+        SetCandidates(b, 12, {1, 7, 9});
+        RecordingListener listener;
+        SolveContext ctx = testing::ContextOn(b, Side::Game);
+        ctx.listener = &listener;
+        ctx.HintOnly = k.hintOnly;
+        ctx.ForceZet = k.forceZet;
+        EXPECT_EQ(VerwijderKnop(ctx, k.digit, 12), k.answer);
+        EXPECT_EQ(ctx.board.Has(k.digit, 12), k.digit == 7 && !k.removes);
+        EXPECT_EQ(testing::Removals(b, ctx.board).size(), k.removes ? 1u : 0u);
+        EXPECT_TRUE(listener.placed.empty());
+        if (k.heard)
+            EXPECT_EQ(listener.removed, (std::vector<testing::Removal>{{12, 7}}));
+        else
+            EXPECT_TRUE(listener.removed.empty());
+    }
+}
+
+TEST(Exclusief, LooksOnlyAtWhatLiesOutsideTheSet) {
+    const int set[5] = {1, 2, 3, 4, 5};
+    struct Case {
+        std::initializer_list<int> candidates;
+        int count;
+        bool answer;
+    } cases[] = {
+        {{1, 2}, 2, true},  {{1, 2, 3}, 2, false},      {{1}, 2, true},     {{}, 2, true},
+        {{2, 9}, 2, false}, {{1, 2, 3, 4, 5}, 5, true}, {{5, 6}, 5, false}, {{3, 4}, 4, true},
+        {{8, 9}, 1, true},  {{8, 9}, 6, true},          {{8, 9}, 0, true},
+    };
+    for (const Case& k : cases) {
+        Board b = OpenBoard();
+        SetCandidates(b, 30, k.candidates);
+        EXPECT_EQ(Exclusief(b, set, k.count, 30), k.answer)
+            << "count " << k.count << ", mask " << b.Candidates[30];
+    }
+}
+
+TEST(EmptyCell, FindsAnOpenCellWithoutCandidatesAndIgnoresFilledCells) {
+    Board b = OpenBoard();
+    b.CurrentGrid[0] = 4;
+    b.Candidates[0] = 0;
+    EXPECT_FALSE(EmptyCell(b));
+    b.Candidates[80] = 0;
+    EXPECT_TRUE(EmptyCell(b));
+}
+
+TEST(Exclude, AsksTheOtherCellsOfTheThreeUnits) {
+    Board b = OpenBoard();
+    for (int c = 0; c < 81; ++c)
+        b.Candidates[c] &= CandidateMask(~DigitBit(6));
+    b.Candidates[40] = kAllCandidates;
+    EXPECT_FALSE(Exclude(b, 6, 40)) << "the cell itself does not count";
+    for (int peer : {36, 4, 50}) {
+        Board p = b;
+        p.Candidates[peer] |= DigitBit(6);
+        EXPECT_TRUE(Exclude(p, 6, 40)) << CellName(peer);
+    }
+    b.Candidates[0] |= DigitBit(6);
+    EXPECT_FALSE(Exclude(b, 6, 40)) << "A1 is no peer of E5";
+}
+
+TEST(SetupCandidates, BuildsTheCandidatesFromThePuzzleAlone) {
+    for (const auto& p : testing::GeneratedPuzzles(20)) {
+        Board b;
+        b.Puzzle = p.puzzle;
+        b.CurrentGrid.fill(9);  // stale state that must not survive
+        b.Candidates.fill(0);
+        SetupCandidates(b);
+        EXPECT_EQ(b.CurrentGrid, p.puzzle);
+        for (int c = 0; c < 81; ++c) {
+            CandidateMask expected = 0;
+            if (!p.puzzle[c]) {
+                expected = kAllCandidates;
+                for (int peer : Peers[c])
+                    if (p.puzzle[peer]) expected &= CandidateMask(~DigitBit(p.puzzle[peer]));
+            }
+            ASSERT_EQ(b.Candidates[c], expected) << CellName(c);
+        }
+    }
+}
+
+}  // namespace
+}  // namespace tavi
