@@ -1,0 +1,157 @@
+#include "grid/library_files.h"
+
+#include <fstream>
+#include <system_error>
+
+namespace tavi {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+void Say(std::string* why, std::string text) {
+    if (why) *why = std::move(text);
+}
+
+std::string Name(const fs::path& file) {
+    return file.filename().string();
+}
+
+std::optional<std::uintmax_t> LengthOf(const fs::path& file) {
+    std::error_code ec;
+    if (!fs::is_regular_file(file, ec) || ec) return std::nullopt;
+    const std::uintmax_t length = fs::file_size(file, ec);
+    if (ec) return std::nullopt;
+    return length;
+}
+
+}  // namespace
+
+bool FileExists(const fs::path& file) {
+    std::error_code ec;
+    return fs::is_regular_file(file, ec) && !ec;
+}
+
+std::optional<double> RecordCount(const fs::path& file, std::size_t recordSize) {
+    const auto length = LengthOf(file);
+    if (!length) return std::nullopt;
+    return double(*length) / double(recordSize);
+}
+
+double SudokuCount(const fs::path& sdsFile) {
+    return RecordCount(sdsFile, kSudokuRecordSize).value_or(0.0);
+}
+
+long WholeRecords(const fs::path& file, std::size_t recordSize) {
+    const auto length = LengthOf(file);
+    return length ? long(*length / recordSize) : 0;
+}
+
+bool ReadRecordBytes(const fs::path& file, long number, std::span<std::uint8_t> bytes,
+                     std::string* why) {
+    const auto length = LengthOf(file);
+    if (!length) {
+        Say(why, file.string() + " was not found.");
+        return false;
+    }
+    const std::uintmax_t size = bytes.size();
+    const std::uintmax_t whole = *length / size;
+    if (number < 1 || std::uintmax_t(number) > whole) {
+        Say(why, "Record " + std::to_string(number) + " is not in " + Name(file) +
+                     ", which holds " + std::to_string(whole) + " whole records.");
+        return false;
+    }
+    std::ifstream in(file, std::ios::binary);
+    in.seekg(std::streamoff((number - 1) * size));
+    in.read(reinterpret_cast<char*>(bytes.data()), std::streamsize(size));
+    if (!in || in.gcount() != std::streamsize(size)) {
+        Say(why, "Could not read record " + std::to_string(number) + " of " + Name(file) + ".");
+        return false;
+    }
+    return true;
+}
+
+bool WriteRecordBytes(const fs::path& file, long number, std::span<const std::uint8_t> bytes,
+                      std::string* why) {
+    const std::uintmax_t size = bytes.size();
+    std::error_code ec;
+    const bool exists = fs::exists(file, ec) && !ec;
+    const auto length = exists ? LengthOf(file) : std::optional<std::uintmax_t>(0);
+    if (!length) {
+        Say(why, "Can't write to " + file.string() + ": it is not a readable file.");
+        return false;
+    }
+    const std::uintmax_t offset = number >= 1 ? std::uintmax_t(number - 1) * size : 0;
+    const bool inPlace = number >= 1 && offset + size <= *length;
+    const bool append = number >= 1 && offset == *length;
+    if (!inPlace && !append) {
+        if (*length % size != 0)
+            Say(why, Name(file) + " is damaged: its length " + std::to_string(*length) +
+                         " is no multiple of " + std::to_string(size) +
+                         "; nothing can be added to it.");
+        else
+            Say(why, "Record " + std::to_string(number) + " can't be written to " + Name(file) +
+                         ", which holds " + std::to_string(*length / size) + " records.");
+        return false;
+    }
+
+    bool ok;
+    {
+        // in|out keeps what is there; a missing file has to be made first.
+        std::fstream io;
+        if (exists)
+            io.open(file, std::ios::in | std::ios::out | std::ios::binary);
+        else
+            io.open(file, std::ios::out | std::ios::binary);
+        ok = io.is_open();
+        if (ok) {
+            io.seekp(std::streamoff(offset));
+            io.write(reinterpret_cast<const char*>(bytes.data()), std::streamsize(size));
+            io.flush();
+            ok = bool(io);
+        }
+    }
+    if (!ok) {
+        // An append that failed half way is cut back, so the file is as it was.
+        if (append) {
+            if (exists)
+                fs::resize_file(file, *length, ec);
+            else
+                fs::remove(file, ec);
+        }
+        Say(why, "Error writing record " + std::to_string(number) + " to " + file.string() + ".");
+    }
+    return ok;
+}
+
+bool ReadSudokuRecord(const fs::path& file, long number, SudokuRecord& record, std::string* why) {
+    SudokuRecordBytes bytes;
+    if (!ReadRecordBytes(file, number, bytes, why)) return false;
+    record = SudokuRecordFromBytes(bytes);
+    return true;
+}
+
+bool WriteSudokuRecord(const fs::path& file, long number, const SudokuRecord& record,
+                       std::string* why) {
+    return WriteRecordBytes(file, number, ToBytes(record), why);
+}
+
+bool ReadSudokuLogRecord(const fs::path& file, long number, SudokuLogRecord& record,
+                         std::string* why) {
+    SudokuLogRecordBytes bytes;
+    if (!ReadRecordBytes(file, number, bytes, why)) return false;
+    record = SudokuLogRecordFromBytes(bytes);
+    return true;
+}
+
+bool WriteSudokuLogRecord(const fs::path& file, long number, const SudokuLogRecord& record,
+                          std::string* why) {
+    if (record.StepCount < 0 || record.StepCount > kLogSteps) {
+        Say(why, "A saved game holds at most " + std::to_string(kLogSteps) +
+                     " steps, this one has " + std::to_string(record.StepCount) + ".");
+        return false;
+    }
+    return WriteRecordBytes(file, number, ToBytes(record), why);
+}
+
+}  // namespace tavi

@@ -1,0 +1,87 @@
+#include "grid/library_setup.h"
+
+#include <array>
+#include <fstream>
+#include <system_error>
+#include <vector>
+
+#include "grid/levels.h"
+
+namespace tavi {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+// Beside the final name, so that the rename at the end stays on one file system.
+fs::path TemporaryBeside(const fs::path& file) {
+    fs::path temp = file;
+    temp += ".new";
+    return temp;
+}
+
+// `count` empty log records in one go. The records are all zero, so a block of
+// them is written as often as needed.
+bool WriteEmptyLog(const fs::path& file, long count) {
+    const fs::path temp = TemporaryBeside(file);
+    std::error_code ec;
+    bool ok;
+    {
+        std::ofstream out(temp, std::ios::binary | std::ios::trunc);
+        ok = out.is_open();
+        constexpr long kBlock = 64;
+        const std::vector<char> zeros(kBlock * kSudokuLogRecordSize, 0);
+        for (long done = 0; ok && done < count; done += kBlock) {
+            const long n = std::min(kBlock, count - done);
+            out.write(zeros.data(), std::streamsize(n * kSudokuLogRecordSize));
+            ok = bool(out);
+        }
+        out.close();
+        ok = ok && !out.fail();
+    }
+    if (ok) fs::rename(temp, file, ec);
+    if (!ok || ec) {
+        fs::remove(temp, ec);
+        return false;
+    }
+    return true;
+}
+
+}  // namespace
+
+void CopyLibraryFiles(const LibraryFolders& folders) {
+    // The order in which the levels have always been visited.
+    constexpr std::array<int, 9> kOrder = {1, 2, 3, 4, 7, 6, 5, 8, 9};
+    for (int level : kOrder) {
+        const std::string name = PuzzleFileName(LevelStem(level));
+        const fs::path target = folders.DataFolder / name;
+        if (FileExists(target)) continue;
+        const fs::path source = folders.AppFolder / name;
+        if (!FileExists(source)) continue;  // the first run will say so
+        const fs::path temp = TemporaryBeside(target);
+        std::error_code ec;
+        if (fs::copy_file(source, temp, fs::copy_options::overwrite_existing, ec) && !ec)
+            fs::rename(temp, target, ec);
+        if (ec) fs::remove(temp, ec);
+    }
+}
+
+bool MaakSudLog(const LibraryFolders& folders, Notifier& notifier) {
+    notifier.Message(kFirstRunTitle, kFirstRunText);
+    for (int level = 1; level <= kLevelCount; ++level) {
+        const std::string_view stem = LevelStem(level);
+        const fs::path source = PuzzleFile(folders.DataFolder, stem);
+        const double count = SudokuCount(source);
+        // A file too short for one whole record has no puzzle either.
+        if (!(count >= 1)) {
+            notifier.Message(kLogfileFailureTitle,
+                             std::string(kCouldNotOpenSource) + source.string());
+            return false;
+        }
+        // One log record for each whole puzzle record.
+        if (!WriteEmptyLog(LogFile(folders.DataFolder, stem), long(count))) return false;
+    }
+    return true;
+}
+
+}  // namespace tavi

@@ -1,0 +1,157 @@
+#include "grid/library_files.h"
+
+#include <gtest/gtest.h>
+
+#include "grid/library_test_support.h"
+
+namespace tavi {
+namespace {
+
+namespace fs = std::filesystem;
+using testing::BusyLog;
+using testing::FileBytes;
+using testing::MakeLevelFiles;
+using testing::RecordOf;
+using testing::TempDir;
+using testing::WriteBytes;
+
+constexpr std::string_view kStem = "Sudoku_Easy.sd";
+
+TEST(LibraryFileCount, IsTheLengthOverTheRecordSizeAsARealNumber) {
+    TempDir dir;
+    const fs::path sds = PuzzleFile(dir.path(), kStem);
+    EXPECT_FALSE(RecordCount(sds, kSudokuRecordSize).has_value());
+    EXPECT_EQ(SudokuCount(sds), 0.0);
+
+    WriteBytes(sds, {});
+    EXPECT_EQ(SudokuCount(sds), 0.0);
+    WriteBytes(sds, std::vector<char>(83));  // shorter than one record
+    EXPECT_DOUBLE_EQ(SudokuCount(sds), 0.5);
+    EXPECT_EQ(WholeRecords(sds, kSudokuRecordSize), 0);
+    WriteBytes(sds, std::vector<char>(166 * 3 + 83));  // odd-sized
+    EXPECT_DOUBLE_EQ(SudokuCount(sds), 3.5);
+    EXPECT_EQ(WholeRecords(sds, kSudokuRecordSize), 3);
+    EXPECT_DOUBLE_EQ(*RecordCount(sds, kSudokuLogRecordSize), 581.0 / 1449.0);
+
+    EXPECT_EQ(SudokuCount(dir.path()), 0.0);  // a folder is no file
+}
+
+TEST(LibraryFileExists, FalseForFoldersAndPathsInMissingFolders) {
+    TempDir dir;
+    EXPECT_FALSE(FileExists(dir / "none.sds"));
+    EXPECT_FALSE(FileExists(dir / "missing" / "Sudoku_Easy.sds"));
+    EXPECT_FALSE(FileExists(dir.path()));
+    WriteBytes(dir / "here.sds", {});
+    EXPECT_TRUE(FileExists(dir / "here.sds"));
+}
+
+TEST(LibraryRecords, RoundTripByteForByteThroughTheFile) {
+    TempDir dir;
+    const fs::path sds = dir / "a.sds", sdl = dir / "a.sdl";
+    for (int i = 0; i < 3; ++i) {
+        ASSERT_TRUE(WriteSudokuRecord(sds, i + 1, RecordOf(i)));
+        ASSERT_TRUE(WriteSudokuLogRecord(sdl, i + 1, BusyLog(i)));
+    }
+    EXPECT_EQ(fs::file_size(sds), 3u * 166);
+    EXPECT_EQ(fs::file_size(sdl), 3u * 1449);
+    const auto sdsBytes = FileBytes(sds);
+    const auto expected = ToBytes(RecordOf(1));
+    EXPECT_TRUE(std::equal(expected.begin(), expected.end(), sdsBytes.begin() + 166));
+
+    SudokuRecord r;
+    SudokuLogRecord l;
+    ASSERT_TRUE(ReadSudokuRecord(sds, 2, r));
+    ASSERT_TRUE(ReadSudokuLogRecord(sdl, 3, l));
+    EXPECT_EQ(r, RecordOf(1));
+    EXPECT_EQ(l, BusyLog(2));
+}
+
+TEST(LibraryRecords, AWriteInTheMiddleLeavesItsNeighboursAlone) {
+    TempDir dir;
+    MakeLevelFiles(dir.path(), kStem, 5);
+    const fs::path sds = PuzzleFile(dir.path(), kStem), sdl = LogFile(dir.path(), kStem);
+    auto sdsBefore = FileBytes(sds), sdlBefore = FileBytes(sdl);
+
+    ASSERT_TRUE(WriteSudokuRecord(sds, 3, RecordOf(7)));
+    ASSERT_TRUE(WriteSudokuLogRecord(sdl, 3, BusyLog(9)));
+
+    const auto sdsAfter = FileBytes(sds), sdlAfter = FileBytes(sdl);
+    ASSERT_EQ(sdsAfter.size(), sdsBefore.size());
+    ASSERT_EQ(sdlAfter.size(), sdlBefore.size());
+    const auto r = ToBytes(RecordOf(7));
+    const auto l = ToBytes(BusyLog(9));
+    std::copy(r.begin(), r.end(), sdsBefore.begin() + 2 * 166);
+    std::copy(l.begin(), l.end(), sdlBefore.begin() + 2 * 1449);
+    EXPECT_EQ(sdsAfter, sdsBefore);
+    EXPECT_EQ(sdlAfter, sdlBefore);
+}
+
+TEST(LibraryRecords, ReadsOutsideTheFileFailWithAReason) {
+    TempDir dir;
+    MakeLevelFiles(dir.path(), kStem, 2);
+    const fs::path sds = PuzzleFile(dir.path(), kStem);
+    SudokuRecord r = RecordOf(5);
+    std::string why;
+    for (long n : {0L, -1L, 3L, 100000L}) {
+        why.clear();
+        EXPECT_FALSE(ReadSudokuRecord(sds, n, r, &why)) << n;
+        EXPECT_NE(why.find("holds 2 whole records"), std::string::npos) << why;
+    }
+    EXPECT_EQ(r, RecordOf(5));  // untouched by the failed reads
+
+    // The half record at the end of an odd-sized file can't be read.
+    auto bytes = FileBytes(sds);
+    bytes.resize(166 * 2 + 100);
+    WriteBytes(sds, bytes);
+    EXPECT_TRUE(ReadSudokuRecord(sds, 2, r));
+    EXPECT_FALSE(ReadSudokuRecord(sds, 3, r));
+
+    EXPECT_FALSE(ReadSudokuRecord(dir / "missing.sds", 1, r, &why));
+    EXPECT_NE(why.find("missing.sds was not found"), std::string::npos) << why;
+}
+
+TEST(LibraryRecords, WritesNeverLeaveAGapOrGrowADamagedFile) {
+    TempDir dir;
+    const fs::path sds = dir / "b.sds";
+    std::string why;
+    EXPECT_FALSE(WriteSudokuRecord(sds, 2, RecordOf(0), &why));  // no record 1 yet
+    EXPECT_FALSE(fs::exists(sds));
+    EXPECT_TRUE(WriteSudokuRecord(sds, 1, RecordOf(0)));
+    EXPECT_FALSE(WriteSudokuRecord(sds, 3, RecordOf(0), &why));
+    EXPECT_FALSE(WriteSudokuRecord(sds, 0, RecordOf(0), &why));
+    EXPECT_EQ(fs::file_size(sds), 166u);
+
+    auto bytes = FileBytes(sds);
+    bytes.resize(200);
+    WriteBytes(sds, bytes);
+    EXPECT_FALSE(WriteSudokuRecord(sds, 2, RecordOf(1), &why));
+    EXPECT_NE(why.find("damaged"), std::string::npos) << why;
+    EXPECT_EQ(FileBytes(sds), bytes);
+    EXPECT_TRUE(WriteSudokuRecord(sds, 1, RecordOf(1)));  // whole records can still change
+}
+
+TEST(LibraryRecords, ALogOfMoreThanAHundredStepsIsRefusedAndTheFileKept) {
+    TempDir dir;
+    const fs::path sdl = dir / "c.sdl";
+    ASSERT_TRUE(WriteSudokuLogRecord(sdl, 1, BusyLog(1)));
+    const auto before = FileBytes(sdl);
+    SudokuLogRecord tooLong = BusyLog(2);
+    tooLong.StepCount = 101;
+    std::string why;
+    EXPECT_FALSE(WriteSudokuLogRecord(sdl, 1, tooLong, &why));
+    EXPECT_NE(why.find("at most 100 steps"), std::string::npos) << why;
+    EXPECT_EQ(FileBytes(sdl), before);
+    tooLong.StepCount = 100;
+    EXPECT_TRUE(WriteSudokuLogRecord(sdl, 1, tooLong));
+}
+
+TEST(LibraryRecords, AWriteThatCantOpenTheFileChangesNothing) {
+    TempDir dir;
+    fs::create_directory(dir / "d.sds");  // a folder where the file should be
+    EXPECT_FALSE(WriteSudokuRecord(dir / "d.sds", 1, RecordOf(0)));
+    EXPECT_FALSE(WriteSudokuRecord(dir / "no" / "such" / "e.sds", 1, RecordOf(0)));
+    EXPECT_FALSE(fs::exists(dir / "no"));
+}
+
+}  // namespace
+}  // namespace tavi

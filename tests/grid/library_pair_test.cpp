@@ -1,0 +1,202 @@
+#include "grid/library_pair.h"
+
+#include <gtest/gtest.h>
+
+#include "grid/candidates.h"
+#include "grid/levels.h"
+#include "grid/library_test_support.h"
+#include "solver/brute_force.h"
+
+namespace tavi {
+namespace {
+
+namespace fs = std::filesystem;
+using testing::BusyLog;
+using testing::FileBytes;
+using testing::MakeLevelFiles;
+using testing::RecordingNotifier;
+using testing::RecordOf;
+using testing::TempDir;
+
+constexpr std::string_view kStem = "Sudoku_Medium.sd";
+
+TEST(ReadPair, AMissingFileGivesTheSourceFileMessage) {
+    TempDir dir;
+    SudokuRecord r = RecordOf(3);
+    SudokuLogRecord l;
+    RecordingNotifier notifier;
+    EXPECT_FALSE(ReadPair(dir.path(), kStem, 1, r, l, &notifier));
+    ASSERT_EQ(notifier.messages.size(), 1u);
+    EXPECT_EQ(notifier.messages[0].first, "File Error");
+    EXPECT_EQ(notifier.messages[0].second, "Source file: Sudoku_Medium.sd* not found!");
+    EXPECT_EQ(r, RecordOf(3));
+
+    MakeLevelFiles(dir.path(), kStem, 2, /*withLog=*/false);  // the log is missing
+    EXPECT_FALSE(ReadPair(dir.path(), kStem, 1, r, l, &notifier));
+    EXPECT_EQ(notifier.messages.back().second, "Source file: Sudoku_Medium.sd* not found!");
+}
+
+TEST(ReadPair, ARecordBeyondTheEndIsReportedAndNothingRead) {
+    TempDir dir;
+    MakeLevelFiles(dir.path(), kStem, 2);
+    SudokuRecord r;
+    SudokuLogRecord l = BusyLog(1);
+    RecordingNotifier notifier;
+    EXPECT_FALSE(ReadPair(dir.path(), kStem, 3, r, l, &notifier));
+    ASSERT_EQ(notifier.messages.size(), 1u);
+    EXPECT_EQ(notifier.messages[0].first, "File Error");
+    EXPECT_NE(notifier.messages[0].second.find("Record 3"), std::string::npos);
+    EXPECT_EQ(l, BusyLog(1));
+
+    ASSERT_TRUE(ReadPair(dir.path(), kStem, 2, r, l, &notifier));
+    EXPECT_EQ(r, RecordOf(1));
+    EXPECT_EQ(l, SudokuLogRecord{});
+}
+
+TEST(WritePair, WhenTheLogCantFollowThePuzzleRecordIsPutBack) {
+    TempDir dir;
+    MakeLevelFiles(dir.path(), kStem, 3);
+    const fs::path sds = PuzzleFile(dir.path(), kStem);
+    const auto before = FileBytes(sds);
+    SudokuLogRecord tooLong = BusyLog(0);
+    tooLong.StepCount = 150;
+    std::string why;
+    EXPECT_FALSE(WritePair(dir.path(), kStem, 2, RecordOf(6), tooLong, &why));
+    EXPECT_EQ(FileBytes(sds), before);
+    EXPECT_FALSE(WritePair(dir.path(), kStem, 4, RecordOf(6), tooLong, &why));  // an append
+    EXPECT_EQ(FileBytes(sds), before);
+}
+
+TEST(AppendToPair, AddsAtCountPlusOneInBothFiles) {
+    TempDir dir;
+    MakeLevelFiles(dir.path(), kStem, 4);
+    long number = 0;
+    ASSERT_TRUE(AppendToPair(dir.path(), kStem, RecordOf(5), BusyLog(5), &number));
+    EXPECT_EQ(number, 5);
+    SudokuRecord r;
+    SudokuLogRecord l;
+    ASSERT_TRUE(ReadPair(dir.path(), kStem, 5, r, l, nullptr));
+    EXPECT_EQ(r, RecordOf(5));
+    EXPECT_EQ(l, BusyLog(5));
+
+    TempDir empty;  // a new pair starts at 1
+    ASSERT_TRUE(AppendToPair(empty.path(), kStem, RecordOf(1), {}, &number));
+    EXPECT_EQ(number, 1);
+}
+
+TEST(AppendToPair, RefusesAPairOutOfStep) {
+    TempDir dir;
+    MakeLevelFiles(dir.path(), kStem, 4, /*withLog=*/false);
+    const auto before = FileBytes(PuzzleFile(dir.path(), kStem));
+    std::string why;
+    EXPECT_FALSE(AppendToPair(dir.path(), kStem, RecordOf(5), {}, nullptr, &why));
+    EXPECT_NE(why.find("out of step"), std::string::npos) << why;
+    EXPECT_EQ(FileBytes(PuzzleFile(dir.path(), kStem)), before);
+    EXPECT_FALSE(fs::exists(LogFile(dir.path(), kStem)));
+}
+
+struct OutlawLibrary {
+    TempDir dir;
+    const std::string_view stem = LevelStem(kOutlaw);
+    explicit OutlawLibrary(int count) {
+        MakeLevelFiles(dir.path(), stem, count);
+        for (int i = 1; i <= count; ++i)
+            EXPECT_TRUE(WriteSudokuLogRecord(LogFile(dir.path(), stem), i, BusyLog(i)));
+    }
+    SudokuRecord Sudoku(long n) {
+        SudokuRecord r;
+        EXPECT_TRUE(ReadSudokuRecord(PuzzleFile(dir.path(), stem), n, r));
+        return r;
+    }
+    SudokuLogRecord Log(long n) {
+        SudokuLogRecord l;
+        EXPECT_TRUE(ReadSudokuLogRecord(LogFile(dir.path(), stem), n, l));
+        return l;
+    }
+};
+
+TEST(ExportSudoku, MovesTheRecordOutAndClosesTheGap) {
+    OutlawLibrary lib(4);
+    RecordingNotifier notifier;
+    ASSERT_TRUE(ExportSudoku(lib.dir.path(), 2, RecordOf(1), BusyLog(2), &notifier));
+    EXPECT_TRUE(notifier.messages.empty());
+
+    EXPECT_EQ(WholeRecords(PuzzleFile(lib.dir.path(), lib.stem), 166), 3);
+    EXPECT_EQ(WholeRecords(LogFile(lib.dir.path(), lib.stem), 1449), 3);
+    EXPECT_EQ(lib.Sudoku(1), RecordOf(0));
+    EXPECT_EQ(lib.Sudoku(2), RecordOf(2));
+    EXPECT_EQ(lib.Sudoku(3), RecordOf(3));
+    EXPECT_EQ(lib.Log(2), BusyLog(3));
+    EXPECT_EQ(lib.Log(3), BusyLog(4));
+
+    SudokuRecord r;
+    SudokuLogRecord l;
+    ASSERT_TRUE(ReadPair(lib.dir.path(), "Exported_Sudokus.sd", 1, r, l, nullptr));
+    EXPECT_EQ(r, RecordOf(1));
+    EXPECT_EQ(l, BusyLog(2));
+    EXPECT_FALSE(fs::exists(lib.dir / "2Sudoku_Outlaw.sds"));
+    EXPECT_FALSE(fs::exists(lib.dir / "2Sudoku_Outlaw.sdl"));
+
+    // The next export goes after the first.
+    ASSERT_TRUE(ExportSudoku(lib.dir.path(), 3, RecordOf(3), BusyLog(4), &notifier));
+    EXPECT_EQ(WholeRecords(lib.dir / "Exported_Sudokus.sds", 166), 2);
+    EXPECT_EQ(lib.Sudoku(2), RecordOf(2));
+}
+
+TEST(ExportSudoku, TheLastRecordTakesTheFilesWithIt) {
+    OutlawLibrary lib(1);
+    ASSERT_TRUE(ExportSudoku(lib.dir.path(), 1, RecordOf(0), BusyLog(1), nullptr));
+    EXPECT_FALSE(fs::exists(PuzzleFile(lib.dir.path(), lib.stem)));
+    EXPECT_FALSE(fs::exists(LogFile(lib.dir.path(), lib.stem)));
+    EXPECT_TRUE(FileExists(lib.dir / "Exported_Sudokus.sds"));
+}
+
+TEST(ExportSudoku, ARecordNumberOutsideThePairChangesNothing) {
+    OutlawLibrary lib(3);
+    const auto sds = FileBytes(PuzzleFile(lib.dir.path(), lib.stem));
+    RecordingNotifier notifier;
+    EXPECT_FALSE(ExportSudoku(lib.dir.path(), 4, RecordOf(0), {}, &notifier));
+    EXPECT_FALSE(ExportSudoku(lib.dir.path(), 0, RecordOf(0), {}, &notifier));
+    EXPECT_EQ(notifier.messages.size(), 2u);
+    EXPECT_EQ(FileBytes(PuzzleFile(lib.dir.path(), lib.stem)), sds);
+    EXPECT_FALSE(fs::exists(lib.dir / "Exported_Sudokus.sds"));
+}
+
+TEST(WriteBruteForceSolution, TheFoundSolutionGoesToTheFileAtItsNumber) {
+    TempDir dir;
+    const std::string_view stem = LevelStem(2);
+    MakeLevelFiles(dir.path(), stem, 3);
+    // Record 2 without a solution, as an imported puzzle may come.
+    SudokuRecord r = RecordOf(1);
+    r.Solution = {};
+    ASSERT_TRUE(WriteSudokuRecord(PuzzleFile(dir.path(), stem), 2, r));
+    const auto first = FileBytes(PuzzleFile(dir.path(), stem));
+
+    SolveContext ctx(Side::Workbench);
+    ctx.board.Puzzle = r.Puzzle;
+    ASSERT_TRUE(BruteForceSolve(ctx));
+    const SudokuLogRecord log = BusyLog(3);
+    ASSERT_TRUE(WriteBruteForceSolution(dir.path(), 2, 2, ctx.board, r, log, nullptr));
+
+    EXPECT_EQ(ctx.board.Solution, RecordOf(1).Solution);
+    EXPECT_EQ(ctx.board.CurrentGrid, Digits{});
+    EXPECT_EQ(r.Solution, RecordOf(1).Solution);
+    SudokuRecord onDisk;
+    SudokuLogRecord logOnDisk;
+    ASSERT_TRUE(ReadPair(dir.path(), stem, 2, onDisk, logOnDisk, nullptr));
+    EXPECT_EQ(onDisk, r);
+    EXPECT_EQ(logOnDisk, log);
+    // Records 1 and 3 are as they were.
+    const auto after = FileBytes(PuzzleFile(dir.path(), stem));
+    EXPECT_TRUE(std::equal(after.begin(), after.begin() + 166, first.begin()));
+    EXPECT_TRUE(std::equal(after.begin() + 332, after.end(), first.begin() + 332));
+
+    RecordingNotifier notifier;
+    EXPECT_FALSE(WriteBruteForceSolution(dir.path(), 2, 9, ctx.board, r, log, &notifier));
+    ASSERT_EQ(notifier.messages.size(), 1u);
+    EXPECT_EQ(notifier.messages[0], std::make_pair(std::string("File Error"),
+                                                   std::string("Error writing sudoku to file !")));
+}
+
+}  // namespace
+}  // namespace tavi

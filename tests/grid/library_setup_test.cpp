@@ -1,0 +1,123 @@
+#include "grid/library_setup.h"
+
+#include <gtest/gtest.h>
+
+#include "grid/levels.h"
+#include "grid/library_test_support.h"
+
+namespace tavi {
+namespace {
+
+namespace fs = std::filesystem;
+using testing::FileBytes;
+using testing::MakeLevelFiles;
+using testing::RecordingNotifier;
+using testing::TempDir;
+using testing::WriteBytes;
+
+struct Library {
+    TempDir app, data;
+    LibraryFolders folders{app.path(), data.path()};
+};
+
+TEST(CopyLibraryFiles, CopiesWhatIsMissingAndNeverOverwrites) {
+    Library lib;
+    for (int level = 1; level <= 9; ++level)
+        MakeLevelFiles(lib.app.path(), LevelStem(level), level, /*withLog=*/false);
+    // The user's own Hard library stays as it is.
+    MakeLevelFiles(lib.data.path(), LevelStem(3), 1, false, 50);
+    const auto hard = FileBytes(PuzzleFile(lib.data.path(), LevelStem(3)));
+
+    CopyLibraryFiles(lib.folders);
+
+    for (int level = 1; level <= 9; ++level) {
+        const fs::path copy = PuzzleFile(lib.data.path(), LevelStem(level));
+        if (level == 3)
+            EXPECT_EQ(FileBytes(copy), hard);
+        else
+            EXPECT_EQ(FileBytes(copy), FileBytes(PuzzleFile(lib.app.path(), LevelStem(level))));
+        EXPECT_FALSE(fs::exists(LogFile(lib.data.path(), LevelStem(level))));
+    }
+    EXPECT_EQ(std::distance(fs::directory_iterator(lib.data.path()), fs::directory_iterator()), 9);
+}
+
+TEST(CopyLibraryFiles, AMissingSourceIsPassedOver) {
+    Library lib;
+    MakeLevelFiles(lib.app.path(), LevelStem(1), 2, false);
+    CopyLibraryFiles(lib.folders);
+    EXPECT_TRUE(FileExists(PuzzleFile(lib.data.path(), LevelStem(1))));
+    EXPECT_FALSE(fs::exists(PuzzleFile(lib.data.path(), LevelStem(2))));
+    LibraryFolders nowhere{lib.app / "gone", lib.data / "gone"};
+    CopyLibraryFiles(nowhere);  // no folders at all: nothing happens, nothing throws
+}
+
+TEST(MaakSudLog, MakesOneEmptyLogRecordPerPuzzle) {
+    Library lib;
+    for (int level = 1; level <= 9; ++level)
+        MakeLevelFiles(lib.data.path(), LevelStem(level), level + 1, false);
+    // An old log with progress in it is replaced.
+    WriteBytes(LogFile(lib.data.path(), LevelStem(2)), std::vector<char>(1449 * 7, 5));
+    RecordingNotifier notifier;
+
+    ASSERT_TRUE(MaakSudLog(lib.folders, notifier));
+
+    ASSERT_EQ(notifier.messages.size(), 1u);
+    EXPECT_EQ(notifier.messages[0].first, "Tavi Sudoku - 1st run initiation");
+    EXPECT_EQ(notifier.messages[0].second,
+              "A number of logfiles has to be created, normally this must be done only once on "
+              "first run of Tavi Sudoku. Depend on the speed of your PC, this can take a few "
+              "minutes.");
+    for (int level = 1; level <= 9; ++level) {
+        const auto bytes = FileBytes(LogFile(lib.data.path(), LevelStem(level)));
+        EXPECT_EQ(bytes.size(), 1449u * (level + 1));
+        EXPECT_EQ(std::count(bytes.begin(), bytes.end(), 0), long(bytes.size()));
+    }
+}
+
+TEST(MaakSudLog, AnOddSizedLibraryGetsALogForEachWholeRecord) {
+    Library lib;
+    for (int level = 1; level <= 9; ++level)
+        MakeLevelFiles(lib.data.path(), LevelStem(level), 2, false);
+    auto bytes = FileBytes(PuzzleFile(lib.data.path(), LevelStem(4)));
+    bytes.resize(bytes.size() + 40);
+    WriteBytes(PuzzleFile(lib.data.path(), LevelStem(4)), bytes);
+    RecordingNotifier notifier;
+    ASSERT_TRUE(MaakSudLog(lib.folders, notifier));
+    EXPECT_EQ(fs::file_size(LogFile(lib.data.path(), LevelStem(4))), 2u * 1449);
+}
+
+TEST(MaakSudLog, StopsAtAMissingOrEmptyLibraryAndSaysWhich) {
+    for (const bool missing : {true, false}) {
+        Library lib;
+        for (int level = 1; level <= 9; ++level)
+            if (level != 5) MakeLevelFiles(lib.data.path(), LevelStem(level), 3, false);
+        const fs::path insane = PuzzleFile(lib.data.path(), LevelStem(5));
+        if (!missing) WriteBytes(insane, {});
+        RecordingNotifier notifier;
+
+        EXPECT_FALSE(MaakSudLog(lib.folders, notifier));
+
+        ASSERT_EQ(notifier.messages.size(), 2u);
+        EXPECT_EQ(notifier.messages[1].first, "Logfile creation failure");
+        EXPECT_EQ(notifier.messages[1].second, "Could not open source file " + insane.string());
+        // The levels before it were done, the ones after it not.
+        EXPECT_TRUE(FileExists(LogFile(lib.data.path(), LevelStem(4))));
+        EXPECT_FALSE(fs::exists(LogFile(lib.data.path(), LevelStem(5))));
+        EXPECT_FALSE(fs::exists(LogFile(lib.data.path(), LevelStem(6))));
+    }
+}
+
+TEST(MaakSudLog, ALogThatCantBeWrittenEndsWithFalseAndKeepsTheOldOne) {
+    Library lib;
+    for (int level = 1; level <= 9; ++level)
+        MakeLevelFiles(lib.data.path(), LevelStem(level), 3, false);
+    fs::create_directory(LogFile(lib.data.path(), LevelStem(6)));  // in the way
+    RecordingNotifier notifier;
+    EXPECT_FALSE(MaakSudLog(lib.folders, notifier));
+    EXPECT_EQ(notifier.messages.size(), 1u);  // only the opening notice
+    EXPECT_TRUE(fs::is_directory(LogFile(lib.data.path(), LevelStem(6))));
+    EXPECT_FALSE(fs::exists(LogFile(lib.data.path(), LevelStem(7))));
+}
+
+}  // namespace
+}  // namespace tavi

@@ -1,0 +1,131 @@
+#include "grid/records.h"
+
+#include <gtest/gtest.h>
+
+#include "grid/library_test_support.h"
+
+namespace tavi {
+namespace {
+
+using testing::BusyLog;
+using testing::RecordOf;
+
+int Int16At(const auto& bytes, std::size_t offset) {
+    return std::int16_t(bytes[offset] | (bytes[offset + 1] << 8));
+}
+
+TEST(SudokuRecordFormat, FieldsStandAtTheirOffsetsLittleEndian) {
+    SudokuRecord r = RecordOf(1);
+    r.BestMinutes = 0x1234;
+    r.BestSeconds = -2;
+    const auto bytes = ToBytes(r);
+    ASSERT_EQ(bytes.size(), 166u);
+    for (int c = 0; c < 81; ++c) {
+        EXPECT_EQ(bytes[c], r.Puzzle[c]);
+        EXPECT_EQ(bytes[81 + c], r.Solution[c]);
+    }
+    EXPECT_EQ(bytes[162], 0x34);
+    EXPECT_EQ(bytes[163], 0x12);
+    EXPECT_EQ(bytes[164], 0xFE);
+    EXPECT_EQ(bytes[165], 0xFF);
+    EXPECT_EQ(SudokuRecordFromBytes(bytes), r);
+}
+
+TEST(SudokuLogRecordFormat, FieldsStandAtTheirOffsetsLittleEndian) {
+    const SudokuLogRecord l = BusyLog(5);
+    const auto bytes = ToBytes(l);
+    ASSERT_EQ(bytes.size(), 1449u);
+    for (int c = 0; c < 81; ++c)
+        EXPECT_EQ(bytes[c], l.Grid[c]);
+    // The 16-bit fields follow the grid at once, at an odd offset.
+    EXPECT_EQ(Int16At(bytes, 81), l.ElapsedMinutes);
+    EXPECT_EQ(Int16At(bytes, 83), l.ElapsedSeconds);
+    for (int c = 0; c < 81; ++c)
+        EXPECT_EQ(Int16At(bytes, 85 + 2 * c), l.SavedCandidates[c]);
+    EXPECT_EQ(Int16At(bytes, 247), l.StepCount);
+    for (int i = 0; i < 100; ++i) {
+        EXPECT_EQ(Int16At(bytes, 249 + 2 * i), l.LogDigit[i]);
+        EXPECT_EQ(Int16At(bytes, 449 + 2 * i), l.LogCell[i]);
+        EXPECT_EQ(Int16At(bytes, 649 + 2 * i), l.LogOwnMarks[i]);
+        EXPECT_EQ(Int16At(bytes, 849 + 2 * i), l.LogColumnMarks[i]);
+        EXPECT_EQ(Int16At(bytes, 1049 + 2 * i), l.LogRowMarks[i]);
+        EXPECT_EQ(Int16At(bytes, 1249 + 2 * i), l.LogBoxMarks[i]);
+    }
+    EXPECT_EQ(Int16At(bytes, 1447), l.LogBoxMarks[99]);
+}
+
+TEST(RecordFormat, BytesRoundTripUnchanged) {
+    // Every byte value in every position comes back as it was.
+    SudokuRecordBytes a;
+    SudokuLogRecordBytes b;
+    for (std::size_t i = 0; i < a.size(); ++i)
+        a[i] = std::uint8_t(i * 37 + 11);
+    for (std::size_t i = 0; i < b.size(); ++i)
+        b[i] = std::uint8_t(i * 53 + 7);
+    EXPECT_EQ(ToBytes(SudokuRecordFromBytes(a)), a);
+    EXPECT_EQ(ToBytes(SudokuLogRecordFromBytes(b)), b);
+}
+
+TEST(SavedClockSign, TheSignCarriesTheTwoClockOptions) {
+    SudokuLogRecord l;
+    SetClock(l, 200, /*timeOn=*/true, /*timeShow=*/false);  // 3:20, hidden
+    EXPECT_EQ(l.ElapsedMinutes, -3);
+    EXPECT_EQ(l.ElapsedSeconds, -20);
+    SavedClock c = ReadClock(l);
+    EXPECT_EQ(c.seconds, 200);
+    EXPECT_TRUE(c.TimeOn);
+    EXPECT_FALSE(c.TimeShow);
+
+    SetClock(l, 200, true, true);
+    EXPECT_EQ(l.ElapsedMinutes, 3);
+    EXPECT_EQ(l.ElapsedSeconds, 20);
+    c = ReadClock(l);
+    EXPECT_EQ(c.seconds, 200);
+    EXPECT_TRUE(c.TimeOn);
+    EXPECT_TRUE(c.TimeShow);
+
+    SetClock(l, 200, false, true);
+    EXPECT_EQ(l.ElapsedMinutes, 0);
+    EXPECT_EQ(l.ElapsedSeconds, 0);
+    c = ReadClock(l);
+    EXPECT_FALSE(c.TimeOn);
+    EXPECT_FALSE(c.TimeShow);
+
+    // A game saved in the first second of a running clock comes back without one.
+    SetClock(l, 0, true, true);
+    c = ReadClock(l);
+    EXPECT_EQ(c.seconds, 0);
+    EXPECT_FALSE(c.TimeOn);
+
+    // Minutes and seconds of mixed signs are read as one total.
+    l.ElapsedMinutes = 1;
+    l.ElapsedSeconds = -70;
+    c = ReadClock(l);
+    EXPECT_EQ(c.seconds, 10);
+    EXPECT_TRUE(c.TimeOn);
+    EXPECT_FALSE(c.TimeShow);
+}
+
+TEST(SavedClockSign, AnEnormousClockIsClampedNotWrapped) {
+    SudokuLogRecord l;
+    SetClock(l, 60 * 40000, true, true);
+    EXPECT_EQ(l.ElapsedMinutes, 32767);
+    EXPECT_GT(ReadClock(l).seconds, 0);
+}
+
+TEST(UserDigits, OnlyDigitsOutsideTheCluesCount) {
+    const SudokuRecord s = RecordOf(0);
+    SudokuLogRecord l;
+    EXPECT_FALSE(HasUserDigits(s, l));  // as made at the first run
+    l.Grid = s.Puzzle;
+    EXPECT_FALSE(HasUserDigits(s, l));  // as left by erasing the progress
+    for (int c = 0; c < 81; ++c)
+        if (!s.Puzzle[c]) {
+            l.Grid[c] = s.Solution[c];
+            break;
+        }
+    EXPECT_TRUE(HasUserDigits(s, l));
+}
+
+}  // namespace
+}  // namespace tavi
