@@ -17,103 +17,85 @@ void BruteForceSearch::RemoveCandidates(Board& board, int cell, int digit, int p
     LogCell[entry] = std::int8_t(cell);
     LogCandidate[entry] = std::int8_t(digit);
     LogColumnPeers[entry] = LogRowPeers[entry] = LogBoxPeers[entry] = 0;
-    const int row = cell / 9, col = cell % 9, leftTop = Global::BoxLeftTopOfCell[cell];
+    const int row = cell / 9, col = cell % 9;
     const CandidateMask bit = DigitBit(digit);
-    for (int j = 0; j <= pointer; ++j) {
-        const int c = FreeCells[j];
+    DeadEnd = false;
+    // The cell is no longer open: its other candidates lose a place in its units.
+    for (CandidateMask m = CandidateMask(board.Candidates[cell] & ~bit); m; m &= m - 1)
+        LosePlace(cell, LowestDigit(m));
+    // Only the peers can lose the digit, and of them only the open cells 0..pointer.
+    for (int c : Peers[cell]) {
         if (!(board.Candidates[c] & bit)) continue;
+        const int at = Position[c];
+        if (at > pointer || FreeCells[at] != c) continue;
         if (c / 9 == row)
             LogRowPeers[entry] |= std::uint16_t(1u << (c % 9));
         else if (c % 9 == col)
             LogColumnPeers[entry] |= std::uint16_t(1u << (c / 9));
-        else if (Global::BoxLeftTopOfCell[c] == leftTop)
-            LogBoxPeers[entry] |= std::uint16_t(1u << Global::PositionInBoxOfCell[c]);
         else
-            continue;
+            LogBoxPeers[entry] |= std::uint16_t(1u << Global::PositionInBoxOfCell[c]);
         board.Candidates[c] &= CandidateMask(~bit);
         RebuildCell(board, c);
+        LosePlace(c, digit);
+        if (CellCandidateTotal[c] == 0) DeadEnd = true;
     }
 }
 
-void BruteForceSearch::Undo(Board& board, int pointer) {
-    const int entry = LogPointer;
+void BruteForceSearch::LosePlace(int cell, int digit) {
+    for (int unit : {cell / 9, 9 + cell % 9, 18 + int(Global::BoxOfCell[cell])})
+        if (--Places[unit][digit] == 0) DeadEnd = true;
+}
+
+void BruteForceSearch::RegainPlace(int cell, int digit) {
+    for (int unit : {cell / 9, 9 + cell % 9, 18 + int(Global::BoxOfCell[cell])})
+        ++Places[unit][digit];
+}
+
+int BruteForceSearch::ListOpenCells(const Board& board) {
+    int n = 0;
+    for (int c = 0; c < 81; ++c) {
+        if (board.CurrentGrid[c]) continue;
+        Position[c] = std::int8_t(n);
+        FreeCells[n++] = std::int8_t(c);
+        TriedCount[c] = 0;
+        RebuildCell(board, c);
+    }
+    for (auto& unit : Places) unit.fill(0);
+    for (int c = 0; c < 81; ++c) {
+        const CandidateMask m = board.CurrentGrid[c] ? DigitBit(board.CurrentGrid[c]) : board.Candidates[c];
+        for (CandidateMask k = m; k; k &= k - 1) RegainPlace(c, LowestDigit(k));
+    }
+    return n;
+}
+
+void BruteForceSearch::Undo(Board& board, int /*pointer*/) {
+    const int entry = LogPointer--;
     const int cell = LogCell[entry];
     const CandidateMask bit = DigitBit(LogCandidate[entry]);
     board.CurrentGrid[cell] = 0;
     const int row = cell / 9, col = cell % 9, leftTop = Global::BoxLeftTopOfCell[cell];
-    for (int i = 0; i < 9; ++i) {
-        if (LogRowPeers[entry] >> i & 1) board.Candidates[9 * row + i] |= bit;
-        if (LogColumnPeers[entry] >> i & 1) board.Candidates[9 * i + col] |= bit;
-        if (LogBoxPeers[entry] >> i & 1) board.Candidates[leftTop + 9 * (i / 3) + i % 3] |= bit;
+    // Only the cells that get the digit back have a different list; they are open
+    // cells of the pointer's range, since they were when they lost it.
+    auto restore = [&](int c) {
+        board.Candidates[c] |= bit;
+        RebuildCell(board, c);
+        RegainPlace(c, LogCandidate[entry]);
+    };
+    for (CandidateMask m = CandidateMask(board.Candidates[cell] & ~bit); m; m &= m - 1)
+        RegainPlace(cell, LowestDigit(m));
+    for (unsigned m = LogRowPeers[entry]; m; m &= m - 1) restore(9 * row + std::countr_zero(m));
+    for (unsigned m = LogColumnPeers[entry]; m; m &= m - 1) restore(9 * std::countr_zero(m) + col);
+    for (unsigned m = LogBoxPeers[entry]; m; m &= m - 1) {
+        const int i = std::countr_zero(m);
+        restore(leftTop + 9 * (i / 3) + i % 3);
     }
-    --LogPointer;
-    // Only the cells that got the digit back have a different list now.
-    for (int j = 0; j <= pointer; ++j) {
-        const int c = FreeCells[j];
-        if (board.Has(LogCandidate[entry], c) &&
-            CellCandidateTotal[c] != CountDigits(board.Candidates[c]))
-            RebuildCell(board, c);
-    }
-}
-
-namespace {
-
-// True if `digit` can stand nowhere in `unit`: neither placed there nor a
-// candidate of an open cell. (A filled cell keeps its old candidates during the
-// search, so only open cells count.)
-bool NoPlaceInUnit(const Board& board, int unit, int digit) {
-    for (int x : UnitCells[unit]) {
-        const int placed = board.CurrentGrid[x];
-        if (placed == digit || (placed == 0 && board.Has(digit, x))) return false;
-    }
-    return true;
-}
-
-}  // namespace
-
-bool BruteForceSearch::DigitLostItsPlace(const Board& board, int cell, int digit) const {
-    const int entry = LogPointer;
-    const int row = cell / 9, col = cell % 9, leftTop = Global::BoxLeftTopOfCell[cell];
-    // The cell's own other candidates may have had their last place in it.
-    const int box = 18 + Global::BoxOfCell[cell];
-    for (CandidateMask m = board.Candidates[cell] & ~DigitBit(digit); m; m &= m - 1) {
-        const int other = LowestDigit(m);
-        if (NoPlaceInUnit(board, row, other) || NoPlaceInUnit(board, 9 + col, other) ||
-            NoPlaceInUnit(board, box, other))
-            return true;
-    }
-    // A peer that lost the digit leaves its two other units to be looked at.
-    for (int i = 0; i < 9; ++i) {
-        if (LogRowPeers[entry] >> i & 1) {
-            const int x = 9 * row + i;
-            if (NoPlaceInUnit(board, 9 + i, digit) ||
-                NoPlaceInUnit(board, 18 + Global::BoxOfCell[x], digit))
-                return true;
-        }
-        if (LogColumnPeers[entry] >> i & 1) {
-            const int x = 9 * i + col;
-            if (NoPlaceInUnit(board, i, digit) ||
-                NoPlaceInUnit(board, 18 + Global::BoxOfCell[x], digit))
-                return true;
-        }
-        if (LogBoxPeers[entry] >> i & 1) {
-            const int x = leftTop + 9 * (i / 3) + i % 3;
-            if (NoPlaceInUnit(board, x / 9, digit) || NoPlaceInUnit(board, 9 + x % 9, digit))
-                return true;
-        }
-    }
-    return false;
 }
 
 int BruteForceSearch::Search(Board& board, Digits& solution, bool& contradiction) {
     // Step 1. List the open cells in rising order with their candidates.
-    int n = 0;
-    for (int c = 0; c < 81; ++c) {
-        if (board.CurrentGrid[c]) continue;
-        FreeCells[n++] = std::int8_t(c);
-        TriedCount[c] = 0;
-        RebuildCell(board, c);
-        if (CellCandidateTotal[c] == 0) {
+    const int n = ListOpenCells(board);
+    for (int j = 0; j < n; ++j) {
+        if (CellCandidateTotal[FreeCells[j]] == 0) {
             contradiction = true;
             return 0;
         }
@@ -143,8 +125,11 @@ int BruteForceSearch::Search(Board& board, Digits& solution, bool& contradiction
         } else {
             // Entered afresh: take the open cell with the fewest candidates.
             for (int j = 0; j < p; ++j) {
-                if (CellCandidateTotal[FreeCells[j]] < CellCandidateTotal[FreeCells[p]])
+                if (CellCandidateTotal[FreeCells[j]] < CellCandidateTotal[FreeCells[p]]) {
                     std::swap(FreeCells[j], FreeCells[p]);
+                    Position[FreeCells[j]] = std::int8_t(j);
+                    Position[FreeCells[p]] = std::int8_t(p);
+                }
             }
             c = FreeCells[p];
         }
@@ -152,12 +137,10 @@ int BruteForceSearch::Search(Board& board, Digits& solution, bool& contradiction
         board.CurrentGrid[c] = std::uint8_t(digit);
         RemoveCandidates(board, c, digit, p - 1);
         --p;
-        // A dead end: some open cell has nothing left, or the digit has no place
-        // left in a unit of a cell that just lost it; this cell tries its next.
-        bool dead = false;
-        for (int j = 0; j <= p && !dead; ++j) dead = CellCandidateTotal[FreeCells[j]] == 0;
-        if (!dead && p >= 0) dead = DigitLostItsPlace(board, c, digit);
-        if (dead) ++p;
+        // A dead end: an open cell has nothing left, or a digit has no place left
+        // in some unit; this cell then tries its next candidate. Only this step's
+        // removals can have made either happen, and RemoveCandidates saw them.
+        if (p != -1 && DeadEnd) ++p;
     }
     return solutions;
 }

@@ -20,6 +20,12 @@ public:
     std::array<std::uint8_t, 81> CellCandidateTotal{};              // per cell
     std::array<std::array<std::uint8_t, 9>, 81> CellCandidates{};   // per cell, rising
     std::array<std::uint8_t, 81> TriedCount{};                      // per cell
+    std::array<std::int8_t, 81> Position{};  // where an open cell stands in FreeCells
+
+    // Lists the open cells of `board` in rising order in FreeCells (with their
+    // positions and candidate lists) and answers how many there are. A search
+    // built by hand starts here too.
+    int ListOpenCells(const Board& board);
 
     // The search log, 1-based; entry 0 unused. The depth never exceeds 81.
     int LogPointer = 0;
@@ -29,14 +35,19 @@ public:
     std::array<std::uint16_t, 82> LogRowPeers{};     // bit c: the cell of column c in the row
     std::array<std::uint16_t, 82> LogBoxPeers{};     // bit 3a+b: row a, column b of the box
 
+    // For each unit and digit, the places the digit still has there: standing in
+    // the unit, or a candidate of an open cell. A count that falls to 0 means the
+    // branch holds no solution.
+    std::array<std::array<std::uint8_t, 10>, 27> Places{};
+    // Set by RemoveCandidates when its removals left an open cell without
+    // candidates or a digit without a place in some unit.
+    bool DeadEnd = false;
+
     // After the search filled `cell` with `digit`: the open cells 0..pointer of
     // its row, column and box lose the digit, and the log says which.
     void RemoveCandidates(Board& board, int cell, int digit, int pointer);
     // Takes back the last entry of the log.
     void Undo(Board& board, int pointer);
-    // After `cell` took `digit`: true if some unit of a peer that lost the digit
-    // has no place left for it, so that this branch can hold no solution.
-    bool DigitLostItsPlace(const Board& board, int cell, int digit) const;
     // Lists the candidates of `cell` from its mask.
     void RebuildCell(const Board& board, int cell);
 
@@ -45,6 +56,10 @@ public:
     // `solution`. `contradiction` is set when an open cell has no candidate at all
     // before the search begins.
     int Search(Board& board, Digits& solution, bool& contradiction);
+
+private:
+    void LosePlace(int cell, int digit);
+    void RegainPlace(int cell, int digit);
 };
 
 // The number of solutions of Puzzle: 0, 1, or 2 for "two or more". The logic

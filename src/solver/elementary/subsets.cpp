@@ -1,6 +1,8 @@
 // Naked and hidden subsets. One routine finds them all: the ladder calls it for
 // naked pairs, naked triples, hidden pairs, naked quads, hidden triples and naked
 // quints, in that order.
+#include <bit>
+
 #include "solver/primitives.h"
 #include "solver/techniques.h"
 
@@ -53,26 +55,54 @@ void FillSubsetHint(SolveContext& ctx, int unit, bool naked, int size, const int
     h.HintKind = 5;
 }
 
+// Where each digit stands in a unit: bit i of positions[d] for the unit's cell i.
+struct UnitPositions {
+    std::array<std::uint16_t, 10> positions{};
+    CandidateMask noted = 0;      // digits that are candidates somewhere in the unit
+    std::uint16_t empties = 0;    // cells without a digit in CurrentGrid
+    CandidateMask placed = 0;     // digits standing in the unit
+
+    UnitPositions(const Board& b, int unit) {
+        for (int i = 0; i < 9; ++i) {
+            const int c = UnitCells[unit][i];
+            const CandidateMask m = b.Candidates[c];
+            noted |= m;
+            for (CandidateMask k = m; k; k &= k - 1) positions[LowestDigit(k)] |= std::uint16_t(1u << i);
+            if (b.CurrentGrid[c])
+                placed |= DigitBit(b.CurrentGrid[c]);
+            else
+                empties |= std::uint16_t(1u << i);
+        }
+    }
+    // The cells holding at least one digit of the set.
+    std::uint16_t Holding(CandidateMask set) const {
+        std::uint16_t cells = 0;
+        for (CandidateMask k = set; k; k &= k - 1) cells |= positions[LowestDigit(k)];
+        return cells;
+    }
+};
+
+// The cells of a 9-bit unit mask in unit order; answers how many.
+int CellsOf(int unit, std::uint16_t mask, int (&cells)[5]) {
+    int n = 0;
+    for (; mask && n < 5; mask &= mask - 1) cells[n++] = UnitCells[unit][std::countr_zero(unsigned(mask))];
+    return n;
+}
+
 // Hidden set: `size` digits of the unit that together stand in exactly `size`
 // cells; those cells can hold nothing else.
 bool HiddenInUnit(SolveContext& ctx, int unit, int size) {
-    const auto& unitCells = UnitCells[unit];
-    CandidateMask noted = 0;
-    for (int c : unitCells) noted |= ctx.board.Candidates[c];
-    return ForEachDigitSet(noted, size, [&](CandidateMask set, const int(&digits)[5]) {
+    const UnitPositions u(ctx.board, unit);
+    return ForEachDigitSet(u.noted, size, [&](CandidateMask set, const int(&digits)[5]) {
+        const std::uint16_t holding = u.Holding(set);
+        if (CountDigits(holding) != size) return false;
+        // A spent pattern: its cells hold nothing outside the set any more.
+        if (!(u.Holding(CandidateMask(kAllCandidates & ~set)) & holding)) return false;
         int cells[5] = {};
-        int count = 0;
-        for (int c : unitCells) {
-            if (!(ctx.board.Candidates[c] & set)) continue;
-            if (count == size) return false;
-            cells[count++] = c;
-        }
-        if (count != size) return false;
-        bool removed = false;
+        CellsOf(unit, holding, cells);
         for (int i = 0; i < size; ++i)
             for (int d = 1; d <= 9; ++d)
-                if (!HasDigit(set, d)) removed |= VerwijderKnop(ctx, d, cells[i]);
-        if (!removed) return false;
+                if (!HasDigit(set, d)) VerwijderKnop(ctx, d, cells[i]);
         if (ctx.HintOnly)
             FillSubsetHint(ctx, unit, false, size, digits, cells);
         else
@@ -84,28 +114,19 @@ bool HiddenInUnit(SolveContext& ctx, int unit, int size) {
 // Naked set: `size` empty cells of the unit whose candidates all lie in `size`
 // digits; the other cells of the unit lose those digits.
 bool NakedInUnit(SolveContext& ctx, int unit, int size) {
-    const auto& unitCells = UnitCells[unit];
-    CandidateMask placed = 0;
-    int empties = 0;
-    for (int c : unitCells) {
-        if (ctx.board.CurrentGrid[c])
-            placed |= DigitBit(ctx.board.CurrentGrid[c]);
-        else
-            ++empties;
-    }
+    const UnitPositions u(ctx.board, unit);
     // With no empty cell beside the set, there is nothing a naked set could remove.
-    if (empties <= size) return false;
-    const CandidateMask noted = CandidateMask(kAllCandidates & ~placed);
-    return ForEachDigitSet(noted, size, [&](CandidateMask set, const int(&digits)[5]) {
+    if (CountDigits(u.empties) <= size) return false;
+    const CandidateMask notPlaced = CandidateMask(kAllCandidates & ~u.placed);
+    return ForEachDigitSet(notPlaced, size, [&](CandidateMask set, const int(&digits)[5]) {
+        const std::uint16_t inside =
+            u.empties & ~u.Holding(CandidateMask(kAllCandidates & ~set));
+        if (CountDigits(inside) != size) return false;
+        // A spent pattern: no other cell holds a digit of the set any more.
+        if (!(u.Holding(set) & ~inside)) return false;
         int cells[5] = {};
-        int count = 0;
-        for (int c : unitCells) {
-            if (ctx.board.CurrentGrid[c] || (ctx.board.Candidates[c] & ~set)) continue;
-            if (count == size) return false;
-            cells[count++] = c;
-        }
-        if (count != size) return false;
-        if (!Verwijder(ctx, digits, size, cells, unit / 9 + 1)) return false;
+        CellsOf(unit, inside, cells);
+        Verwijder(ctx, digits, size, cells, unit / 9 + 1);
         if (ctx.HintOnly)
             FillSubsetHint(ctx, unit, true, size, digits, cells);
         else
