@@ -1,0 +1,20 @@
+#include "game/first_run.h"
+
+#include "grid/library_setup.h"
+
+namespace tavi {
+
+bool PrepareLogFiles(const LibraryFolders& folders, Options& options, SettingsStore& store,
+                     Notifier& notifier) {
+    if (!options.LogfilesMade) {
+        if (!MaakSudLog(folders, notifier)) {
+            notifier.Message(kInitiationFailedTitle, kInitiationFailedText);
+            return false;
+        }
+        options.LogfilesMade = true;
+    }
+    SchrijfOptieSudLog(store, options);
+    return true;
+}
+
+}  // namespace tavi

@@ -1,0 +1,118 @@
+#include "game/library_position.h"
+
+#include <string>
+
+#include "grid/levels.h"
+#include "grid/library_pair.h"
+#include "settings/setting_values.h"
+
+namespace tavi {
+
+namespace {
+
+std::string LevelSection(int level) {
+    return "SudokuLevel" + std::to_string(level);
+}
+
+// Record numbers are 16-bit in the store; anything else is no number.
+int ReadRecordNumber(const SettingsStore& store, int level) {
+    const int n = ReadInt(store, LevelSection(level), "Number", 0);
+    return n >= 0 ? n : 0;
+}
+
+void FileError(Notifier* notifier, std::string_view text) {
+    if (notifier) notifier->Message(kFileErrorTitle, text);
+}
+
+}  // namespace
+
+void HaalLaatsteSudoku(const SettingsStore& store, LibraryPosition& position) {
+    const int level = ReadInt(store, "Sudoku", "Level", 0);
+    position.LastLevel = IsLevel(level) ? level : 0;
+    for (int i = 1; i <= kLevelCount; ++i) {
+        position.StoredNumber[i] = ReadRecordNumber(store, i);
+        position.PuzzleNumber[i] = position.StoredNumber[i];
+        position.LevelBusy[i] = store.Read(LevelSection(i), "Busy", "No") == "Yes";
+    }
+}
+
+void SaveLastSudoku(SettingsStore& store, const LibraryPosition& p) {
+    WriteInt(store, "Sudoku", "Level", p.ChosenLevel);
+    const bool untouched = p.CurrentStep == 0 && !p.SudokuSolved && !p.SudokuAutosolved;
+    for (int i = 1; i <= kLevelCount; ++i) {
+        long number = p.PuzzleNumber[i];
+        if (i == p.OpenLevel)
+            number = untouched && p.OpenRecord >= 1 ? p.OpenRecord - 1 : p.OpenRecord;
+        WriteInt(store, LevelSection(i), "Number", number);
+        store.Write(LevelSection(i), "Busy", "No");
+    }
+    const bool inProgress = p.OpenLevel != 0 && p.OpenRecord != 0 && !p.SudokuSolved &&
+                            p.CurrentStep > 0 && !p.SudokuAutosolved;
+    if (inProgress && IsLevel(p.OpenLevel)) store.Write(LevelSection(p.OpenLevel), "Busy", "Yes");
+}
+
+bool SudInProgress(const LibraryFolders& folders, const LibraryPosition& position) {
+    const std::string_view stem = LevelStem(position.ChosenLevel);
+    if (stem.empty()) return false;
+    const auto sds = PuzzleFile(folders.DataFolder, stem);
+    if (!(SudokuCount(sds) > 0)) return false;
+    SudokuRecord sudoku;
+    SudokuLogRecord log;
+    if (!ReadSudokuRecord(sds, position.OpenRecord, sudoku)) return false;
+    if (!ReadSudokuLogRecord(LogFile(folders.DataFolder, stem), position.OpenRecord, log))
+        return false;
+    return HasUserDigits(sudoku, log);
+}
+
+bool AutoWisProgress(const LibraryFolders& folders, const LibraryPosition& position,
+                     const SudokuRecord& sudoku, SudokuLogRecord& log) {
+    if (position.OpenLevel == 0 || position.OpenRecord == 0) return false;
+    log.StepCount = 0;
+    log.Grid = sudoku.Puzzle;
+    log.ElapsedMinutes = log.ElapsedSeconds = 0;
+    const std::string_view stem = LevelStem(position.OpenLevel);
+    return !stem.empty() &&
+           WriteSudokuLogRecord(LogFile(folders.DataFolder, stem), position.OpenRecord, log);
+}
+
+bool BewaarBestTime(const LibraryFolders& folders, const LibraryPosition& position,
+                    const SudokuRecord& sudoku, Notifier* notifier) {
+    const std::string_view stem = LevelStem(position.OpenLevel);
+    if (stem.empty() || position.OpenRecord < 1 ||
+        !WriteSudokuRecord(PuzzleFile(folders.DataFolder, stem), position.OpenRecord, sudoku)) {
+        FileError(notifier, kWriteErrorText);
+        return false;
+    }
+    return true;
+}
+
+bool AddMadePuzzle(const LibraryFolders& folders, int level, LibraryPosition& position,
+                   const SudokuRecord& sudoku, const SudokuLogRecord& log, Notifier* notifier) {
+    std::string why = "There is no level " + std::to_string(level) + ".";
+    long number = 0;
+    if (!IsLevel(level) ||
+        !AppendToPair(folders.DataFolder, LevelStem(level), sudoku, log, &number, &why)) {
+        FileError(notifier, std::string(kWriteErrorText) + "\n" + why);
+        return false;
+    }
+    position.PuzzleNumber[level] = int(number);
+    return true;
+}
+
+bool SaveGameLog(const LibraryFolders& folders, const LibraryPosition& position,
+                 const SudokuLogRecord& log, Notifier* notifier) {
+    if (position.OpenLevel == 0 || position.OpenRecord == 0) return false;
+    if (log.StepCount > kLogSteps || log.StepCount < 0) {
+        if (notifier) notifier->Message(kStepLimitTitle, kStepLimitText);
+        return false;
+    }
+    const std::string_view stem = LevelStem(position.OpenLevel);
+    if (stem.empty() ||
+        !WriteSudokuLogRecord(LogFile(folders.DataFolder, stem), position.OpenRecord, log)) {
+        FileError(notifier, kWriteErrorText);
+        return false;
+    }
+    return true;
+}
+
+}  // namespace tavi

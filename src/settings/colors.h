@@ -1,0 +1,70 @@
+// The colours the user can change: the nine hint colours by role, and the back
+// and fore colour of the board's palette labels. Values are 0x00BBGGRR, the byte
+// order of the platform's colour value that the store has always held.
+#pragma once
+
+#include <array>
+#include <cstdint>
+
+#include "settings/settings_store.h"
+
+namespace tavi {
+
+using Color = std::uint32_t;
+
+// Roles of HintColor, in the order of the colour dialog.
+enum HintRole : int {
+    kBaseCandidates = 0,
+    kChainCandidates = 1,
+    kAttackingCandidates = 2,
+    kAttackedCandidates = 3,
+    kPatternCell = 4,
+    kBaseCell = 5,
+    kChainCell = 6,
+    kAttackingCell = 7,
+    kAttackedCell = 8,
+};
+
+inline constexpr std::array<Color, 9> kDefaultHintColor = {
+    0x0000FF00,  // green
+    0x00FFFF00,  // cyan
+    0x0000FFFF,  // yellow
+    0x000000FF,  // red
+    0x00808000,  // teal
+    0x0000FFFF,  // yellow
+    0x000080FF,  // orange
+    0x00FF00FF,  // magenta
+    0x0000FF00,  // green
+};
+
+// The palette of the board has ten labels: 0 to 3 brushes for marks, 4 clears the
+// brush, 5 wipes the paint, 6 to 9 brushes for cells. 4 and 5 are no colours of
+// the user and are never stored.
+inline constexpr int kPaletteLabels = 10;
+constexpr bool IsStoredLabel(int i) {
+    return i >= 1 && i <= 9 && i != 4 && i != 5;
+}
+
+// Mark brushes write the digit in their fore colour; cell brushes paint the cell
+// in their back colour.
+inline constexpr std::array<Color, kPaletteLabels> kDefaultLabelBack = {
+    0x00FFFFFF, 0x00FFFFFF, 0x00FFFFFF, 0x00FFFFFF, 0x00E0E0E0,
+    0x00E0E0E0, 0x0080FFFF, 0x0080FF80, 0x00FFC080, 0x00C0A0FF};
+inline constexpr std::array<Color, kPaletteLabels> kDefaultLabelFore = {
+    0x000000FF, 0x00C00000, 0x00008000, 0x00C000C0, 0x00000000,
+    0x00000000, 0x00000000, 0x00000000, 0x00000000, 0x00000000};
+
+struct ColorSettings {
+    std::array<Color, 9> HintColor = kDefaultHintColor;
+    std::array<Color, kPaletteLabels> LabelBack = kDefaultLabelBack;  // LabelColor(i).BackColor
+    std::array<Color, kPaletteLabels> LabelFore = kDefaultLabelFore;  // LabelColor(i).ForeColor
+};
+
+// HintColor back to its defaults, then every key of section "Colors" read with
+// the colour now in force as its default: a missing or unreadable key changes
+// nothing.
+void HaalKleuren(const SettingsStore& store, ColorSettings& colors);
+// "BColor" and "FColor" for the stored labels, then "HColor" 0 to 8.
+void SchrijfKleuren(SettingsStore& store, const ColorSettings& colors);
+
+}  // namespace tavi

@@ -1,0 +1,46 @@
+// The options of the program, read once at start and written at exit. They live
+// in one object that the game and the workbench are given; nothing reads them
+// from anywhere else.
+#pragma once
+
+#include "settings/colors.h"
+#include "settings/settings_store.h"
+#include "settings/technique_tables.h"
+
+namespace tavi {
+
+struct Options {
+    // Section "Options".
+    bool Dimmed = false;          // marks drawn dim, with a hover highlight
+    bool PencilmarksOff = false;  // levels 1 to 3 without marks
+    bool Pencilmarks = true;      // automatic update of the peers' marks
+    bool Wells = true;
+    bool Sounds = false;
+    bool HintWindow = false;  // the small hint window
+    bool TimeOn = true;       // keep the clock (a loaded game may change it)
+    bool TimeShow = true;     // show the clock (a loaded game may change it)
+    bool AutoSave = true;
+    bool AskSave = true;
+    bool AutoErase = true;      // erase the progress of a solved puzzle without asking
+    bool LogfilesMade = false;  // key "Logfiles"
+
+    // Section "Version".
+    int VersionMain = 0;
+    int VersionSub = 0;
+
+    TechniqueTables techniques;
+    ColorSettings colors;
+};
+
+// Everything from the store: the options, the version, the technique tables and
+// the colours. Missing keys and values that can't be read as their type take the
+// defaults.
+void HaalOpties(const SettingsStore& store, Options& options);
+// The eleven options of section "Options" (not "Logfiles"), then the technique
+// tables.
+void SchrijfOpties(SettingsStore& store, const Options& options);
+// "Logfiles", written as soon as the log files exist.
+void SchrijfOptieSudLog(SettingsStore& store, const Options& options);
+void SchrijfVersie(SettingsStore& store, const Options& options);
+
+}  // namespace tavi

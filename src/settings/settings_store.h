@@ -1,0 +1,47 @@
+// The per-user key store that all settings live in: sections of named text
+// values, read with a default. The program keeps it in an INI file; tests keep
+// it in memory.
+#pragma once
+
+#include <map>
+#include <string>
+#include <string_view>
+#include <utility>
+
+namespace tavi {
+
+class SettingsStore {
+  public:
+    virtual ~SettingsStore() = default;
+    // The value of `key` in `section`, or `fallback` when there is none.
+    virtual std::string Read(std::string_view section, std::string_view key,
+                             std::string_view fallback) const = 0;
+    virtual void Write(std::string_view section, std::string_view key, std::string_view value) = 0;
+};
+
+// A store that forgets everything when it goes; for tests and for a run without
+// a settings file.
+class MemorySettingsStore : public SettingsStore {
+  public:
+    std::string Read(std::string_view section, std::string_view key,
+                     std::string_view fallback) const override {
+        const auto it = values_.find({std::string(section), std::string(key)});
+        return it == values_.end() ? std::string(fallback) : it->second;
+    }
+    void Write(std::string_view section, std::string_view key, std::string_view value) override {
+        values_[{std::string(section), std::string(key)}] = std::string(value);
+    }
+
+    bool Has(std::string_view section, std::string_view key) const {
+        return values_.count({std::string(section), std::string(key)}) > 0;
+    }
+    // Every (section, key) pair with its value, sorted.
+    const std::map<std::pair<std::string, std::string>, std::string>& Values() const {
+        return values_;
+    }
+
+  private:
+    std::map<std::pair<std::string, std::string>, std::string> values_;
+};
+
+}  // namespace tavi

@@ -1,0 +1,59 @@
+#include "settings/colors.h"
+
+#include <gtest/gtest.h>
+
+namespace tavi {
+namespace {
+
+TEST(HaalKleuren, AnEmptyStoreGivesTheHintColourDefaults) {
+    MemorySettingsStore store;
+    ColorSettings c;
+    c.HintColor.fill(1);
+    HaalKleuren(store, c);
+    EXPECT_EQ(c.HintColor,
+              (std::array<Color, 9>{0x0000FF00, 0x00FFFF00, 0x0000FFFF, 0x000000FF, 0x00808000,
+                                    0x0000FFFF, 0x000080FF, 0x00FF00FF, 0x0000FF00}));
+    EXPECT_EQ(c.LabelBack, kDefaultLabelBack);
+    EXPECT_EQ(c.LabelFore, kDefaultLabelFore);
+}
+
+TEST(HaalKleuren, AMissingOrUnreadableKeyKeepsTheColourInForce) {
+    MemorySettingsStore store;
+    store.Write("Colors", "BColor1", "255");
+    store.Write("Colors", "FColor2", "red");
+    store.Write("Colors", "HColor4", "16711680");
+    store.Write("Colors", "BColor4", "123");  // 4 and 5 are never read
+    ColorSettings c;
+    c.LabelFore[2] = 0x00112233;
+    c.LabelBack[4] = 0x00445566;
+    HaalKleuren(store, c);
+    EXPECT_EQ(c.LabelBack[1], 255u);
+    EXPECT_EQ(c.LabelFore[2], 0x00112233u);
+    EXPECT_EQ(c.HintColor[4], 0x00FF0000u);
+    EXPECT_EQ(c.LabelBack[4], 0x00445566u);
+}
+
+TEST(SchrijfKleuren, WritesSevenLabelPairsAndNineHintColoursThatReadBack) {
+    MemorySettingsStore store;
+    ColorSettings c;
+    c.LabelBack[9] = 0x80000008;  // a system colour, negative as a 32-bit number
+    c.HintColor[0] = 0x00123456;
+    SchrijfKleuren(store, c);
+    EXPECT_EQ(store.Values().size(), 7u * 2 + 9);
+    EXPECT_FALSE(store.Has("Colors", "BColor4"));
+    EXPECT_FALSE(store.Has("Colors", "FColor5"));
+    EXPECT_FALSE(store.Has("Colors", "BColor0"));
+    EXPECT_EQ(store.Read("Colors", "BColor9", ""), "-2147483640");
+    ColorSettings back;
+    back.LabelBack.fill(0);
+    back.LabelFore.fill(0);
+    HaalKleuren(store, back);
+    EXPECT_EQ(back.HintColor, c.HintColor);
+    for (int i : {1, 2, 3, 6, 7, 8, 9}) {
+        EXPECT_EQ(back.LabelBack[i], c.LabelBack[i]) << i;
+        EXPECT_EQ(back.LabelFore[i], c.LabelFore[i]) << i;
+    }
+}
+
+}  // namespace
+}  // namespace tavi

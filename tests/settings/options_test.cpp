@@ -1,0 +1,143 @@
+#include "settings/options.h"
+
+#include <gtest/gtest.h>
+
+#include "settings/setting_values.h"
+
+namespace tavi {
+namespace {
+
+using Values = std::map<std::pair<std::string, std::string>, std::string>;
+
+Values Expected(std::initializer_list<std::tuple<const char*, const char*, std::string>> list) {
+    Values v;
+    for (const auto& [s, k, value] : list)
+        v[{s, k}] = value;
+    return v;
+}
+
+TEST(HaalOpties, AnEmptyStoreGivesEveryDefault) {
+    MemorySettingsStore store;
+    Options o;
+    o.Dimmed = o.Sounds = o.LogfilesMade = true;
+    o.Wells = o.TimeOn = false;
+    o.techniques.OnOff[12] = 0;
+    o.colors.HintColor[3] = 7;
+    HaalOpties(store, o);
+
+    EXPECT_FALSE(o.Dimmed);
+    EXPECT_FALSE(o.PencilmarksOff);
+    EXPECT_TRUE(o.Pencilmarks);
+    EXPECT_TRUE(o.Wells);
+    EXPECT_FALSE(o.Sounds);
+    EXPECT_FALSE(o.HintWindow);
+    EXPECT_TRUE(o.TimeOn);
+    EXPECT_TRUE(o.TimeShow);
+    EXPECT_TRUE(o.AutoSave);
+    EXPECT_TRUE(o.AskSave);
+    EXPECT_TRUE(o.AutoErase);
+    EXPECT_FALSE(o.LogfilesMade);
+    EXPECT_EQ(o.VersionMain, 0);
+    EXPECT_EQ(o.VersionSub, 0);
+    for (int i = 0; i < 40; ++i) {
+        EXPECT_EQ(o.techniques.OnOff[i], 1) << i;
+        EXPECT_EQ(o.techniques.Halt[i], i < 3 ? 1 : 0) << i;
+        EXPECT_EQ(o.techniques.Order[i], i) << i;
+    }
+    EXPECT_EQ(o.colors.HintColor, kDefaultHintColor);
+    EXPECT_TRUE(store.Values().empty());  // reading writes nothing
+}
+
+TEST(SchrijfOpties, WritesTheElevenOptionsAndTheTechniqueTablesAsText) {
+    MemorySettingsStore store;
+    Options o;
+    o.Dimmed = true;
+    o.AutoErase = false;
+    o.techniques.Order[8] = 9;
+    o.techniques.Order[9] = 8;
+    SchrijfOpties(store, o);
+
+    Values expected = Expected({
+        {"Options", "Dimmed", "True"},
+        {"Options", "PencilmarksOff", "False"},
+        {"Options", "Pencilmarks", "True"},
+        {"Options", "Wells", "True"},
+        {"Options", "Sounds", "False"},
+        {"Options", "HintWindow", "False"},
+        {"Options", "TimeOn", "True"},
+        {"Options", "TimeShow", "True"},
+        {"Options", "AutoSave", "True"},
+        {"Options", "AskSave", "True"},
+        {"Options", "AutoErase", "False"},
+    });
+    for (int i = 0; i < 40; ++i) {
+        const std::string n = std::to_string(i);
+        expected[{"Technique", "OnOff" + n}] = "1";
+        expected[{"Technique", "Halt" + n}] = i < 3 ? "1" : "0";
+        expected[{"Technique", "Order" + n}] = i == 8 ? "9" : i == 9 ? "8" : n;
+    }
+    EXPECT_EQ(store.Values(), expected);
+
+    Options back;
+    HaalOpties(store, back);
+    EXPECT_TRUE(back.Dimmed);
+    EXPECT_FALSE(back.AutoErase);
+    EXPECT_EQ(back.techniques.Order, o.techniques.Order);
+}
+
+TEST(SchrijfOpties, TheLogfilesAndVersionKeysHaveWritersOfTheirOwn) {
+    MemorySettingsStore store;
+    Options o;
+    o.LogfilesMade = true;
+    o.VersionMain = 1;
+    o.VersionSub = 6;
+    SchrijfOptieSudLog(store, o);
+    SchrijfVersie(store, o);
+    EXPECT_EQ(store.Values(), Expected({{"Options", "Logfiles", "True"},
+                                        {"Version", "Main", "1"},
+                                        {"Version", "Sub", "6"}}));
+    Options back;
+    HaalOpties(store, back);
+    EXPECT_TRUE(back.LogfilesMade);
+    EXPECT_EQ(back.VersionMain, 1);
+    EXPECT_EQ(back.VersionSub, 6);
+}
+
+TEST(HaalOpties, AValueOfTheWrongTypeGivesTheDefault) {
+    MemorySettingsStore store;
+    store.Write("Options", "Wells", "perhaps");
+    store.Write("Options", "Sounds", "");
+    store.Write("Options", "TimeShow", "false");  // any case
+    store.Write("Options", "AutoSave", "0");      // a number counts, 0 is false
+    store.Write("Options", "Dimmed", " -1 ");
+    store.Write("Version", "Main", "1.6");
+    store.Write("Version", "Sub", "99999");  // beyond 16 bits
+    store.Write("Technique", "OnOff9", "x");
+    store.Write("Technique", "Halt9", "2");
+    store.Write("Technique", "Order9", "ten");
+    Options o;
+    HaalOpties(store, o);
+    EXPECT_TRUE(o.Wells);
+    EXPECT_FALSE(o.Sounds);
+    EXPECT_FALSE(o.TimeShow);
+    EXPECT_FALSE(o.AutoSave);
+    EXPECT_TRUE(o.Dimmed);
+    EXPECT_EQ(o.VersionMain, 0);
+    EXPECT_EQ(o.VersionSub, 0);
+    EXPECT_EQ(o.techniques.OnOff[9], 1);
+    EXPECT_EQ(o.techniques.Halt[9], 0);
+    EXPECT_EQ(o.techniques.Order[9], 9);
+}
+
+TEST(SettingValues, WholeNumbersAreReadStrictly) {
+    EXPECT_EQ(ParseWhole("12", 0, 20), 12);
+    EXPECT_EQ(ParseWhole(" +7 ", 0, 20), 7);
+    EXPECT_EQ(ParseWhole("-3", -5, 5), -3);
+    EXPECT_FALSE(ParseWhole("12abc", 0, 20));
+    EXPECT_FALSE(ParseWhole("", 0, 20));
+    EXPECT_FALSE(ParseWhole("21", 0, 20));
+    EXPECT_FALSE(ParseWhole("99999999999999999999999", 0, 20));
+}
+
+}  // namespace
+}  // namespace tavi

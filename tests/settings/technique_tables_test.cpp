@@ -1,0 +1,83 @@
+#include "settings/technique_tables.h"
+
+#include <gtest/gtest.h>
+
+namespace tavi {
+namespace {
+
+void Put(MemorySettingsStore& store, const std::string& key, int value) {
+    store.Write("Technique", key, std::to_string(value));
+}
+
+TechniqueTables Read(const MemorySettingsStore& store) {
+    TechniqueTables t;
+    ReadTechniqueTables(store, t);
+    return t;
+}
+
+TEST(TechniqueTables, TheFixedEntriesAreForcedWhateverTheStoreSays) {
+    MemorySettingsStore store;
+    for (int i = 0; i < 40; ++i) {
+        Put(store, "OnOff" + std::to_string(i), 0);
+        Put(store, "Halt" + std::to_string(i), 0);
+    }
+    Put(store, "Order3", 20);   // the head of the ladder doesn't move
+    Put(store, "Order39", 12);  // nor does Bifurcation
+    const TechniqueTables t = Read(store);
+    for (int i = 0; i < 40; ++i) {
+        EXPECT_EQ(t.OnOff[i], i < 8 ? 1 : 0) << i;
+        EXPECT_EQ(t.Halt[i], i < 3 ? 1 : 0) << i;
+    }
+    EXPECT_EQ(t.Order[3], 3);
+    EXPECT_EQ(t.Order[39], 39);
+    EXPECT_TRUE(IsValidOrder(t.Order));
+}
+
+TEST(TechniqueTables, AnOrderOutsideTheMovableRangeFallsBackToItsIndex) {
+    MemorySettingsStore store;
+    Put(store, "Order8", 7);
+    Put(store, "Order9", 39);
+    Put(store, "Order10", -4);
+    const TechniqueTables t = Read(store);
+    EXPECT_EQ(t.Order[8], 8);
+    EXPECT_EQ(t.Order[9], 9);
+    EXPECT_EQ(t.Order[10], 10);
+}
+
+TEST(TechniqueTables, APositionHeldTwiceBringsBackTheWholeDefaultOrder) {
+    MemorySettingsStore store;
+    // A good swap elsewhere, then the duplicate.
+    Put(store, "Order20", 30);
+    Put(store, "Order30", 20);
+    Put(store, "Order9", 10);
+    Put(store, "Order10", 10);
+    Put(store, "OnOff12", 0);
+    const TechniqueTables t = Read(store);
+    EXPECT_EQ(t.Order, DefaultTechniqueOrder());
+    EXPECT_EQ(t.OnOff[12], 0);  // only the order is reset
+
+    // A single entry moved out of a swap leaves a hole and a duplicate: reset too.
+    MemorySettingsStore broken;
+    Put(broken, "Order20", 30);
+    EXPECT_EQ(Read(broken).Order, DefaultTechniqueOrder());
+}
+
+TEST(TechniqueTables, AStoredPermutationIsKeptAndRoundTrips) {
+    TechniqueTables t;
+    // Reverse the movable positions.
+    for (int i = 8; i <= 38; ++i)
+        t.Order[i] = 46 - i;
+    t.OnOff[20] = 0;
+    t.Halt[25] = 1;
+    ASSERT_TRUE(IsValidOrder(t.Order));
+    MemorySettingsStore store;
+    WriteTechniqueTables(store, t);
+    EXPECT_EQ(store.Values().size(), 120u);
+    const TechniqueTables back = Read(store);
+    EXPECT_EQ(back.Order, t.Order);
+    EXPECT_EQ(back.OnOff, t.OnOff);
+    EXPECT_EQ(back.Halt, t.Halt);
+}
+
+}  // namespace
+}  // namespace tavi
