@@ -14,6 +14,7 @@ bool PrepareLogFiles(const LibraryFolders& folders, Options& options, SettingsSt
         options.LogfilesMade = true;
     }
     SchrijfOptieSudLog(store, options);
+    store.Flush();
     return true;
 }
 

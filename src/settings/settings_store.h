@@ -17,6 +17,9 @@ class SettingsStore {
     virtual std::string Read(std::string_view section, std::string_view key,
                              std::string_view fallback) const = 0;
     virtual void Write(std::string_view section, std::string_view key, std::string_view value) = 0;
+    // Puts what was written where it survives the end of the program. Writers of
+    // keys that must not wait for the exit call it; the rest goes out at the end.
+    virtual void Flush() {}
 };
 
 // A store that forgets everything when it goes; for tests and for a run without

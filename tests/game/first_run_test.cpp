@@ -14,6 +14,12 @@ using testing::MakeLevelFiles;
 using testing::RecordingNotifier;
 using testing::TempDir;
 
+// Remembers whether the keys were pushed out before the start went on.
+struct FlushingStore : MemorySettingsStore {
+    int flushes = 0;
+    void Flush() override { ++flushes; }
+};
+
 TEST(FirstRun, AMissingOrEmptyLibraryStopsTheStartAndTheNextStartTriesAgain) {
     for (const bool empty : {false, true}) {
         TempDir app, data;
@@ -21,7 +27,7 @@ TEST(FirstRun, AMissingOrEmptyLibraryStopsTheStartAndTheNextStartTriesAgain) {
         for (int level = 1; level <= 9; ++level)
             if (level != 8) MakeLevelFiles(app.path(), LevelStem(level), 2, false);
         if (empty) MakeLevelFiles(app.path(), LevelStem(8), 0, false);
-        MemorySettingsStore store;
+        FlushingStore store;
 
         // The start as it runs: copy, read the options, make the logs.
         CopyLibraryFiles(folders);
@@ -49,6 +55,7 @@ TEST(FirstRun, AMissingOrEmptyLibraryStopsTheStartAndTheNextStartTriesAgain) {
         EXPECT_EQ(second.messages.size(), 1u);
         EXPECT_TRUE(again.LogfilesMade);
         EXPECT_EQ(store.Read("Options", "Logfiles", ""), "True");
+        EXPECT_EQ(store.flushes, 1);
         for (int level = 1; level <= 9; ++level)
             EXPECT_EQ(WholeRecords(LogFile(data.path(), LevelStem(level)), 1449),
                       level == 8 ? 3 : 2);

@@ -1,0 +1,82 @@
+#include "ui/qsettings_store.h"
+
+#include <gtest/gtest.h>
+
+#include <QFile>
+#include <QTemporaryDir>
+
+#include "settings/options.h"
+#include "ui/program_folders.h"
+
+namespace tavi::ui {
+namespace {
+
+TEST(QSettingsStore, KeepsSectionsKeysAndTextInAnIniFile) {
+    QTemporaryDir dir;
+    const QString file = dir.filePath("TaviSud1.ini");
+    {
+        QSettingsStore store(file);
+        EXPECT_EQ(store.Read("Options", "Wells", "True"), "True");
+        store.Write("Options", "Wells", "False");
+        store.Write("SudokuLevel3", "Busy", "Yes");
+        store.Write("Colors", "HColor0", "65280");
+        store.Write("Text", "Spaces", " a, b ");
+        store.Flush();
+        QFile ini(file);
+        ASSERT_TRUE(ini.open(QIODevice::ReadOnly));
+        const QByteArray text = ini.readAll();
+        EXPECT_TRUE(text.contains("[Options]")) << text.toStdString();
+        EXPECT_TRUE(text.contains("Wells=False")) << text.toStdString();
+        EXPECT_TRUE(text.contains("[SudokuLevel3]")) << text.toStdString();
+    }
+    QSettingsStore again(file);
+    EXPECT_EQ(again.Read("Options", "Wells", "True"), "False");
+    EXPECT_EQ(again.Read("SudokuLevel3", "Busy", "No"), "Yes");
+    EXPECT_EQ(again.Read("Colors", "HColor0", ""), "65280");
+    EXPECT_EQ(again.Read("Text", "Spaces", ""), " a, b ");
+    EXPECT_EQ(again.Read("Options", "Sounds", "fallback"), "fallback");
+}
+
+TEST(QSettingsStore, OptionsRoundTripAndAHandEditedValueFallsBack) {
+    QTemporaryDir dir;
+    const QString file = dir.filePath("TaviSud1.ini");
+    {
+        QSettingsStore store(file);
+        Options o;
+        o.TimeShow = false;
+        o.techniques.Order[8] = 9;
+        o.techniques.Order[9] = 8;
+        SchrijfOpties(store, o);
+        store.Write("Options", "Sounds", "loud");
+    }
+    QSettingsStore store(file);
+    Options o;
+    HaalOpties(store, o);
+    EXPECT_FALSE(o.TimeShow);
+    EXPECT_FALSE(o.Sounds);
+    EXPECT_EQ(o.techniques.Order[8], 9);
+    EXPECT_EQ(o.techniques.Order[9], 8);
+}
+
+TEST(QSettingsStore, TheUsersStoreIsNamedAfterTheApplication) {
+    const QSettingsStore store;
+    EXPECT_TRUE(store.FileName().endsWith("TaviSud1/TaviSud1.ini"))
+        << store.FileName().toStdString();
+}
+
+TEST(ProgramFolders, DataFolderIsTaviSud1InTheUsersDataFolderAndIsMade) {
+    QTemporaryDir home;
+    const QByteArray old = qgetenv("XDG_DATA_HOME");
+    qputenv("XDG_DATA_HOME", home.path().toUtf8());
+    const LibraryFolders folders = ProgramFolders();
+    if (old.isEmpty())
+        qunsetenv("XDG_DATA_HOME");
+    else
+        qputenv("XDG_DATA_HOME", old);
+    EXPECT_EQ(folders.DataFolder, std::filesystem::path(home.path().toStdString()) / "TaviSud1");
+    EXPECT_TRUE(std::filesystem::is_directory(folders.DataFolder));
+    EXPECT_FALSE(folders.AppFolder.empty());
+}
+
+}  // namespace
+}  // namespace tavi::ui
