@@ -1,0 +1,221 @@
+#include "solver/brute_force.h"
+
+#include <gtest/gtest.h>
+
+#include <random>
+
+#include "grid/candidates.h"
+#include "support/boards.h"
+#include "support/puzzles.h"
+
+namespace tavi {
+namespace {
+
+// What RemoveCandidates and Undo must put back: the candidates, the filled cell,
+// the candidate lists of the open cells and the search's own counts.
+struct SearchState {
+    std::array<CandidateMask, 81> candidates;
+    Digits grid;
+    std::vector<std::vector<std::uint8_t>> lists;
+    std::array<std::array<std::uint8_t, 10>, 27> places;
+    int logPointer;
+    bool operator==(const SearchState&) const = default;
+};
+
+SearchState Snapshot(const BruteForceSearch& s, const Board& b, int pointer) {
+    SearchState st{b.Candidates, b.CurrentGrid, {}, s.Places, s.LogPointer};
+    for (int j = 0; j <= pointer; ++j) {
+        const int c = s.FreeCells[j];
+        st.lists.emplace_back(s.CellCandidates[c].begin(),
+                              s.CellCandidates[c].begin() + s.CellCandidateTotal[c]);
+    }
+    return st;
+}
+
+// Fills open cells one after another as the search does, each with a random
+// candidate, checking what each step takes away and logs; then takes them back
+// one by one, checking that each Undo restores the state before its step.
+TEST(SearchLog, RemoveCandidatesAndUndoRestoreExactly) {
+    std::mt19937 rng(7);
+    size_t steps = 0;
+    for (const auto& p : testing::GeneratedPuzzles(30)) {
+        Board b = BoardFromPuzzle(p.puzzle);
+        BruteForceSearch s;
+        int pointer = s.ListOpenCells(b) - 1;
+        std::vector<std::pair<SearchState, int>> before;  // the state and the pointer of a step
+        while (pointer >= 0 && before.size() < 12) {
+            const int cell = s.FreeCells[pointer];
+            if (s.CellCandidateTotal[cell] == 0) break;
+            const int digit = s.CellCandidates[cell][rng() % s.CellCandidateTotal[cell]];
+            before.emplace_back(Snapshot(s, b, pointer - 1), pointer - 1);
+            const Board prior = b;
+            b.CurrentGrid[cell] = std::uint8_t(digit);
+            s.RemoveCandidates(b, cell, digit, pointer - 1);
+            ASSERT_EQ(s.LogPointer, int(before.size()));
+            ASSERT_EQ(s.LogCell[s.LogPointer], cell);
+            ASSERT_EQ(s.LogCandidate[s.LogPointer], digit);
+
+            // Exactly the open peers in range that held the digit lose it, each in
+            // the mask of its first shared unit: row, then column, then box.
+            std::uint16_t row = 0, column = 0, box = 0;
+            for (int j = 0; j < pointer; ++j) {
+                const int c = s.FreeCells[j];
+                if (!prior.Has(digit, c) || c == cell) continue;
+                if (c / 9 == cell / 9)
+                    row |= std::uint16_t(1u << (c % 9));
+                else if (c % 9 == cell % 9)
+                    column |= std::uint16_t(1u << (c / 9));
+                else if (Global::BoxOfCell[c] == Global::BoxOfCell[cell])
+                    box |= std::uint16_t(1u << Global::PositionInBoxOfCell[c]);
+                else
+                    continue;
+                ASSERT_FALSE(b.Has(digit, c)) << CellName(c);
+                ASSERT_EQ(s.CellCandidateTotal[c], CountDigits(b.Candidates[c]));
+            }
+            ASSERT_EQ(s.LogRowPeers[s.LogPointer], row);
+            ASSERT_EQ(s.LogColumnPeers[s.LogPointer], column);
+            ASSERT_EQ(s.LogBoxPeers[s.LogPointer], box);
+            ASSERT_EQ(testing::Removals(prior, b).size(),
+                      size_t(std::popcount(unsigned(row)) + std::popcount(unsigned(column)) +
+                             std::popcount(unsigned(box))));
+            --pointer;
+        }
+        steps += before.size();
+        while (!before.empty()) {
+            const auto& [state, stepPointer] = before.back();
+            s.Undo(b, stepPointer);
+            ASSERT_EQ(Snapshot(s, b, stepPointer), state) << "undo of step " << before.size();
+            before.pop_back();
+        }
+    }
+    EXPECT_GE(steps, 150u);
+}
+
+// Cells above the pointer are on the search path: a trial never touches them.
+TEST(SearchLog, RemoveCandidatesLeavesCellsAboveThePointerAlone) {
+    Board b = testing::OpenBoard();
+    BruteForceSearch s;
+    const int open = s.ListOpenCells(b);
+    ASSERT_EQ(open, 81);
+    // Entries 0..40 are cells 0..40; E5 (40) is the last in range, E6 (41) is not.
+    b.CurrentGrid[0] = 5;
+    s.RemoveCandidates(b, 0, 5, 40);
+    for (int c : {1, 8, 9, 10, 20, 36})
+        EXPECT_FALSE(b.Has(5, c)) << CellName(c);
+    for (int c : {45, 72, 40, 41})
+        EXPECT_TRUE(b.Has(5, c)) << CellName(c);
+    EXPECT_EQ(s.LogRowPeers[1], 0b111111110);
+    EXPECT_EQ(s.LogColumnPeers[1], 0b11110);   // rows 1..4; row 5 onwards lies above the pointer
+    EXPECT_EQ(s.LogBoxPeers[1], 0b110110000);  // B2, B3, C2, C3: positions 4, 5, 7, 8
+}
+
+TEST(BruteForce, CountsNoneOneOrMany) {
+    const auto& p = testing::GeneratedPuzzles(1)[0];
+    Digits oneClueLess = p.puzzle;
+    for (int c = 0; c < 81; ++c)
+        if (oneClueLess[c]) {
+            oneClueLess[c] = 0;
+            break;
+        }
+    // A1..A8 hold 1..8 and E9 holds 9: A9 has no candidate before any search.
+    Digits emptyCell{};
+    for (int c = 0; c < 8; ++c)
+        emptyCell[c] = std::uint8_t(c + 1);
+    emptyCell[44] = 9;
+    // Two 5s in row A: no cell runs dry, yet there is no solution.
+    Digits clash{};
+    clash[0] = clash[4] = 5;
+    struct Case {
+        const char* name;
+        Digits puzzle;
+        int solutions;
+        int noSolutionFound;  // -1: either
+    } cases[] = {
+        {"unique", p.puzzle, 1, false},
+        {"a clue less", oneClueLess, 2, false},
+        {"no clue at all", Digits{}, 2, false},
+        {"the solution itself", p.solution, 1, false},
+        {"a cell without candidates", emptyCell, 0, true},
+        {"clashing givens", clash, 0, -1},
+    };
+    for (const Case& k : cases) {
+        SCOPED_TRACE(k.name);
+        SolveContext ctx;
+        ctx.board.Puzzle = k.puzzle;
+        bool flag = k.noSolutionFound != 1;
+        EXPECT_EQ(BruteForceSolutions(ctx, flag), k.solutions);
+        if (k.noSolutionFound >= 0) {
+            EXPECT_EQ(flag, bool(k.noSolutionFound));
+        }
+        if (k.solutions == 1) {
+            EXPECT_EQ(ctx.board.CurrentGrid, p.solution);
+        }
+        SolveContext again;
+        again.board.Puzzle = k.puzzle;
+        EXPECT_EQ(BruteForceSolve(again), k.solutions == 1);
+    }
+}
+
+// The search against the generator's own counter: generated puzzles, the same
+// with a clue taken away, and with a clue changed to another digit.
+TEST(BruteForce, AgreesWithTheGenerator) {
+    std::mt19937 rng(11);
+    int answers[3] = {};
+    for (const auto& p : testing::GeneratedPuzzles(300)) {
+        std::vector<int> clues;
+        for (int c = 0; c < 81; ++c)
+            if (p.puzzle[c]) clues.push_back(c);
+        const int clue = clues[rng() % clues.size()];
+        Digits removed = p.puzzle, changed = p.puzzle;
+        removed[clue] = 0;
+        changed[clue] = std::uint8_t(1 + (p.puzzle[clue] + rng() % 8) % 9);
+        for (const Digits& puzzle : {p.puzzle, removed, changed}) {
+            Digits first{};
+            const int expected = CountSolutions(puzzle, 2, &first);
+            SolveContext ctx;
+            ctx.board.Puzzle = puzzle;
+            bool flag = false;
+            const int found = BruteForceSolutions(ctx, flag);
+            ASSERT_EQ(found, expected) << FormatDigits(puzzle, '.');
+            if (found == 1) {
+                ASSERT_EQ(ctx.board.CurrentGrid, first) << FormatDigits(puzzle, '.');
+            }
+            if (flag) {
+                ASSERT_EQ(found, 0) << "a contradiction is no solution";
+            }
+            ++answers[found];
+        }
+    }
+    EXPECT_GT(answers[0], 0);
+    EXPECT_GE(answers[1], 300);
+    EXPECT_GE(answers[2], 300);
+}
+
+TEST(UniqueSud, WorksOnCurrentGridAndLeavesTheCandidatesAlone) {
+    const auto& p = testing::GeneratedPuzzles(2)[1];
+    Digits oneClueLess = p.puzzle;
+    for (int c = 80; c >= 0; --c)
+        if (oneClueLess[c]) {
+            oneClueLess[c] = 0;
+            break;
+        }
+    struct Case {
+        Digits grid;
+        bool unique;
+    } cases[] = {{p.puzzle, true}, {oneClueLess, false}, {p.solution, true}};
+    for (const Case& k : cases) {
+        Board b;
+        b.CurrentGrid = k.grid;  // Puzzle stays empty: the game asks about what stands now
+        b.Candidates.fill(0);
+        b.Candidates[3] = 0x155;  // whatever the marks are, they stay
+        const auto marks = b.Candidates;
+        EXPECT_EQ(UniqueSud(b), k.unique);
+        EXPECT_EQ(b.Candidates, marks);
+        if (k.unique) {
+            EXPECT_EQ(b.CurrentGrid, p.solution);
+        }
+    }
+}
+
+}  // namespace
+}  // namespace tavi
