@@ -1,0 +1,261 @@
+// The game window's model: the board in play, its marks, the move log, the
+// commands and what they may do, the texts the window shows, and the questions
+// it asks. No widget lives here: the shell draws this state and forwards the
+// person's clicks; tests script the answers through the platform interfaces.
+//
+// The routines are split by concern over game_*.cpp: start and exit, cell input,
+// undo and redo, puzzles in and out, the clock and the wells.
+#pragma once
+
+#include <array>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "game/library_position.h"
+#include "game/platform.h"
+#include "grid/library_files.h"
+#include "grid/records.h"
+#include "settings/options.h"
+#include "settings/settings_store.h"
+#include "solver/solve_context.h"
+
+namespace tavi {
+
+// Sound ids of the game.
+enum Sound : int {
+    kSoundSolved = 0,      // "applause.wav"
+    kSoundMarkRemoved = 1, // "Patch54p.wav"
+    kSoundPlaced = 2,      // "Beep2.wav"
+    kSoundResetCell = 3,   // "Boink4.wav"
+    kSoundSolution = 4,    // "Blaster_1.wav"
+    kSoundHeader = 5,      // "Beep5.wav"
+    kSoundUndoRedo = 6,    // "Beep1.wav"
+    kSoundPenalty = 7,     // "Cashreg.wav"
+    kSoundWrongNumber = 8, // "Error.wav"
+    kSoundStillMarked = 9, // "Giggle.wav"
+};
+
+enum class MouseButton { Left, Right, Middle };
+
+// One step of the move log. LogDigit 1..9 a placement, -1..-9 a mark taken
+// away, 10..19 Reset Cell (less 10: the digit the cell held), 0 a click of the
+// middle button. The mark fields say exactly which marks the step changed, so a
+// step can be undone and redone from the log alone.
+struct MoveStep {
+    int LogDigit = 0;
+    int LogCell = 0;
+    int LogOwnMarks = 0;     // bit d-1: the cell's own marks that changed
+    int LogColumnMarks = 0;  // bit r: the cell of row r in the column lost the mark
+    int LogRowMarks = 0;     // bit c: the cell of column c in the row lost the mark
+    int LogBoxMarks = 0;     // bit y+3x: the cell at row y, column x of the box lost it
+};
+
+// Which commands answer, and the captions that change.
+struct CommandStates {
+    bool New = true, Open = true, Save = true, Print = true, Make = true;
+    bool Undo = false, Redo = false, ResetCell = false, Hint = false, Scan = true;
+    bool AutoSolve = false, Solution = false;
+    std::string MakeCaption = "Make";
+    std::string HintCaption = "Hint";
+};
+
+struct BrushState {
+    bool BrushActive = false;
+    bool LeftBrush = false, RightBrush = false;
+    bool LeftCellBrush = false, RightCellBrush = false;
+    Color LeftColor = 0, RightColor = 0;
+    std::array<std::string, 10> PaletteCaptions;  // " L", " R" or empty
+};
+
+// The game's platform: all are needed but the sound player and the page opener.
+struct GameServices {
+    Prompter& prompter;
+    SettingsStore& store;
+    TimeSource& clock;
+    SoundPlayer* sounds = nullptr;
+    PageOpener* pages = nullptr;
+};
+
+inline constexpr std::string_view kStandingHintText =
+    "Use the  left mousebutton to assign a candidate to a cell.";
+inline constexpr std::string_view kPlayingHintText =
+    "Press [Hint] if you get stuck !!! Minimize Window to pause. DoubleClick this window to pop "
+    "up the small Hint Window.";
+inline constexpr int kNoHover = 729;
+inline constexpr int kNoLine = 9;  // SelectedRow and SelectedColumn when nothing is picked
+inline constexpr Color kClueColor = 0x00800000;  // dark blue
+inline constexpr Color kDimmedMarkColor = 0x00D0D010;
+
+class Game : private MoveListener {
+public:
+    Game(GameServices services, LibraryFolders folders, Options& options);
+    Game(const Game&) = delete;  // the solver context points back at the game
+    Game& operator=(const Game&) = delete;
+
+    // --- The program's life -------------------------------------------------
+    // The start-up, in its documented order. False when the program can't go on
+    // (the first run could not make the log files); the message has been shown.
+    bool Start();
+    // The Exit button. True when the program ends.
+    bool CommandExit();
+    // The window's close box. True when the window may close.
+    bool QueryUnload();
+    // A level picked in the list; it takes effect at the next New or Open.
+    void OptionType(int level);
+
+    // --- Cell input ---------------------------------------------------------
+    // A mouse button released on mark `digit` of `cell`; `inside` is whether the
+    // release was over the same mark (a click counts only then).
+    void MarkMouseUp(int digit, int cell, MouseButton button, bool inside);
+    void MarkMouseMove(int digit, int cell);  // hover highlight (option Dimmed)
+    void GridMouseMove();                     // over a big digit or the window: hover ends
+    void GridMouseUp(int cell, MouseButton button, bool inside);  // paints with a cell brush
+    void RowHeaderUp(int row, MouseButton button, bool inside);
+    void ColumnHeaderUp(int column, MouseButton button, bool inside);
+    void DigitButtonUp(int digit, MouseButton button, bool inside);  // Command1: digit filter
+    void PaletteUp(int index, MouseButton button, bool inside);       // LabelColor
+    void CommandResetCell();
+    // Shows the marks of `digit` again over the whole board (filter "On").
+    void ToonPencilmarks(int digit);
+    // All painted colours off.
+    void WisKleuren();
+
+    // --- Undo and redo ------------------------------------------------------
+    void CommandUndo();
+    void CommandRedo();
+
+    // --- Puzzles in and out -------------------------------------------------
+    void CommandNew();
+    void CommandOpen();
+    void CommandSave();
+    void CommandSolution();
+    void CommandHelp();
+    void WebSiteClick();
+
+    // --- Clock and wells ----------------------------------------------------
+    void Tick();              // the timer
+    void WindowMinimised();   // pause
+    void WindowRestored();    // go on
+    void SetupWells();
+
+    // --- State for the window -----------------------------------------------
+    const Board& board() const { return ctx_.board; }
+    SolveContext& context() { return ctx_; }
+    const Options& options() const { return options_; }
+    const LibraryPosition& position() const { return position_; }
+    const SudokuRecord& sudoku() const { return sudoku_; }
+    const CommandStates& commands() const { return commands_; }
+    const BrushState& brush() const { return brush_; }
+    bool FilterOn(int digit) const { return filterOn_[digit]; }
+    bool MarkVisible(int digit, int cell) const { return ctx_.board.Has(digit, cell); }
+    bool IsClue(int cell) const { return sudoku_.Puzzle[cell] != 0; }
+    // With pencil marks off in the first three levels the marks stay clickable
+    // but show no digit.
+    bool MarkCaptionsShown() const {
+        return !(position_.ChosenLevel < 4 && options_.PencilmarksOff);
+    }
+    std::optional<Color> CellPaint(int cell) const { return cellPaint_[cell]; }
+    std::optional<Color> MarkPaint(int digit, int cell) const { return markPaint_[cell][digit - 1]; }
+    bool MarkDimmed(int digit, int cell) const {
+        return options_.Dimmed && HoverCell != (digit - 1) * 81 + cell;
+    }
+    bool GridEnabled() const { return gridEnabled_; }
+    const std::string& TextHint() const { return textHint_; }
+    const std::string& LabelStap() const { return labelStap_; }
+    const std::string& LabelTijd() const { return labelTijd_; }
+    const std::string& Caption() const { return caption_; }
+    const std::string& SudTekst() const { return sudTekst_; }
+    int CurrentStep() const { return position_.CurrentStep; }
+    int LastStep() const { return int(log_.size()); }
+    const std::vector<MoveStep>& MoveLog() const { return log_; }
+    int ClockSeconds() const { return clockSeconds_; }
+    bool TimerRunning() const { return timerRunning_; }
+    // Wells: for each digit 1..9 and each box 0..8, whether the box holds it.
+    bool WellFilled(int digit, int box) const { return wells_[digit][box]; }
+    bool WellsVisible() const { return options_.Wells; }
+    bool DigitCompleted(int digit) const;
+
+    int HoverCell = 81;
+    int SelectedRow = kNoLine;
+    int SelectedColumn = kNoLine;
+    int HintStage = 0;
+    bool MakeMode = false;
+    std::string WindowTitle;
+
+    // Plays a sound of the table when sounds are on; -1 plays nothing.
+    void Speel(int id);
+    // The end of a game: best time, erase question, "Busy", commands off.
+    void ZetOpgelost();
+
+private:
+    // MoveListener: the solver's placements and removals become steps.
+    void ZetAuto(Board& board, int digit, int cell) override;
+    void CandidateRemoved(int digit, int cell) override;
+
+    // A new step at `cell`: the redo tail goes, Undo opens, Redo closes.
+    MoveStep& BeginStep(int cell);
+    void ShowStepCount();
+    // Takes mark `digit` from the column, row and box of `cell` into the step.
+    void TakePeerMarks(int digit, int cell, MoveStep& step);
+    bool BoardSolved() const;
+    void EndTest();
+
+    void ClearGrid();
+    void ClearSudokuData();
+    void EnableGrid() { gridEnabled_ = true; }
+    void DisableGrid() { gridEnabled_ = false; }
+    void ResetHintStage();
+    void SetPlayingCommands(bool progressRestored);
+
+    // Puzzles.
+    // Leaves the game on the board: saves or asks, as the options say.
+    void LeaveBoard();
+    // Lays record PuzzleNumber(level) of the chosen level on the board.
+    void LoadPuzzle(bool askToGoOn);
+    bool OpenLastSudoku();
+    void RestoreProgress();
+    void AfterLoad();
+    // The marks for play without pencil marks: every digit a click target again.
+    void SpecialPencilmarks();
+    // Stops the game's commands after a load that failed.
+    void LoadFailed();
+    // Saves the position keys and the options: every way out ends here.
+    void WriteSettingsOnExit();
+    void OpenPage(const std::string& page);
+
+    // Clock.
+    void StartClock();
+    void ShowClock();
+
+    // Paint.
+    void ToggleCellPaint(int cell, Color color);
+    void SetCellPaint(int cell, Color color);
+
+    GameServices services_;
+    LibraryFolders folders_;
+    Options& options_;
+    SolveContext ctx_{Side::Game};
+    LibraryPosition position_;
+    SudokuRecord sudoku_;
+    SudokuLogRecord logRecord_;
+    std::vector<MoveStep> log_;  // step i at i - 1; its size is LastStep
+    CommandStates commands_;
+    BrushState brush_;
+    std::array<bool, 10> filterOn_{};
+    std::array<std::optional<Color>, 81> cellPaint_{};
+    std::array<std::array<std::optional<Color>, 9>, 81> markPaint_{};
+    std::array<std::array<bool, 9>, 10> wells_{};
+    bool gridEnabled_ = false;
+    std::string textHint_{kStandingHintText};
+    std::string labelStap_;
+    std::string labelTijd_;
+    std::string caption_;
+    std::string sudTekst_;
+    int clockSeconds_ = 0;
+    int clockStart_ = 0;
+    bool clockPaused_ = false;
+    bool timerRunning_ = false;
+};
+
+}  // namespace tavi

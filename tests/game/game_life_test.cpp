@@ -1,0 +1,195 @@
+// The program's life: the start, the resume of a busy level, and every way out.
+#include "support/game_fixture.h"
+
+namespace tavi::testing {
+namespace {
+
+using Life = GameFixture;
+
+TEST_F(Life, FirstStartWithAnEmptyStore) {
+    Game& g = Started();
+    EXPECT_EQ(prompter.Texts(), std::vector<std::string>{std::string(
+                                    "A number of logfiles has to be created, normally this must be "
+                                    "done only once on first run of Tavi Sudoku. Depend on the "
+                                    "speed of your PC, this can take a few minutes.")});
+    EXPECT_EQ(store.Read("Options", "Logfiles", ""), "True");
+    EXPECT_EQ(g.position().ChosenLevel, 2);
+    EXPECT_EQ(g.Caption(), "Tavi Sudoku 1");
+    EXPECT_FALSE(g.GridEnabled());
+    EXPECT_TRUE(g.position().SudokuSolved);
+    EXPECT_FALSE(g.commands().Undo);
+    EXPECT_FALSE(g.commands().Hint);
+    // The library was copied to the data folder, and every puzzle has a log record.
+    for (int level = 1; level <= 9; ++level)
+        EXPECT_EQ(WholeRecords(LogFile(folders.DataFolder, LevelStem(level)), kSudokuLogRecordSize),
+                  kPerLevel);
+
+    // The second start makes nothing and asks nothing.
+    prompter.shown.clear();
+    Started();
+    EXPECT_TRUE(prompter.shown.empty());
+}
+
+TEST_F(Life, AFirstRunWithoutALibraryCannotGoOn) {
+    std::filesystem::remove(PuzzleFile(folders.AppFolder, LevelStem(4)));
+    NewGame();
+    EXPECT_FALSE(game->Start());
+    const auto texts = prompter.Texts();
+    ASSERT_EQ(texts.size(), 3u);
+    EXPECT_EQ(texts[1], "Could not open source file " +
+                            PuzzleFile(folders.DataFolder, LevelStem(4)).string());
+    EXPECT_EQ(texts[2], "Failed to write sudoku logfiles, program can't continue.");
+    EXPECT_EQ(store.Read("Options", "Logfiles", "False"), "False");
+}
+
+// Plays one step on a New of `level` and leaves through Exit with "Never" saving
+// off, so that the level is marked busy through a save first.
+void LeaveBusy(GameFixture& f, Game& g, int level) {
+    g.OptionType(level);
+    g.CommandNew();
+    f.PlaceOne();
+    g.CommandSave();
+    f.prompter.answers = {Answer::Yes};  // AutoSave: "Do you really want to quit ?"
+    EXPECT_TRUE(g.CommandExit());
+}
+
+TEST_F(Life, ResumingABusyLevelAnsweredYes) {
+    Game& g = Started();
+    LeaveBusy(*this, g, 3);
+    EXPECT_EQ(store.Read("SudokuLevel3", "Busy", ""), "Yes");
+    EXPECT_EQ(store.Read("Sudoku", "Level", ""), "3");
+
+    prompter.shown.clear();
+    prompter.answers = {Answer::Yes};
+    Game& again = Started();
+    EXPECT_EQ(prompter.shown.at(0).title, "Sudoku in progress");
+    EXPECT_EQ(prompter.shown.at(0).text, "Do you want to proceed with the last saved sudoku ?");
+    EXPECT_EQ(again.CurrentStep(), 1);
+    EXPECT_TRUE(again.commands().Undo);
+    EXPECT_TRUE(again.GridEnabled());
+    // The resumed start never sets the window title.
+    EXPECT_EQ(again.Caption(), " - Hard - 1");
+    EXPECT_EQ(again.WindowTitle, "");
+}
+
+TEST_F(Life, ResumingABusyLevelAnsweredNoOffersTheSamePuzzleAgain) {
+    Game& g = Started();
+    g.OptionType(3);
+    g.CommandNew();  // record 1, left untouched
+    LeaveBusy(*this, g, 3);  // record 2
+    ASSERT_EQ(store.Read("SudokuLevel3", "Number", ""), "2");
+    prompter.answers = {Answer::No};
+    Game& again = Started();
+    EXPECT_EQ(again.Caption(), "Tavi Sudoku 1");
+    EXPECT_FALSE(again.GridEnabled());
+    EXPECT_EQ(again.position().PuzzleNumber[3], 1);
+    prompter.answers = {Answer::Yes};
+    again.CommandNew();
+    EXPECT_EQ(again.CurrentStep(), 1);
+    EXPECT_EQ(again.position().OpenRecord, 2);
+    // Its progress is still there to carry on from.
+    EXPECT_EQ(prompter.shown.back().text,
+              "Puzzle is already worked on. Carry on from its present state ?");
+}
+
+TEST_F(Life, ABusyLevelWhoseRecordWasErased) {
+    Game& g = Started();
+    g.OptionType(5);
+    g.CommandNew();
+    g.CommandNew();  // record 2, untouched
+    PlaceOne();
+    g.CommandSave();
+    prompter.answers = {Answer::Yes};
+    ASSERT_TRUE(g.CommandExit());
+    ASSERT_EQ(store.Read("SudokuLevel5", "Number", ""), "2");
+    // The record is erased behind the game's back.
+    SudokuLogRecord empty;
+    ASSERT_TRUE(WriteSudokuLogRecord(LogFile(folders.DataFolder, LevelStem(5)), 2, empty));
+
+    prompter.shown.clear();
+    prompter.answers = {Answer::Yes};
+    Game& again = Started();
+    EXPECT_TRUE(prompter.Showed("Could not open the last saved sudoku"));
+    EXPECT_EQ(again.position().PuzzleNumber[5], 1);
+    EXPECT_FALSE(again.GridEnabled());
+    EXPECT_EQ(again.Caption(), "Tavi Sudoku 1");
+}
+
+struct ExitCase {
+    const char* name;
+    bool autoSave, askSave;
+    std::vector<Answer> answers;
+    bool ends;
+    bool saved;  // the log record holds the game afterwards
+    const char* busy;
+};
+
+class ExitPaths : public GameFixture, public ::testing::WithParamInterface<ExitCase> {};
+
+TEST_P(ExitPaths, AskAndSaveAsTheOptionsSay) {
+    const ExitCase& c = GetParam();
+    Game& g = Started();
+    options.AutoSave = c.autoSave;
+    options.AskSave = c.askSave;
+    g.OptionType(1);
+    g.CommandNew();
+    PlaceOne();
+    prompter.answers.assign(c.answers.begin(), c.answers.end());
+    EXPECT_EQ(g.CommandExit(), c.ends);
+    EXPECT_TRUE(prompter.answers.empty());
+    EXPECT_EQ(LogOf(1, 1).StepCount, c.saved ? 1 : 0);
+    if (c.ends) {
+        EXPECT_EQ(store.Read("SudokuLevel1", "Busy", ""), c.busy);
+        EXPECT_EQ(store.Read("Options", "AutoSave", ""), c.autoSave ? "True" : "False");
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Game, ExitPaths,
+    ::testing::Values(ExitCase{"AllwaysYes", true, true, {Answer::Yes}, true, true, "Yes"},
+                      ExitCase{"AllwaysNo", true, true, {Answer::No}, false, false, ""},
+                      ExitCase{"AskYes", false, true, {Answer::Yes}, true, true, "Yes"},
+                      ExitCase{"AskNo", false, true, {Answer::No}, true, false, "No"},
+                      ExitCase{"AskCancel", false, true, {Answer::Cancel}, false, false, ""},
+                      ExitCase{"NeverYes", false, false, {Answer::Yes}, true, false, "No"},
+                      ExitCase{"NeverNo", false, false, {Answer::No}, false, false, ""}),
+    [](const auto& info) { return std::string(info.param.name); });
+
+TEST_F(Life, ClosingTheWindowWithNeitherOptionAsksToSave) {
+    Game& g = Started();
+    options.AutoSave = options.AskSave = false;
+    g.OptionType(1);
+    g.CommandNew();
+    PlaceOne();
+    prompter.answers = {Answer::Cancel};
+    EXPECT_FALSE(g.QueryUnload());
+    EXPECT_EQ(prompter.shown.back().buttons, Buttons::YesNoCancel);
+    prompter.answers = {Answer::Yes};
+    EXPECT_TRUE(g.QueryUnload());
+    EXPECT_EQ(LogOf(1, 1).StepCount, 1);
+    EXPECT_EQ(store.Read("SudokuLevel1", "Busy", ""), "Yes");
+}
+
+TEST_F(Life, ExitWithNoGameWritesThePositionAndAsksOnce) {
+    Game& g = Started();
+    prompter.answers = {Answer::Yes};
+    EXPECT_TRUE(g.CommandExit());
+    for (int level = 1; level <= 9; ++level)
+        EXPECT_EQ(store.Read("SudokuLevel" + std::to_string(level), "Busy", ""), "No");
+    EXPECT_EQ(store.Read("Sudoku", "Level", ""), "2");
+}
+
+TEST_F(Life, AnUntouchedPuzzleIsOfferedAgain) {
+    Game& g = Started();
+    g.OptionType(2);
+    g.CommandNew();
+    prompter.answers = {Answer::Yes};
+    ASSERT_TRUE(g.CommandExit());
+    EXPECT_EQ(store.Read("SudokuLevel2", "Number", ""), "0");
+    Game& again = Started();
+    again.CommandNew();
+    EXPECT_EQ(again.position().OpenRecord, 1);
+}
+
+}  // namespace
+}  // namespace tavi::testing

@@ -1,0 +1,156 @@
+// A game on a library of generated puzzles in a temporary folder, with the
+// person's answers scripted and the clock, the sounds and the store faked.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <deque>
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "game/game.h"
+#include "grid/library_files.h"
+#include "grid/library_pair.h"
+#include "settings/options.h"
+#include "support/puzzles.h"
+
+namespace tavi::testing {
+
+// Answers questions from a script, in order; a question with no answer left
+// fails the test. Every box shown is kept.
+class ScriptedPrompter : public Prompter {
+public:
+    struct Shown {
+        std::string title, text;
+        Buttons buttons;
+    };
+    std::vector<Shown> shown;
+    std::deque<Answer> answers;
+    std::deque<std::optional<std::string>> inputs;
+    int beeps = 0;
+
+    void Beep() override { ++beeps; }
+    Answer Ask(std::string_view title, std::string_view text, Buttons buttons, Icon) override {
+        shown.push_back({std::string(title), std::string(text), buttons});
+        if (buttons == Buttons::Ok) return Answer::Ok;
+        if (answers.empty()) {
+            ADD_FAILURE() << "unexpected question: " << title << " / " << text;
+            return Answer::Cancel;
+        }
+        const Answer a = answers.front();
+        answers.pop_front();
+        return a;
+    }
+    std::optional<std::string> Input(std::string_view title, std::string_view prompt,
+                                     std::string_view) override {
+        shown.push_back({std::string(title), std::string(prompt), Buttons::OkCancel});
+        if (inputs.empty()) {
+            ADD_FAILURE() << "unexpected input box: " << prompt;
+            return std::nullopt;
+        }
+        auto a = inputs.front();
+        inputs.pop_front();
+        return a;
+    }
+    // The texts shown, in order.
+    std::vector<std::string> Texts() const {
+        std::vector<std::string> t;
+        for (const auto& s : shown) t.push_back(s.text);
+        return t;
+    }
+    bool Showed(std::string_view text) const {
+        for (const auto& s : shown)
+            if (s.text == text) return true;
+        return false;
+    }
+};
+
+struct FakeClock : TimeSource {
+    int now = 10 * 3600;
+    int SecondOfDay() const override { return now; }
+};
+
+struct FakeSounds : SoundPlayer {
+    bool available = true;
+    std::vector<int> played;
+    bool Available() const override { return available; }
+    void Play(int id) override { played.push_back(id); }
+};
+
+struct FakePages : PageOpener {
+    std::vector<std::string> opened;
+    bool Open(const std::string& url) override {
+        opened.push_back(url);
+        return true;
+    }
+};
+
+class GameFixture : public ::testing::Test {
+public:
+    static constexpr int kPerLevel = 3;
+
+    GameFixture() {
+        root = std::filesystem::temp_directory_path() /
+               ("tavi-game-" + std::to_string(::getpid()) + "-" + std::to_string(counter++));
+        std::filesystem::remove_all(root);
+        folders = {root / "app", root / "data"};
+        std::filesystem::create_directories(folders.AppFolder);
+        const auto& puzzles = GeneratedPuzzles(9 * kPerLevel, 77);
+        for (int level = 1; level <= 9; ++level)
+            for (int i = 0; i < kPerLevel; ++i) {
+                const auto& p = puzzles[(level - 1) * kPerLevel + i];
+                SudokuRecord r{p.puzzle, p.solution, 0, 0};
+                WriteSudokuRecord(PuzzleFile(folders.AppFolder, LevelStem(level)), i + 1, r);
+            }
+    }
+    ~GameFixture() override { std::filesystem::remove_all(root); }
+
+    // A new game over the same folders and store, as at the next start.
+    Game& NewGame() {
+        game.emplace(GameServices{prompter, store, clock, &sounds, &pages}, folders, options);
+        return *game;
+    }
+    // A started game with the first run answered (it only informs).
+    Game& Started() {
+        NewGame();
+        EXPECT_TRUE(game->Start());
+        return *game;
+    }
+    // The record `number` of `level` as the game reads it.
+    GeneratedPuzzle Record(int level, int number) {
+        SudokuRecord r;
+        EXPECT_TRUE(ReadSudokuRecord(PuzzleFile(folders.DataFolder, LevelStem(level)), number, r));
+        return {r.Puzzle, r.Solution};
+    }
+    SudokuLogRecord LogOf(int level, int number) {
+        SudokuLogRecord r;
+        EXPECT_TRUE(ReadSudokuLogRecord(LogFile(folders.DataFolder, LevelStem(level)), number, r));
+        return r;
+    }
+    // The first empty cell of the game's board and its solution digit.
+    std::pair<int, int> FirstOpenCell() const {
+        for (int c = 0; c < 81; ++c)
+            if (!game->board().CurrentGrid[c]) return {c, game->board().Solution[c]};
+        return {-1, 0};
+    }
+    // Places the right digit in the first open cell.
+    void PlaceOne() {
+        auto [cell, digit] = FirstOpenCell();
+        game->MarkMouseUp(digit, cell, MouseButton::Left, true);
+    }
+
+    static inline int counter = 0;
+    std::filesystem::path root;
+    LibraryFolders folders;
+    ScriptedPrompter prompter;
+    MemorySettingsStore store;
+    FakeClock clock;
+    FakeSounds sounds;
+    FakePages pages;
+    Options options;
+    std::optional<Game> game;
+};
+
+}  // namespace tavi::testing
