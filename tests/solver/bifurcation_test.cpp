@@ -1,0 +1,129 @@
+// Bifurcation on the boards where the head of the ladder gets stuck. The guess
+// that must be taken is worked out trial by trial here, so the tests hold the
+// rung to its order and its restore whatever the ladder learns later.
+#include <gtest/gtest.h>
+
+#include <optional>
+
+#include "solver/ladder.h"
+#include "solver/techniques.h"
+#include "support/boards.h"
+#include "support/puzzles.h"
+
+namespace tavi {
+namespace {
+
+struct Guess {
+    int digit, cell;
+    bool operator==(const Guess&) const = default;
+};
+
+// Boards from generated puzzles as the head of the ladder leaves them.
+std::vector<Board> StuckBoards(int count) {
+    std::vector<Board> boards;
+    for (const auto& p : testing::GeneratedPuzzles(count)) {
+        SolveContext ctx;
+        ctx.board = BoardFromPuzzle(p.puzzle);
+        int cells = ctx.board.EmptyCount();
+        bool contradiction = false;
+        if (!PreSolve(ctx, cells, contradiction) && !contradiction) boards.push_back(ctx.board);
+    }
+    return boards;
+}
+
+bool TrialSolves(const Board& board, Guess g) {
+    SolveContext trial = testing::ContextOn(board);
+    trial.ForceZet = true;
+    return BIFSolveSudoku(trial, g.digit, g.cell);
+}
+
+// The first two-candidate guess that the logic carries to the end, in the given
+// order of the loops: digit by digit, or cell by cell.
+std::optional<Guess> FirstWorkingGuess(const Board& b, bool digitFirst) {
+    for (int i = 0; i < 9 * 81; ++i) {
+        const Guess g = digitFirst ? Guess{1 + i / 81, i % 81} : Guess{1 + i % 9, i / 9};
+        if (CountDigits(b.Candidates[g.cell]) == 2 && b.Has(g.digit, g.cell) && TrialSolves(b, g))
+            return g;
+    }
+    return std::nullopt;
+}
+
+TEST(Bifurcation, GuessesDigitByDigitAndRestoresTheBoardBetweenTrials) {
+    int placed = 0, orderMatters = 0, failed = 0;
+    for (const Board& stuck : StuckBoards(150)) {
+        const auto expected = FirstWorkingGuess(stuck, true);
+        const auto cellFirst = FirstWorkingGuess(stuck, false);
+        std::vector<BoardChange> trace;
+        SolveContext ctx = testing::ContextOn(stuck);
+        ctx.trace = &trace;
+        ASSERT_EQ(Bifurcation(ctx), expected.has_value());
+        Board after = stuck;
+        if (expected) {
+            ++placed;
+            orderMatters += expected != cellFirst;
+            Zet(after, expected->digit, expected->cell);
+            after.CurrentGrid[expected->cell] = std::uint8_t(expected->digit);
+            EXPECT_EQ(ctx.SolvingLevel, 8);
+            ASSERT_EQ(trace.size(), 1u) << "the trials leave no trace";
+            EXPECT_EQ(trace[0].kind, BoardChange::Placed);
+            EXPECT_EQ((Guess{trace[0].digit, trace[0].cell}), *expected);
+        } else {
+            ++failed;
+            EXPECT_TRUE(trace.empty());
+        }
+        ASSERT_EQ(ctx.board.Candidates, after.Candidates) << FormatDigits(stuck.CurrentGrid, '.');
+        ASSERT_EQ(ctx.board.CurrentGrid, after.CurrentGrid);
+    }
+    EXPECT_GT(placed, 0);
+    EXPECT_GT(orderMatters, 0) << "no board told digit order from cell order";
+    EXPECT_GT(failed, 0) << "no board where every trial fails";
+}
+
+// A hint reaches Bifurcation with ForceZet set: the trials run for real, the
+// board comes back as it was, and the record names the guess.
+TEST(Bifurcation, UnderAHintFillsKindTwentyAndChangesNothing) {
+    int hints = 0;
+    for (const Board& stuck : StuckBoards(60)) {
+        const auto expected = FirstWorkingGuess(stuck, true);
+        testing::RecordingListener listener;
+        SolveContext ctx = testing::ContextOn(stuck, Side::Game);
+        ctx.HintOnly = ctx.ForceZet = true;
+        ctx.listener = &listener;
+        ctx.hint = testing::MarkedHint();
+        ASSERT_EQ(Bifurcation(ctx), expected.has_value());
+        EXPECT_TRUE(ctx.HintOnly && ctx.ForceZet) << "the flags are as they were";
+        ASSERT_EQ(ctx.board.Candidates, stuck.Candidates);
+        ASSERT_EQ(ctx.board.CurrentGrid, stuck.CurrentGrid);
+        EXPECT_TRUE(listener.placed.empty() && listener.removed.empty());
+        if (!expected) continue;
+        ++hints;
+        const HintRecord& h = ctx.hint;
+        EXPECT_EQ(h.HintKind, 20);
+        EXPECT_EQ((Guess{h.HintNumber, h.HintCell}), *expected);
+        EXPECT_EQ(h.HintVariant, -99);
+        EXPECT_EQ(h.HintRow, -99);
+    }
+    EXPECT_GT(hints, 0);
+}
+
+// While Autosolve plays, the guess is a move of the game; the trials are not.
+TEST(Bifurcation, AutosolvePlacesTheGuessThroughZetAuto) {
+    for (const Board& stuck : StuckBoards(40)) {
+        const auto expected = FirstWorkingGuess(stuck, true);
+        if (!expected) continue;
+        testing::RecordingListener listener;
+        SolveContext ctx = testing::ContextOn(stuck, Side::Game);
+        ctx.AutosolveActive = true;
+        ctx.listener = &listener;
+        ASSERT_TRUE(Bifurcation(ctx));
+        EXPECT_EQ(listener.placed,
+                  (std::vector<testing::Removal>{{expected->cell, expected->digit}}));
+        EXPECT_TRUE(listener.removed.empty());
+        EXPECT_FALSE(ctx.ForceZet);
+        return;
+    }
+    FAIL() << "no stuck board with a working guess";
+}
+
+}  // namespace
+}  // namespace tavi
