@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "cli/commands.h"
+#include "cli/library_commands.h"
 
 namespace {
 
@@ -19,7 +20,18 @@ constexpr const char* kUsage =
     "commands:\n"
     "  rate [--summary]   puzzle, level number and level name\n"
     "  solve              puzzle, unique/none/multiple, and the solution or -\n"
-    "  steps              every step of the ladder, then the result\n";
+    "  steps              every step of the ladder, then the result\n"
+    "\n"
+    "  generate --count N [--seed S]\n"
+    "        N minimal puzzles with one solution each, one per line\n"
+    "  library build --out DIR --per-level N [--seed S] [--minutes M]\n"
+    "        generate and rate puzzles, and write the nine .sds files of a library\n"
+    "        with up to N puzzles per level; stops after M minutes (default 10)\n"
+    "  library export FILE.sds\n"
+    "        one line per record: puzzle, solution and best time\n"
+    "  library import TEXTFILE --level L --dir DIR\n"
+    "        append the puzzles of TEXTFILE with their solutions to the .sds and\n"
+    "        .sdl files of level L (1-9) in DIR\n";
 
 int Usage(const std::string& problem) {
     if (!problem.empty()) std::cerr << "tavi-sudoku-cli: " << problem << "\n\n";
@@ -37,6 +49,9 @@ int main(int argc, char** argv) {
         std::cout << kUsage;
         return 0;
     }
+
+    if (command == "generate") return tavi::cli::GenerateCommand(args, std::cout, std::cerr);
+    if (command == "library") return tavi::cli::LibraryCommand(args, std::cout, std::cerr);
 
     tavi::cli::RateOptions rateOptions;
     std::string file;

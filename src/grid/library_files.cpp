@@ -154,4 +154,52 @@ bool WriteSudokuLogRecord(const fs::path& file, long number, const SudokuLogReco
     return WriteRecordBytes(file, number, ToBytes(record), why);
 }
 
+bool WriteSudokuFile(const fs::path& file, std::span<const SudokuRecord> records,
+                     std::string* why) {
+    fs::path temp = file;
+    temp += ".new";
+    bool ok;
+    {
+        std::ofstream out(temp, std::ios::binary | std::ios::trunc);
+        ok = out.is_open();
+        for (const SudokuRecord& r : records) {
+            if (!ok) break;
+            const auto bytes = ToBytes(r);
+            out.write(reinterpret_cast<const char*>(bytes.data()), std::streamsize(bytes.size()));
+            ok = bool(out);
+        }
+        out.close();
+        ok = ok && !out.fail();
+    }
+    std::error_code ec;
+    if (ok) fs::rename(temp, file, ec);
+    if (!ok || ec) {
+        fs::remove(temp, ec);
+        Say(why, "Error writing " + file.string() + ".");
+        return false;
+    }
+    return true;
+}
+
+bool ReadSudokuFile(const fs::path& file, std::vector<SudokuRecord>& records, std::size_t* trailing,
+                    std::string* why) {
+    const auto length = LengthOf(file);
+    if (!length) {
+        Say(why, file.string() + " was not found.");
+        return false;
+    }
+    std::ifstream in(file, std::ios::binary);
+    records.clear();
+    records.reserve(std::size_t(*length / kSudokuRecordSize));
+    SudokuRecordBytes bytes;
+    while (in.read(reinterpret_cast<char*>(bytes.data()), std::streamsize(bytes.size())))
+        records.push_back(SudokuRecordFromBytes(bytes));
+    if (records.size() != *length / kSudokuRecordSize) {
+        Say(why, "Could not read " + file.string() + ".");
+        return false;
+    }
+    if (trailing) *trailing = std::size_t(*length % kSudokuRecordSize);
+    return true;
+}
+
 }  // namespace tavi

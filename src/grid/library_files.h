@@ -14,6 +14,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "grid/levels.h"
 #include "grid/records.h"
@@ -64,5 +65,14 @@ bool ReadSudokuLogRecord(const std::filesystem::path& file, long number, SudokuL
 // more, and the record on disk keeps its former state.
 bool WriteSudokuLogRecord(const std::filesystem::path& file, long number,
                           const SudokuLogRecord& record, std::string* why = nullptr);
+
+// A whole `.sds` file at once, for the tools that make or walk a library. The
+// new file replaces the old one only when it was written in full.
+bool WriteSudokuFile(const std::filesystem::path& file, std::span<const SudokuRecord> records,
+                     std::string* why = nullptr);
+// Every whole record of a `.sds` file. `trailing` gets the bytes after the last
+// whole record (0 for a sound file).
+bool ReadSudokuFile(const std::filesystem::path& file, std::vector<SudokuRecord>& records,
+                    std::size_t* trailing = nullptr, std::string* why = nullptr);
 
 }  // namespace tavi

@@ -1,0 +1,272 @@
+#include "cli/library_commands.h"
+
+#include <algorithm>
+#include <array>
+#include <chrono>
+#include <fstream>
+#include <iomanip>
+#include <optional>
+#include <sstream>
+
+#include "cli/puzzle_lines.h"
+#include "grid/candidates.h"
+#include "grid/levels.h"
+#include "grid/library_files.h"
+#include "grid/library_pair.h"
+#include "solver/brute_force.h"
+#include "solver/generator.h"
+#include "solver/ladder.h"
+
+namespace tavi::cli {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr int kUsageError = 2;
+
+// The level the workbench gives a puzzle: the ladder's, Outlaw when it fails.
+int RateForLibrary(SolveContext& ctx, const Digits& puzzle) {
+    ctx.board = BoardFromPuzzle(puzzle);
+    ctx.SolvingLevel = 0;
+    return SolveSudoku(ctx, WorkbenchRun{}) ? ctx.SolvingLevel : kOutlaw;
+}
+
+std::string BestTime(const SudokuRecord& r) {
+    std::ostringstream s;
+    s << r.BestMinutes << ':' << std::setw(2) << std::setfill('0') << r.BestSeconds;
+    return s.str();
+}
+
+// Makes the log file of a pair whose puzzle file has none yet, one empty record
+// per puzzle, as the first run of the game would.
+bool EnsureLogFile(const fs::path& dir, std::string_view stem, std::ostream& err) {
+    const fs::path sdl = LogFile(dir, stem);
+    if (fs::exists(sdl)) return true;
+    const long puzzles = WholeRecords(PuzzleFile(dir, stem), kSudokuRecordSize);
+    const SudokuLogRecord empty;
+    for (long i = 1; i <= puzzles; ++i) {
+        std::string why;
+        if (!WriteSudokuLogRecord(sdl, i, empty, &why)) {
+            err << "tavi-sudoku-cli: " << why << '\n';
+            return false;
+        }
+    }
+    if (puzzles > 0) err << "made " << sdl.string() << " with " << puzzles << " empty records\n";
+    return true;
+}
+
+// Options of the form --name VALUE after the command words.
+struct Arguments {
+    std::vector<std::string> positional;
+    std::vector<std::pair<std::string, std::string>> named;
+    std::string problem;
+
+    std::optional<std::string> Get(std::string_view name) const {
+        for (const auto& [n, v] : named)
+            if (n == name) return v;
+        return std::nullopt;
+    }
+};
+
+Arguments Parse(const std::vector<std::string>& args, std::size_t first,
+                const std::vector<std::string_view>& known) {
+    Arguments a;
+    for (std::size_t i = first; i < args.size(); ++i) {
+        const std::string& arg = args[i];
+        if (arg.rfind("--", 0) != 0) {
+            a.positional.push_back(arg);
+            continue;
+        }
+        const std::string name = arg.substr(2);
+        if (std::find(known.begin(), known.end(), name) == known.end()) {
+            a.problem = "unknown option " + arg;
+        } else if (i + 1 >= args.size()) {
+            a.problem = "option " + arg + " needs a value";
+        } else {
+            a.named.emplace_back(name, args[++i]);
+            continue;
+        }
+        break;
+    }
+    return a;
+}
+
+std::optional<long long> Number(const std::optional<std::string>& text, long long low) {
+    if (!text) return std::nullopt;
+    try {
+        std::size_t used = 0;
+        const long long n = std::stoll(*text, &used);
+        if (used == text->size() && n >= low) return n;
+    } catch (const std::exception&) {
+    }
+    return std::nullopt;
+}
+
+std::optional<double> Minutes(const std::optional<std::string>& text) {
+    if (!text) return std::nullopt;
+    try {
+        std::size_t used = 0;
+        const double m = std::stod(*text, &used);
+        if (used == text->size() && m > 0) return m;
+    } catch (const std::exception&) {
+    }
+    return std::nullopt;
+}
+
+int Problem(std::ostream& err, const std::string& text) {
+    err << "tavi-sudoku-cli: " << text << '\n';
+    return kUsageError;
+}
+
+}  // namespace
+
+int Generate(long count, std::uint64_t seed, std::ostream& out) {
+    PuzzleGenerator generator(seed);
+    for (long i = 0; i < count; ++i)
+        out << FormatDigits(generator.Next().puzzle) << '\n';
+    return 0;
+}
+
+int BuildLibrary(const BuildOptions& options, std::ostream& out, std::ostream& err) {
+    std::error_code ec;
+    fs::create_directories(options.out, ec);
+    if (!fs::is_directory(options.out, ec))
+        return Problem(err, "can't make the folder " + options.out.string());
+
+    PuzzleGenerator generator(options.seed);
+    SolveContext ctx(Side::Workbench);
+    std::array<std::vector<SudokuRecord>, 10> levels;
+    const auto start = std::chrono::steady_clock::now();
+    const auto limit = std::chrono::duration<double>(options.minutes * 60);
+    long made = 0;
+    int full = 0;
+    while (full < kLevelCount && std::chrono::steady_clock::now() - start < limit) {
+        const GeneratedPuzzle g = generator.Next();
+        ++made;
+        auto& level = levels[RateForLibrary(ctx, g.puzzle)];
+        if (long(level.size()) >= options.perLevel) continue;
+        level.push_back({g.puzzle, g.solution, 0, 0});
+        if (long(level.size()) == options.perLevel) ++full;
+    }
+
+    int status = 0;
+    for (int level = 1; level <= kLevelCount; ++level) {
+        std::string why;
+        if (!WriteSudokuFile(PuzzleFile(options.out, LevelStem(level)), levels[level], &why)) {
+            err << "tavi-sudoku-cli: " << why << '\n';
+            status = kUsageError;
+        }
+        out << LevelName(level) << '\t' << levels[level].size() << '\n';
+    }
+    out << "generated\t" << made << '\n';
+    return status;
+}
+
+int ExportLibrary(const fs::path& sdsFile, std::ostream& out, std::ostream& err) {
+    std::vector<SudokuRecord> records;
+    std::size_t trailing = 0;
+    std::string why;
+    if (!ReadSudokuFile(sdsFile, records, &trailing, &why)) return Problem(err, why);
+    for (const SudokuRecord& r : records)
+        out << FormatDigits(r.Puzzle) << '\t' << FormatDigits(r.Solution) << '\t' << BestTime(r)
+            << '\n';
+    if (trailing) {
+        err << sdsFile.string() << " is damaged: " << trailing
+            << " bytes after the last whole record were left out\n";
+        return 1;
+    }
+    return 0;
+}
+
+int ImportLibrary(std::istream& in, int level, const fs::path& dir, std::ostream& out,
+                  std::ostream& err) {
+    if (!IsLevel(level)) return Problem(err, "the level must be 1 to 9");
+    const std::string_view stem = LevelStem(level);
+    if (!EnsureLogFile(dir, stem, err)) return kUsageError;
+
+    SolveContext ctx(Side::Workbench);
+    long added = 0, first = 0;
+    int skipped = 0;
+    bool failed = false;
+    skipped += ForEachPuzzle(in, err, [&](const PuzzleLine& p) {
+        if (failed) return;
+        ctx.board = Board{};
+        ctx.board.Puzzle = p.digits;
+        bool contradiction = false;
+        const int solutions = BruteForceSolutions(ctx, contradiction);
+        if (solutions != 1) {
+            err << "line " << p.lineNumber << ": "
+                << (solutions == 0 ? "no solution" : "more than one solution") << ", skipped\n";
+            ++skipped;
+            return;
+        }
+        const SudokuRecord record{p.digits, ctx.board.CurrentGrid, 0, 0};
+        long number = 0;
+        std::string why;
+        if (!AppendToPair(dir, stem, record, SudokuLogRecord{}, &number, &why)) {
+            err << "tavi-sudoku-cli: " << why << '\n';
+            failed = true;
+            return;
+        }
+        if (!added++) first = number;
+    });
+    if (added)
+        out << "added " << added << " puzzles to " << PuzzleFileName(stem) << " as records "
+            << first << " to " << first + added - 1 << '\n';
+    else
+        out << "added no puzzles to " << PuzzleFileName(stem) << '\n';
+    if (failed) return kUsageError;
+    return skipped ? 1 : 0;
+}
+
+int GenerateCommand(const std::vector<std::string>& args, std::ostream& out, std::ostream& err) {
+    const Arguments a = Parse(args, 1, {"count", "seed"});
+    if (!a.problem.empty()) return Problem(err, a.problem);
+    if (!a.positional.empty()) return Problem(err, "generate takes no file");
+    const auto count = Number(a.Get("count"), 0);
+    const auto seed = a.Get("seed") ? Number(a.Get("seed"), 0) : std::optional<long long>(1);
+    if (!count) return Problem(err, "generate needs --count N, N at least 0");
+    if (!seed) return Problem(err, "--seed needs a whole number of at least 0");
+    return Generate(long(*count), std::uint64_t(*seed), out);
+}
+
+int LibraryCommand(const std::vector<std::string>& args, std::ostream& out, std::ostream& err) {
+    const std::string action = args.size() > 1 ? args[1] : "";
+    if (action == "build") {
+        const Arguments a = Parse(args, 2, {"out", "per-level", "seed", "minutes"});
+        if (!a.problem.empty()) return Problem(err, a.problem);
+        BuildOptions options;
+        const auto perLevel = Number(a.Get("per-level"), 1);
+        const auto seed = a.Get("seed") ? Number(a.Get("seed"), 0) : std::optional<long long>(1);
+        const auto minutes = a.Get("minutes") ? Minutes(a.Get("minutes")) : options.minutes;
+        if (!a.Get("out") || !perLevel || !a.positional.empty())
+            return Problem(err, "library build needs --out DIR and --per-level N");
+        if (!seed) return Problem(err, "--seed needs a whole number of at least 0");
+        if (!minutes) return Problem(err, "--minutes needs a number above 0");
+        options.out = *a.Get("out");
+        options.perLevel = long(*perLevel);
+        options.seed = std::uint64_t(*seed);
+        options.minutes = *minutes;
+        return BuildLibrary(options, out, err);
+    }
+    if (action == "export") {
+        const Arguments a = Parse(args, 2, {});
+        if (!a.problem.empty()) return Problem(err, a.problem);
+        if (a.positional.size() != 1) return Problem(err, "library export needs one FILE.sds");
+        return ExportLibrary(a.positional[0], out, err);
+    }
+    if (action == "import") {
+        const Arguments a = Parse(args, 2, {"level", "dir"});
+        if (!a.problem.empty()) return Problem(err, a.problem);
+        const auto level = Number(a.Get("level"), 1);
+        if (a.positional.size() != 1 || !level || *level > kLevelCount || !a.Get("dir"))
+            return Problem(err, "library import needs TEXTFILE, --level 1..9 and --dir DIR");
+        std::ifstream in(a.positional[0]);
+        if (!in) return Problem(err, "cannot open " + a.positional[0]);
+        return ImportLibrary(in, int(*level), *a.Get("dir"), out, err);
+    }
+    return Problem(err, "library needs build, export or import");
+}
+
+}  // namespace tavi::cli

@@ -1,0 +1,44 @@
+// The commands of tavi-sudoku-cli that make puzzles and move them in and out of
+// library files: generate, library build, library export and library import.
+// Each answers the exit status: 0, 1 when some input was skipped, 2 when the
+// command could not do its work.
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <istream>
+#include <ostream>
+#include <string>
+#include <vector>
+
+namespace tavi::cli {
+
+// `count` minimal puzzles with one solution each, one per line; the same seed
+// gives the same puzzles.
+int Generate(long count, std::uint64_t seed, std::ostream& out);
+
+struct BuildOptions {
+    std::filesystem::path out;
+    long perLevel = 0;
+    std::uint64_t seed = 1;
+    double minutes = 10;  // stop after this long even when levels are short
+};
+// Generates and rates puzzles until every level has `perLevel` of them or the
+// time is up, then writes the nine `.sds` files (best time 0) and reports the
+// count per level.
+int BuildLibrary(const BuildOptions& options, std::ostream& out, std::ostream& err);
+
+// One line per record: puzzle, tab, solution, tab, best time as m:ss.
+int ExportLibrary(const std::filesystem::path& sdsFile, std::ostream& out, std::ostream& err);
+
+// Appends the puzzles of `in` to the pair of `level` in `dir` with their
+// brute-force solutions; lines that are no puzzle or have no unique solution are
+// reported by line number and skipped.
+int ImportLibrary(std::istream& in, int level, const std::filesystem::path& dir, std::ostream& out,
+                  std::ostream& err);
+
+// The command lines: args[0] is "generate" or "library".
+int GenerateCommand(const std::vector<std::string>& args, std::ostream& out, std::ostream& err);
+int LibraryCommand(const std::vector<std::string>& args, std::ostream& out, std::ostream& err);
+
+}  // namespace tavi::cli

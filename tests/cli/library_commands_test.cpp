@@ -1,0 +1,188 @@
+#include "cli/library_commands.h"
+
+#include <gtest/gtest.h>
+
+#include <sstream>
+
+#include "grid/levels.h"
+#include "grid/library_files.h"
+#include "grid/library_test_support.h"
+#include "solver/generator.h"
+
+namespace tavi::cli {
+namespace {
+
+namespace fs = std::filesystem;
+using tavi::testing::TempDir;
+
+struct Output {
+    int status;
+    std::string out, err;
+};
+
+Output RunCommand(int (*command)(const std::vector<std::string>&, std::ostream&, std::ostream&),
+                  std::vector<std::string> args) {
+    std::ostringstream out, err;
+    const int status = command(args, out, err);
+    return {status, out.str(), err.str()};
+}
+
+std::vector<std::string> Lines(const std::string& text) {
+    std::vector<std::string> lines;
+    std::istringstream in(text);
+    for (std::string line; std::getline(in, line);)
+        lines.push_back(line);
+    return lines;
+}
+
+TEST(CliGenerate, TheSameSeedGivesTheSameMinimalUniquePuzzles) {
+    const Output a = RunCommand(GenerateCommand, {"generate", "--count", "4", "--seed", "99"});
+    const Output b = RunCommand(GenerateCommand, {"generate", "--seed", "99", "--count", "4"});
+    const Output c = RunCommand(GenerateCommand, {"generate", "--count", "4", "--seed", "100"});
+    EXPECT_EQ(a.status, 0);
+    EXPECT_EQ(a.out, b.out);
+    EXPECT_NE(a.out, c.out);
+    const auto lines = Lines(a.out);
+    ASSERT_EQ(lines.size(), 4u);
+    for (const std::string& line : lines) {
+        const auto puzzle = ParseDigits(line);
+        ASSERT_TRUE(puzzle) << line;
+        EXPECT_EQ(line.size(), 81u);
+        EXPECT_EQ(CountSolutions(*puzzle), 1);
+        for (int c = 0; c < 81; ++c) {  // every clue is needed
+            if (!(*puzzle)[c]) continue;
+            Digits fewer = *puzzle;
+            fewer[c] = 0;
+            EXPECT_EQ(CountSolutions(fewer), 2) << line << " cell " << c;
+        }
+    }
+}
+
+TEST(CliGenerate, BadArgumentsAreUsageErrors) {
+    EXPECT_EQ(RunCommand(GenerateCommand, {"generate"}).status, 2);
+    EXPECT_EQ(RunCommand(GenerateCommand, {"generate", "--count", "x"}).status, 2);
+    EXPECT_EQ(RunCommand(GenerateCommand, {"generate", "--count", "-1"}).status, 2);
+    EXPECT_EQ(RunCommand(GenerateCommand, {"generate", "--count"}).status, 2);
+    EXPECT_EQ(RunCommand(GenerateCommand, {"generate", "--count", "1", "--colour", "red"}).status,
+              2);
+}
+
+TEST(CliLibrary, BuildWritesNineRatedFilesAndReportsTheCounts) {
+    TempDir dir;
+    const Output o = RunCommand(LibraryCommand, {"library", "build", "--out", dir.path().string(),
+                                                 "--per-level", "2", "--minutes", "0.05"});
+    EXPECT_EQ(o.status, 0) << o.err;
+    const auto lines = Lines(o.out);
+    ASSERT_EQ(lines.size(), 10u) << o.out;
+    EXPECT_EQ(lines[0].rfind("Easy\t", 0), 0u);
+    for (int level = 1; level <= 9; ++level) {
+        const fs::path sds = PuzzleFile(dir.path(), LevelStem(level));
+        ASSERT_TRUE(FileExists(sds)) << level;
+        std::vector<SudokuRecord> records;
+        ASSERT_TRUE(ReadSudokuFile(sds, records));
+        EXPECT_LE(records.size(), 2u);
+        EXPECT_EQ(lines[level - 1],
+                  std::string(LevelName(level)) + "\t" + std::to_string(records.size()));
+        for (const SudokuRecord& r : records) {
+            Digits solution{};
+            EXPECT_EQ(CountSolutions(r.Puzzle, 2, &solution), 1);
+            EXPECT_EQ(r.Solution, solution);
+            EXPECT_EQ(r.BestMinutes, 0);
+            EXPECT_EQ(r.BestSeconds, 0);
+        }
+        EXPECT_FALSE(fs::exists(LogFile(dir.path(), LevelStem(level))));
+    }
+    // Easy puzzles come often enough to fill their two places at once.
+    EXPECT_EQ(lines[0], "Easy\t2");
+}
+
+TEST(CliLibrary, ImportAppendsWithSolutionsAndSkipsBadLinesByNumber) {
+    TempDir dir;
+    const auto& puzzles = tavi::testing::GeneratedPuzzles(3);
+    Digits twoSolutions = puzzles[0].puzzle;
+    for (int c = 0; c < 81; ++c)
+        if (twoSolutions[c]) {
+            twoSolutions[c] = 0;
+            break;
+        }
+    Digits clash = puzzles[1].puzzle;
+    clash[0] = clash[1] = 0;
+    clash[0] = clash[1] = 5;
+    const fs::path text = dir / "in.txt";
+    {
+        std::ofstream f(text);
+        f << FormatDigits(puzzles[0].puzzle) << "\n"   // 1
+          << "not a puzzle at all\n"                   // 2
+          << FormatDigits(twoSolutions, '.') << "\n"   // 3
+          << "\n"                                      // 4
+          << FormatDigits(clash) << "\n"               // 5
+          << FormatDigits(puzzles[1].puzzle) << "\n";  // 6
+    }
+    const std::string d = dir.path().string();
+    Output o = RunCommand(LibraryCommand,
+                          {"library", "import", text.string(), "--level", "4", "--dir", d});
+    EXPECT_EQ(o.status, 1);
+    EXPECT_NE(o.err.find("line 2:"), std::string::npos) << o.err;
+    EXPECT_NE(o.err.find("line 3: more than one solution"), std::string::npos) << o.err;
+    EXPECT_NE(o.err.find("line 5: no solution"), std::string::npos) << o.err;
+    EXPECT_EQ(o.out, "added 2 puzzles to Sudoku_Crazy.sds as records 1 to 2\n");
+
+    const fs::path sds = PuzzleFile(dir.path(), LevelStem(4));
+    std::vector<SudokuRecord> records;
+    ASSERT_TRUE(ReadSudokuFile(sds, records));
+    ASSERT_EQ(records.size(), 2u);
+    EXPECT_EQ(records[0].Puzzle, puzzles[0].puzzle);
+    EXPECT_EQ(records[0].Solution, puzzles[0].solution);
+    EXPECT_EQ(records[1].Solution, puzzles[1].solution);
+    EXPECT_EQ(WholeRecords(LogFile(dir.path(), LevelStem(4)), kSudokuLogRecordSize), 2);
+
+    // A second import goes after the first; a level without its log gets one.
+    fs::remove(LogFile(dir.path(), LevelStem(4)));
+    o = RunCommand(LibraryCommand,
+                   {"library", "import", text.string(), "--level", "4", "--dir", d});
+    EXPECT_EQ(o.out, "added 2 puzzles to Sudoku_Crazy.sds as records 3 to 4\n");
+    EXPECT_EQ(WholeRecords(LogFile(dir.path(), LevelStem(4)), kSudokuLogRecordSize), 4);
+
+    EXPECT_EQ(RunCommand(LibraryCommand,
+                         {"library", "import", text.string(), "--level", "10", "--dir", d})
+                  .status,
+              2);
+}
+
+TEST(CliLibrary, ExportWritesPuzzleSolutionAndBestTimeAndFlagsADamagedFile) {
+    TempDir dir;
+    const fs::path sds = dir / "x.sds";
+    SudokuRecord a = tavi::testing::RecordOf(0), b = tavi::testing::RecordOf(1);
+    a.BestMinutes = 3;
+    a.BestSeconds = 7;
+    b.BestMinutes = b.BestSeconds = 0;
+    ASSERT_TRUE(WriteSudokuRecord(sds, 1, a));
+    ASSERT_TRUE(WriteSudokuRecord(sds, 2, b));
+    Output o = RunCommand(LibraryCommand, {"library", "export", sds.string()});
+    EXPECT_EQ(o.status, 0);
+    EXPECT_EQ(o.out, FormatDigits(a.Puzzle) + "\t" + FormatDigits(a.Solution) + "\t3:07\n" +
+                         FormatDigits(b.Puzzle) + "\t" + FormatDigits(b.Solution) + "\t0:00\n");
+
+    // Exported lines import again as the same puzzles.
+    std::istringstream in(o.out);
+    std::ostringstream out, err;
+    EXPECT_EQ(ImportLibrary(in, 1, dir.path(), out, err), 0) << err.str();
+    std::vector<SudokuRecord> back;
+    ASSERT_TRUE(ReadSudokuFile(PuzzleFile(dir.path(), LevelStem(1)), back));
+    ASSERT_EQ(back.size(), 2u);
+    EXPECT_EQ(back[0].Puzzle, a.Puzzle);
+    EXPECT_EQ(back[1].Solution, b.Solution);
+
+    std::ofstream(sds, std::ios::app) << "tail";
+    o = RunCommand(LibraryCommand, {"library", "export", sds.string()});
+    EXPECT_EQ(o.status, 1);
+    EXPECT_EQ(Lines(o.out).size(), 2u);
+    EXPECT_NE(o.err.find("damaged: 4 bytes"), std::string::npos) << o.err;
+
+    EXPECT_EQ(RunCommand(LibraryCommand, {"library", "export", (dir / "none.sds").string()}).status,
+              2);
+    EXPECT_EQ(RunCommand(LibraryCommand, {"library", "shuffle"}).status, 2);
+}
+
+}  // namespace
+}  // namespace tavi::cli
