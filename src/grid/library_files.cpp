@@ -81,9 +81,11 @@ bool WriteRecordBytes(const fs::path& file, long number, std::span<const std::ui
         Say(why, "Can't write to " + file.string() + ": it is not a readable file.");
         return false;
     }
-    const std::uintmax_t offset = number >= 1 ? std::uintmax_t(number - 1) * size : 0;
-    const bool inPlace = number >= 1 && offset + size <= *length;
-    const bool append = number >= 1 && offset == *length;
+    // Compared as record numbers first, so that no huge number can wrap the offset.
+    const std::uintmax_t whole = *length / size;
+    const bool inPlace = number >= 1 && std::uintmax_t(number) <= whole;
+    const bool append = number >= 1 && *length % size == 0 && std::uintmax_t(number) == whole + 1;
+    const std::uintmax_t offset = inPlace || append ? std::uintmax_t(number - 1) * size : 0;
     if (!inPlace && !append) {
         if (*length % size != 0)
             Say(why, Name(file) + " is damaged: its length " + std::to_string(*length) +

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
+
 #include "grid/library_test_support.h"
 
 namespace tavi {
@@ -119,6 +121,12 @@ TEST(LibraryRecords, WritesNeverLeaveAGapOrGrowADamagedFile) {
     EXPECT_TRUE(WriteSudokuRecord(sds, 1, RecordOf(0)));
     EXPECT_FALSE(WriteSudokuRecord(sds, 3, RecordOf(0), &why));
     EXPECT_FALSE(WriteSudokuRecord(sds, 0, RecordOf(0), &why));
+    // A number so large that its offset would wrap round to the start.
+    EXPECT_FALSE(WriteSudokuRecord(sds, long(std::numeric_limits<std::uintmax_t>::max() / 166 + 2),
+                                   RecordOf(3), &why));
+    SudokuRecord first;
+    ASSERT_TRUE(ReadSudokuRecord(sds, 1, first));
+    EXPECT_EQ(first, RecordOf(0));
     EXPECT_EQ(fs::file_size(sds), 166u);
 
     auto bytes = FileBytes(sds);

@@ -113,19 +113,5 @@ TEST(SavedClockSign, AnEnormousClockIsClampedNotWrapped) {
     EXPECT_GT(ReadClock(l).seconds, 0);
 }
 
-TEST(UserDigits, OnlyDigitsOutsideTheCluesCount) {
-    const SudokuRecord s = RecordOf(0);
-    SudokuLogRecord l;
-    EXPECT_FALSE(HasUserDigits(s, l));  // as made at the first run
-    l.Grid = s.Puzzle;
-    EXPECT_FALSE(HasUserDigits(s, l));  // as left by erasing the progress
-    for (int c = 0; c < 81; ++c)
-        if (!s.Puzzle[c]) {
-            l.Grid[c] = s.Solution[c];
-            break;
-        }
-    EXPECT_TRUE(HasUserDigits(s, l));
-}
-
 }  // namespace
 }  // namespace tavi
