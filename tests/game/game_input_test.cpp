@@ -1,0 +1,271 @@
+// Cell input and the move log: placing and taking away marks under each option,
+// the step each click writes, undo and redo, Reset Cell, filters and brushes.
+#include "support/game_fixture.h"
+
+namespace tavi::testing {
+namespace {
+
+class Input : public GameFixture {
+public:
+    Game& Playing(int level) {
+        Game& g = Started();
+        g.OptionType(level);
+        g.CommandNew();
+        return g;
+    }
+    // An open cell with at least two marks, other than its solution, that a peer
+    // in the same row also carries; and that digit.
+    std::pair<int, int> OpenCellWithWrongMark() {
+        const Board& b = game->board();
+        for (int c = 0; c < 81; ++c) {
+            if (b.CurrentGrid[c]) continue;
+            for (int d = 1; d <= 9; ++d)
+                if (d != b.Solution[c] && b.Has(d, c)) return {c, d};
+        }
+        return {-1, 0};
+    }
+    std::array<CandidateMask, 81> Marks() const { return game->board().Candidates; }
+};
+
+TEST_F(Input, PlacingTakesTheCellsMarksAndThePeersMarks) {
+    Game& g = Playing(5);
+    auto [cell, digit] = FirstOpenCell();
+    const auto before = Marks();
+    g.MarkMouseUp(digit, cell, MouseButton::Left, true);
+    EXPECT_EQ(g.board().CurrentGrid[cell], digit);
+    EXPECT_EQ(g.board().Candidates[cell], 0);
+    ASSERT_EQ(g.CurrentStep(), 1);
+    const MoveStep& s = g.MoveLog()[0];
+    EXPECT_EQ(s.LogDigit, digit);
+    EXPECT_EQ(s.LogCell, cell);
+    EXPECT_EQ(s.LogOwnMarks, before[cell]);
+    for (int peer : Peers[cell]) EXPECT_FALSE(g.board().Has(digit, peer));
+    // The masks name exactly the peers that lost the mark.
+    int lost = 0;
+    for (int peer : Peers[cell]) lost += HasDigit(before[peer], digit);
+    EXPECT_EQ(std::popcount(unsigned(s.LogColumnMarks)) + std::popcount(unsigned(s.LogRowMarks)) +
+                  std::popcount(unsigned(s.LogBoxMarks)),
+              lost);
+    EXPECT_EQ(g.LabelStap(), "1");
+    EXPECT_TRUE(g.commands().Undo);
+    EXPECT_FALSE(g.commands().Redo);
+    EXPECT_EQ(sounds.played, std::vector<int>{});  // sounds are off by default
+}
+
+TEST_F(Input, WithoutAutomaticUpdateOnlyTheCellLosesItsMarks) {
+    Game& g = Playing(5);
+    options.Pencilmarks = false;
+    auto [cell, digit] = FirstOpenCell();
+    const auto before = Marks();
+    g.MarkMouseUp(digit, cell, MouseButton::Left, true);
+    for (int c = 0; c < 81; ++c)
+        if (c != cell) EXPECT_EQ(g.board().Candidates[c], before[c]);
+    const MoveStep& s = g.MoveLog()[0];
+    EXPECT_EQ(s.LogColumnMarks | s.LogRowMarks | s.LogBoxMarks, 0);
+}
+
+TEST_F(Input, PencilmarksOffMattersOnlyBelowLevelFour) {
+    options.PencilmarksOff = true;
+    options.Sounds = true;
+    for (int level : {3, 4}) {
+        Game& g = Playing(level);
+        options.PencilmarksOff = true;
+        auto [cell, digit] = FirstOpenCell();
+        const int other = digit % 9 + 1;
+        const bool below = level < 4;
+        EXPECT_EQ(g.MarkCaptionsShown(), !below);
+        const bool had = g.board().Has(other, cell);
+        g.MarkMouseUp(other, cell, MouseButton::Right, true);
+        EXPECT_EQ(g.CurrentStep(), !below && had ? 1 : 0) << level;
+        const auto before = Marks();
+        g.MarkMouseUp(digit, cell, MouseButton::Left, true);
+        EXPECT_EQ(g.board().CurrentGrid[cell], digit);
+        int peersChanged = 0;
+        for (int peer : Peers[cell]) peersChanged += before[peer] != g.board().Candidates[peer];
+        if (below) {
+            EXPECT_EQ(peersChanged, 0) << "level " << level;
+        } else {
+            EXPECT_GT(peersChanged, 0) << "level " << level;
+        }
+    }
+}
+
+TEST_F(Input, TakingAMarkAwayAndTheOnlyMarkLeft) {
+    Game& g = Playing(6);
+    auto [cell, digit] = OpenCellWithWrongMark();
+    ASSERT_GE(cell, 0);
+    g.MarkMouseUp(digit, cell, MouseButton::Right, true);
+    EXPECT_FALSE(g.board().Has(digit, cell));
+    EXPECT_EQ(g.MoveLog().back().LogDigit, -digit);
+    EXPECT_EQ(g.MoveLog().back().LogOwnMarks, DigitBit(digit));
+    // Take every mark: the cell may end with none at all.
+    for (int d = 1; d <= 9; ++d)
+        if (g.board().Has(d, cell)) g.MarkMouseUp(d, cell, MouseButton::Right, true);
+    EXPECT_EQ(g.board().Candidates[cell], 0);
+    EXPECT_EQ(g.board().CurrentGrid[cell], 0);
+}
+
+TEST_F(Input, AReleaseOutsideTheMarkAndTheMiddleButton) {
+    Game& g = Playing(2);
+    auto [cell, digit] = FirstOpenCell();
+    g.MarkMouseUp(digit, cell, MouseButton::Left, false);
+    EXPECT_EQ(g.board().CurrentGrid[cell], 0);
+    EXPECT_EQ(g.CurrentStep(), 0);
+    const auto before = Marks();
+    g.MarkMouseUp(digit, cell, MouseButton::Middle, true);
+    ASSERT_EQ(g.CurrentStep(), 1);
+    EXPECT_EQ(g.MoveLog()[0].LogDigit, 0);
+    EXPECT_EQ(Marks(), before);
+    g.CommandUndo();  // changes nothing but the counter
+    EXPECT_EQ(g.CurrentStep(), 0);
+    EXPECT_EQ(Marks(), before);
+}
+
+TEST_F(Input, UndoRedoRestoreExactlyWhateverTheOptionsSayNow) {
+    Game& g = Playing(5);
+    auto [cell, digit] = FirstOpenCell();
+    // A peer's mark of the digit taken away by hand first stays away after undo.
+    int handPeer = -1;
+    for (int peer : Peers[cell])
+        if (g.board().Has(digit, peer) && CountDigits(g.board().Candidates[peer]) > 1) {
+            handPeer = peer;
+            break;
+        }
+    ASSERT_GE(handPeer, 0);
+    g.MarkMouseUp(digit, handPeer, MouseButton::Right, true);
+    const auto beforePlace = Marks();
+    g.MarkMouseUp(digit, cell, MouseButton::Left, true);
+    const auto afterPlace = Marks();
+    options.Pencilmarks = false;
+    g.CommandUndo();
+    EXPECT_EQ(Marks(), beforePlace);
+    EXPECT_FALSE(g.board().Has(digit, handPeer));
+    EXPECT_EQ(g.board().CurrentGrid[cell], 0);
+    EXPECT_TRUE(g.commands().Redo);
+    g.CommandRedo();
+    EXPECT_EQ(Marks(), afterPlace);
+    EXPECT_EQ(g.board().CurrentGrid[cell], digit);
+    EXPECT_FALSE(g.commands().Redo);
+    g.CommandUndo();
+    g.CommandUndo();
+    EXPECT_EQ(g.CurrentStep(), 0);
+    EXPECT_FALSE(g.commands().Undo);
+    EXPECT_TRUE(g.board().Has(digit, handPeer));
+    // A new step wipes the redo tail.
+    g.CommandRedo();
+    auto [cell2, digit2] = FirstOpenCell();
+    (void)cell2;
+    g.MarkMouseUp(digit2, cell2 == cell ? cell : cell2, MouseButton::Left, true);
+    EXPECT_EQ(g.LastStep(), 2);
+    EXPECT_FALSE(g.commands().Redo);
+    // Undo at 0 leaves Save refusing.
+    g.CommandUndo();
+    g.CommandUndo();
+    prompter.shown.clear();
+    g.CommandSave();
+    EXPECT_EQ(prompter.Texts(),
+              std::vector<std::string>{
+                  "You cannot save a sudoku that hasn't been changed since it was opened !"});
+}
+
+TEST_F(Input, ResetCellAndItsUndo) {
+    Game& g = Playing(4);
+    auto [cell, digit] = FirstOpenCell();
+    g.MarkMouseUp(digit, cell, MouseButton::Left, true);
+    const auto placed = Marks();
+    g.CommandResetCell();  // nothing selected
+    EXPECT_EQ(g.CurrentStep(), 1);
+    g.RowHeaderUp(cell / 9, MouseButton::Left, true);
+    g.ColumnHeaderUp(cell % 9, MouseButton::Left, true);
+    g.CommandResetCell();
+    ASSERT_EQ(g.CurrentStep(), 2);
+    EXPECT_EQ(g.MoveLog()[1].LogDigit, digit + 10);
+    EXPECT_EQ(g.board().CurrentGrid[cell], 0);
+    EXPECT_EQ(g.board().Candidates[cell], kAllCandidates);
+    for (int peer : Peers[cell]) EXPECT_EQ(g.board().Candidates[peer], placed[peer]);
+    g.CommandUndo();
+    EXPECT_EQ(g.board().CurrentGrid[cell], digit);
+    EXPECT_EQ(Marks(), placed);
+    // On an empty cell the step is 10; on a clue nothing happens at all.
+    g.CommandUndo();
+    g.CommandResetCell();
+    EXPECT_EQ(g.MoveLog().back().LogDigit, 10);
+    int clue = 0;
+    while (!g.IsClue(clue)) ++clue;
+    g.RowHeaderUp(clue / 9, MouseButton::Left, true);
+    g.ColumnHeaderUp(clue % 9, MouseButton::Left, true);
+    const int steps = g.CurrentStep();
+    g.CommandResetCell();
+    EXPECT_EQ(g.CurrentStep(), steps);
+}
+
+TEST_F(Input, HeadersToggleAndFiltersSurviveSteps) {
+    Game& g = Playing(2);
+    g.RowHeaderUp(4, MouseButton::Left, true);
+    EXPECT_EQ(g.SelectedRow, 4);
+    g.RowHeaderUp(4, MouseButton::Left, true);
+    EXPECT_EQ(g.SelectedRow, kNoLine);
+    auto [cell, digit] = FirstOpenCell();
+    const int other = digit % 9 + 1;
+    g.DigitButtonUp(other, MouseButton::Left, true);
+    EXPECT_FALSE(g.FilterOn(other));
+    // A filtered digit can't be clicked, but its marks stay candidates.
+    const bool had = g.board().Has(other, cell);
+    g.MarkMouseUp(other, cell, MouseButton::Left, true);
+    EXPECT_EQ(g.CurrentStep(), 0);
+    EXPECT_EQ(g.board().Has(other, cell), had);
+    g.MarkMouseUp(digit, cell, MouseButton::Left, true);
+    g.CommandUndo();
+    g.CommandRedo();
+    EXPECT_FALSE(g.FilterOn(other));
+    g.DigitButtonUp(other, MouseButton::Left, true);
+    EXPECT_TRUE(g.FilterOn(other));
+}
+
+TEST_F(Input, BrushesPaintAndDoNotPlay) {
+    Game& g = Playing(2);
+    auto [cell, digit] = FirstOpenCell();
+    g.PaletteUp(0, MouseButton::Left, true);  // a mark brush on the left button
+    g.PaletteUp(7, MouseButton::Right, true); // a cell brush on the right
+    EXPECT_EQ(g.brush().PaletteCaptions[0], " L");
+    EXPECT_EQ(g.brush().PaletteCaptions[7], " R");
+    EXPECT_TRUE(g.brush().BrushActive);
+    g.MarkMouseUp(digit, cell, MouseButton::Left, true);
+    EXPECT_EQ(g.CurrentStep(), 0);
+    EXPECT_EQ(g.board().CurrentGrid[cell], 0);
+    EXPECT_EQ(g.MarkPaint(digit, cell), options.colors.LabelBack[0]);
+    g.MarkMouseUp(digit, cell, MouseButton::Left, true);  // the same colour again: off
+    EXPECT_FALSE(g.MarkPaint(digit, cell).has_value());
+    g.MarkMouseUp(digit, cell, MouseButton::Right, true);
+    EXPECT_EQ(g.CellPaint(cell), options.colors.LabelBack[7]);
+    EXPECT_EQ(g.MarkPaint(digit % 9 + 1, cell), options.colors.LabelBack[7]);
+    g.RowHeaderUp(8, MouseButton::Right, true);
+    for (int c = 72; c < 81; ++c) EXPECT_EQ(g.CellPaint(c), options.colors.LabelBack[7]);
+    EXPECT_EQ(g.SelectedRow, kNoLine);
+    // The left brush moves to label 7: the right one drops.
+    g.PaletteUp(7, MouseButton::Left, true);
+    EXPECT_FALSE(g.brush().RightBrush);
+    EXPECT_EQ(g.brush().PaletteCaptions[0], "");
+    g.PaletteUp(5, MouseButton::Left, true);  // wipe
+    EXPECT_FALSE(g.CellPaint(cell).has_value());
+    g.PaletteUp(4, MouseButton::Left, true);  // clear the brushes
+    EXPECT_FALSE(g.brush().BrushActive);
+    g.MarkMouseUp(digit, cell, MouseButton::Left, true);
+    EXPECT_EQ(g.board().CurrentGrid[cell], digit);
+}
+
+TEST_F(Input, HoverOnlyWithDimmedMarks) {
+    Game& g = Playing(2);
+    g.MarkMouseMove(3, 10);
+    EXPECT_EQ(g.HoverCell, 81);
+    options.Dimmed = true;
+    g.MarkMouseMove(3, 10);
+    EXPECT_EQ(g.HoverCell, 2 * 81 + 10);
+    EXPECT_FALSE(g.MarkDimmed(3, 10));
+    EXPECT_TRUE(g.MarkDimmed(4, 10));
+    g.GridMouseMove();
+    EXPECT_EQ(g.HoverCell, kNoHover);
+}
+
+}  // namespace
+}  // namespace tavi::testing

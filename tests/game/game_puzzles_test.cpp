@@ -1,0 +1,284 @@
+// Puzzles in and out: New and Open with their questions, the load of a saved
+// game, Save and its refusals, Solution, the end of a game and its best time.
+#include "support/game_fixture.h"
+
+namespace tavi::testing {
+namespace {
+
+class Puzzles : public GameFixture {
+public:
+    Game& Playing(int level) {
+        Game& g = Started();
+        g.OptionType(level);
+        g.CommandNew();
+        return g;
+    }
+    // Fills every open cell with its solution digit, one click each.
+    void SolveByHand() {
+        for (auto [cell, digit] = FirstOpenCell(); cell >= 0; std::tie(cell, digit) = FirstOpenCell())
+            game->MarkMouseUp(digit, cell, MouseButton::Left, true);
+    }
+};
+
+TEST_F(Puzzles, NewWalksTheFileAndWrapsAfterTheLast) {
+    Game& g = Playing(1);
+    EXPECT_EQ(g.position().OpenRecord, 1);
+    EXPECT_EQ(g.Caption(), "Tavi Sudoku 1 - Easy - 1");
+    EXPECT_EQ(g.board().Puzzle, Record(1, 1).puzzle);
+    EXPECT_EQ(g.SudTekst(), FormatDigits(Record(1, 1).puzzle, '0'));
+    EXPECT_TRUE(g.GridEnabled());
+    EXPECT_EQ(g.TextHint(),
+              "Press [Hint] if you get stuck !!! Minimize Window to pause. DoubleClick this window "
+              "to pop up the small Hint Window.");
+    EXPECT_EQ(g.LabelTijd(), "00:00");
+    g.CommandNew();
+    g.CommandNew();
+    EXPECT_EQ(g.position().OpenRecord, 3);
+    g.CommandNew();
+    EXPECT_EQ(g.position().OpenRecord, 1);
+    // A number beyond the file (a library made smaller) also starts again at 1.
+    store.Write("SudokuLevel1", "Number", "40");
+    Game& again = Started();
+    again.OptionType(1);
+    again.CommandNew();
+    EXPECT_EQ(again.position().OpenRecord, 1);
+}
+
+TEST_F(Puzzles, OpenAsksUntilTheNumberFits) {
+    Game& g = Started();
+    g.OptionType(4);
+    prompter.inputs = {"0", "abc", "7", "2nd"};
+    g.CommandOpen();
+    EXPECT_EQ(g.position().OpenRecord, 2);
+    EXPECT_EQ(prompter.shown.size(), 4u + 1u);  // four boxes after the first-run message
+    EXPECT_EQ(prompter.shown.back().text, "Enter a value between 1 and 3");
+    EXPECT_EQ(prompter.shown.back().title, "Sudoku number");
+    // An empty answer or Cancel leaves the game as it was.
+    PlaceOne();
+    prompter.inputs = {std::nullopt};
+    options.AutoSave = false;
+    options.AskSave = false;
+    g.CommandOpen();
+    EXPECT_EQ(g.position().OpenRecord, 2);
+    EXPECT_EQ(g.CurrentStep(), 1);
+}
+
+TEST_F(Puzzles, OpenOfALevelWithOneOrNoPuzzle) {
+    // Level 6 holds one puzzle, level 7 none.
+    std::filesystem::resize_file(PuzzleFile(folders.AppFolder, LevelStem(6)), kSudokuRecordSize);
+    Game& g = Started();
+    std::filesystem::resize_file(PuzzleFile(folders.DataFolder, LevelStem(7)), 0);
+    g.OptionType(6);
+    g.CommandOpen();
+    EXPECT_EQ(g.position().OpenRecord, 1);
+    g.OptionType(7);
+    prompter.shown.clear();
+    g.CommandOpen();
+    ASSERT_EQ(prompter.shown.size(), 1u);
+    EXPECT_EQ(prompter.shown[0].title, "Can't open sudoko");
+    EXPECT_EQ(prompter.shown[0].text, "No Extreme sudokus found to open");
+    EXPECT_EQ(prompter.beeps, 1);
+    EXPECT_EQ(g.position().OpenLevel, 6);
+}
+
+TEST_F(Puzzles, AVanishedLibraryFileGivesAFileErrorAndAnEmptyBoard) {
+    Game& g = Playing(3);
+    std::filesystem::remove(PuzzleFile(folders.DataFolder, LevelStem(3)));
+    prompter.shown.clear();
+    g.CommandNew();
+    ASSERT_FALSE(prompter.shown.empty());
+    EXPECT_EQ(prompter.shown.back().title, "File Error");
+    EXPECT_EQ(prompter.shown.back().text, "Source file: Sudoku_Hard.sd* not found!");
+    EXPECT_FALSE(g.GridEnabled());
+    EXPECT_EQ(g.board().CurrentGrid, Digits{});
+    EXPECT_EQ(g.position().OpenRecord, 0);
+    g.CommandSave();  // nothing to save, nothing written
+}
+
+TEST_F(Puzzles, ASavedGameComesBackWithItsStepsMarksAndClock) {
+    Game& g = Playing(5);
+    // 40 steps: placements and removals of wrong marks.
+    while (g.CurrentStep() < 40) {
+        auto [cell, digit] = FirstOpenCell();
+        int wrong = 0;
+        for (int d = 1; d <= 9 && !wrong; ++d)
+            if (d != digit && g.board().Has(d, cell)) wrong = d;
+        if (wrong && g.CurrentStep() % 2 == 0)
+            g.MarkMouseUp(wrong, cell, MouseButton::Right, true);
+        else
+            g.MarkMouseUp(digit, cell, MouseButton::Left, true);
+    }
+    ASSERT_EQ(g.CurrentStep(), 40);
+    clock.now += 200;
+    options.TimeShow = false;
+    g.Tick();
+    g.CommandSave();
+    const SudokuLogRecord log = LogOf(5, 1);
+    EXPECT_EQ(log.StepCount, 40);
+    EXPECT_EQ(log.ElapsedMinutes, -3);
+    EXPECT_EQ(log.ElapsedSeconds, -20);
+    const Board saved = g.board();
+
+    options.TimeShow = true;
+    prompter.answers = {Answer::Yes};
+    Game& again = Started();
+    EXPECT_EQ(again.board().CurrentGrid, saved.CurrentGrid);
+    EXPECT_EQ(again.board().Candidates, saved.Candidates);
+    EXPECT_TRUE(options.TimeOn);
+    EXPECT_FALSE(options.TimeShow);
+    EXPECT_EQ(again.LabelTijd(), "TIMER");
+    EXPECT_EQ(again.ClockSeconds(), 200);
+    for (int i = 0; i < 40; ++i) again.CommandUndo();
+    EXPECT_EQ(again.CurrentStep(), 0);
+    EXPECT_FALSE(again.commands().Undo);
+    EXPECT_EQ(again.board().CurrentGrid, again.board().Puzzle);
+}
+
+TEST_F(Puzzles, PuzzleInProgressIsAskedOnNewAndOpen) {
+    Game& g = Playing(2);
+    PlaceOne();
+    g.CommandSave();
+    const Digits played = g.board().CurrentGrid;
+    g.CommandNew();  // AutoSave: saved silently
+    g.CommandNew();
+    prompter.answers = {Answer::No};
+    g.CommandNew();  // back at record 1, which is worked on
+    ASSERT_EQ(prompter.shown.back().title, "Puzzle in progress");
+    EXPECT_EQ(g.board().CurrentGrid, g.board().Puzzle);
+    prompter.answers = {Answer::No};
+    prompter.inputs = {"1"};
+    g.CommandOpen();
+    EXPECT_EQ(g.board().CurrentGrid, g.board().Puzzle);
+    EXPECT_FALSE(g.commands().Undo);
+    prompter.answers = {Answer::Yes};
+    prompter.inputs = {"1"};
+    g.CommandOpen();
+    EXPECT_EQ(g.board().CurrentGrid, played);
+    EXPECT_TRUE(g.commands().Undo);
+}
+
+TEST_F(Puzzles, SaveRefusesInOrder) {
+    Game& g = Started();
+    g.CommandSave();
+    EXPECT_EQ(prompter.shown.back().text,
+              "Sudoku already solved, you can only save unsolved sudokus !");
+    g.OptionType(1);
+    g.CommandNew();
+    g.CommandSave();
+    EXPECT_EQ(prompter.shown.back().title, "Sudoku not in progress");
+    PlaceOne();
+    g.CommandSave();
+    EXPECT_EQ(LogOf(1, 1).StepCount, 1);
+}
+
+TEST_F(Puzzles, AGameOfMoreThanAHundredStepsIsNotSaved) {
+    Game& g = Playing(3);
+    PlaceOne();
+    g.CommandSave();
+    const SudokuLogRecord before = LogOf(3, 1);
+    auto [cell, digit] = FirstOpenCell();
+    (void)digit;
+    for (int i = 0; i < 100; ++i) g.MarkMouseUp(1, cell, MouseButton::Middle, true);
+    ASSERT_EQ(g.CurrentStep(), 101);
+    prompter.shown.clear();
+    g.CommandSave();
+    ASSERT_EQ(prompter.shown.size(), 1u);
+    EXPECT_EQ(prompter.shown[0].title, "Sudoku not saved");
+    EXPECT_EQ(LogOf(3, 1), before);
+    // Undo still works through all of it.
+    for (int i = 0; i < 101; ++i) g.CommandUndo();
+    EXPECT_EQ(g.CurrentStep(), 0);
+}
+
+TEST_F(Puzzles, SolvingByHandEndsTheGameWithABestTime) {
+    options.Sounds = true;
+    Game& g = Playing(1);
+    options.Sounds = true;
+    clock.now += 65;
+    SolveByHand();
+    EXPECT_TRUE(prompter.Showed("New best time !!!"));
+    EXPECT_EQ(sounds.played.back(), kSoundSolved);
+    const SudokuRecord best = [&] {
+        SudokuRecord r;
+        ReadSudokuRecord(PuzzleFile(folders.DataFolder, LevelStem(1)), 1, r);
+        return r;
+    }();
+    EXPECT_EQ(best.BestMinutes, 1);
+    EXPECT_EQ(best.BestSeconds, 5);
+    EXPECT_TRUE(g.position().SudokuSolved);
+    EXPECT_FALSE(g.commands().Hint);
+    EXPECT_FALSE(g.commands().Save);
+    EXPECT_TRUE(g.commands().New);
+    // AutoErase: the progress is gone, the level not busy.
+    EXPECT_EQ(LogOf(1, 1).StepCount, 0);
+    EXPECT_EQ(store.Read("SudokuLevel1", "Busy", ""), "No");
+
+    // The same puzzle again, slower: no best time; the caption shows the one to beat.
+    prompter.shown.clear();
+    for (int i = 0; i < 3; ++i) g.CommandNew();
+    EXPECT_EQ(g.Caption(), "Tavi Sudoku 1 - Easy - 1 - Time to beat >> 01:05");
+    clock.now += 100;
+    SolveByHand();
+    EXPECT_FALSE(prompter.Showed("New best time !!!"));
+}
+
+TEST_F(Puzzles, KeepingTheProgressOfASolvedGameLeavesItBusy) {
+    options.AutoErase = false;
+    Game& g = Playing(2);
+    options.AutoErase = false;
+    PlaceOne();
+    g.CommandSave();
+    prompter.answers = {Answer::No};  // don't erase
+    SolveByHand();
+    EXPECT_TRUE(prompter.Showed("Do you want to erase progress of current solved sudoku ?"));
+    EXPECT_EQ(store.Read("SudokuLevel2", "Busy", ""), "Yes");
+}
+
+TEST_F(Puzzles, SolutionShowsTheBoardAndEndsTheGame) {
+    options.Sounds = true;
+    Game& g = Playing(4);
+    options.Sounds = true;
+    PlaceOne();
+    g.CommandSolution();
+    EXPECT_EQ(g.board().CurrentGrid, g.board().Solution);
+    EXPECT_EQ(sounds.played.back(), kSoundSolution);
+    EXPECT_FALSE(prompter.Showed("New best time !!!"));
+    EXPECT_TRUE(g.position().SudokuSolved);
+    EXPECT_FALSE(g.commands().Solution);
+    EXPECT_FALSE(g.commands().Undo);
+    EXPECT_TRUE(g.commands().Open);
+    EXPECT_FALSE(g.TimerRunning());
+}
+
+TEST_F(Puzzles, TheClockAcrossMidnightAndAPause) {
+    clock.now = 86400 - 30;
+    Game& g = Playing(1);
+    clock.now = 15;  // 45 seconds later, past midnight
+    g.Tick();
+    EXPECT_EQ(g.ClockSeconds(), 45);
+    EXPECT_EQ(g.LabelTijd(), "00:45");
+    g.WindowMinimised();
+    clock.now += 3600;
+    g.WindowRestored();
+    g.Tick();
+    EXPECT_EQ(g.ClockSeconds(), 45);
+    clock.now += 75;
+    g.Tick();
+    EXPECT_EQ(g.LabelTijd(), "02:00");
+}
+
+TEST_F(Puzzles, WellsFollowThePlacedDigits) {
+    Game& g = Playing(1);
+    auto [cell, digit] = FirstOpenCell();
+    const int box = Global::BoxOfCell[cell];
+    EXPECT_FALSE(g.WellFilled(digit, box));
+    g.MarkMouseUp(digit, cell, MouseButton::Left, true);
+    EXPECT_TRUE(g.WellFilled(digit, box));
+    g.CommandUndo();
+    EXPECT_FALSE(g.WellFilled(digit, box));
+    g.CommandSolution();
+    for (int d = 1; d <= 9; ++d) EXPECT_TRUE(g.DigitCompleted(d));
+}
+
+}  // namespace
+}  // namespace tavi::testing
