@@ -1,0 +1,221 @@
+#include "hints/hint_facts.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace tavi::hints {
+
+namespace {
+
+bool Valid(int cell) {
+    return cell >= 0 && cell < 81;
+}
+
+bool Contains(std::span<const int> cells, int cell) {
+    return std::find(cells.begin(), cells.end(), cell) != cells.end();
+}
+
+// The cells, ascending, outside `exclude` that see every cell of `holders` and
+// hold `digit`. Nothing when there are no holders to see.
+std::vector<int> SeeingAllHolders(const Board& board, int digit, std::span<const int> holders,
+                                  std::span<const int> exclude) {
+    std::vector<int> out;
+    if (holders.empty()) return out;
+    for (int c : SeenByAll(holders))
+        if (board.Has(digit, c) && !Contains(exclude, c)) out.push_back(c);
+    return out;
+}
+
+std::vector<int> HoldersOf(const Board& board, int digit, std::span<const int> cells) {
+    std::vector<int> out;
+    for (int c : cells)
+        if (board.Has(digit, c)) out.push_back(c);
+    return out;
+}
+
+CandidateMask MaskOf(const Board& board, std::span<const int> cells) {
+    CandidateMask m = 0;
+    for (int c : cells)
+        m |= board.Candidates[c];
+    return m;
+}
+
+void AddRemoval(std::vector<DigitRemoval>& removals, int digit, const std::vector<int>& cells) {
+    if (cells.empty()) return;
+    auto it = std::find_if(removals.begin(), removals.end(),
+                           [&](const DigitRemoval& r) { return r.digit == digit; });
+    if (it == removals.end()) {
+        removals.push_back({digit, cells});
+        return;
+    }
+    for (int c : cells)
+        if (!Contains(it->cells, c)) it->cells.push_back(c);
+    std::sort(it->cells.begin(), it->cells.end());
+}
+
+}  // namespace
+
+bool Sees(int a, int b) {
+    if (a == b || !Valid(a) || !Valid(b)) return false;
+    return a / 9 == b / 9 || a % 9 == b % 9 || Global::BoxOfCell[a] == Global::BoxOfCell[b];
+}
+
+std::vector<int> SeenByAll(std::span<const int> cells) {
+    std::vector<int> out;
+    for (int c = 0; c < 81; ++c) {
+        if (Contains(cells, c)) continue;
+        if (std::all_of(cells.begin(), cells.end(), [&](int x) { return Sees(c, x); }))
+            out.push_back(c);
+    }
+    return out;
+}
+
+std::vector<int> DigitsOf(const Board& board, int cell) {
+    std::vector<int> out;
+    if (!Valid(cell)) return out;
+    for (int d = 1; d <= 9; ++d)
+        if (board.Has(d, cell)) out.push_back(d);
+    return out;
+}
+
+std::vector<int> ListPart(const std::array<int, HintRecord::kListSize + 1>& list, int first,
+                          int last) {
+    std::vector<int> out;
+    for (int i = std::max(first, 1); i <= std::min(last, HintRecord::kListSize); ++i)
+        out.push_back(list[i]);
+    return out;
+}
+
+PointingLine PointingLineOf(const HintRecord& hint) {
+    if (hint.HintVariant < 3) return {true, hint.HintCell / 9 + hint.HintVariant};
+    return {false, hint.HintCell % 9 + hint.HintVariant - 3};
+}
+
+FishLines FishLinesOf(const HintRecord& hint) {
+    FishLines lines;
+    const int side = int(std::lround(std::sqrt(double(std::max(hint.HintCellCount, 0)))));
+    for (int i = 0; i < side && i * side + 1 <= HintRecord::kListSize; ++i) {
+        lines.columns.push_back(hint.HintCells[1 + i] % 9);
+        lines.rows.push_back(hint.HintCells[1 + i * side] / 9);
+    }
+    return lines;
+}
+
+int ExclusionBoxLeftTop(const HintRecord& hint) {
+    int form = hint.HintVariant;
+    if (hint.HintKind == 17) form = form == 1 || form == 3 ? 3 : form == 2 || form == 4 ? 4 : 0;
+    switch (form) {
+        case 1:
+            return hint.HintColumn;
+        case 2:
+            return hint.HintRow;
+        case 3:
+            return hint.HintRow / 3 * 27 + hint.HintColumn * 3;
+        case 4:
+            return hint.HintRow * 27 + hint.HintColumn / 3 * 3;
+        default:
+            return -1;
+    }
+}
+
+HouseKind RectangleType3House(const HintRecord& hint) {
+    const int a = hint.HintCells[3], b = hint.HintCells[4], extra = hint.HintCells[5];
+    if (a / 9 == b / 9 && b / 9 == extra / 9) return HouseKind::Row;
+    if (a % 9 == b % 9 && b % 9 == extra % 9) return HouseKind::Column;
+    return HouseKind::Box;
+}
+
+AlsPair AlsPairOf(const HintRecord& hint, const Board& board) {
+    AlsPair pair;
+    if (hint.HintKind == 32) {
+        pair.first = {hint.HintCell};
+        pair.second = ListPart(hint.HintCells, 1, hint.HintCellCount);
+    } else {
+        pair.first = ListPart(hint.HintCells, 1, hint.HintCellCount);
+        pair.second = ListPart(hint.HintValues, 1, hint.HintValueCount);
+    }
+    auto valid = [](const std::vector<int>& v) { return std::all_of(v.begin(), v.end(), Valid); };
+    if (!valid(pair.first) || !valid(pair.second)) return pair;
+    pair.doublyLinked = hint.HintRow != 0;
+
+    std::vector<int> both = pair.first;
+    both.insert(both.end(), pair.second.begin(), pair.second.end());
+    const CandidateMask m1 = MaskOf(board, pair.first), m2 = MaskOf(board, pair.second);
+    const int x = hint.HintNumber, z = hint.HintVariant;
+    auto acrossBoth = [&](int k) {
+        AddRemoval(pair.removals, k, SeeingAllHolders(board, k, HoldersOf(board, k, both), both));
+    };
+    auto withinSet = [&](int k, const std::vector<int>& set) {
+        AddRemoval(pair.removals, k, SeeingAllHolders(board, k, HoldersOf(board, k, set), both));
+    };
+    for (int k = 1; k <= 9; ++k) {
+        if (!pair.doublyLinked) {
+            // Any digit the sets share, other than the restricted one, goes from
+            // every cell that sees all its holders in both.
+            if (k != x && HasDigit(m1, k) && HasDigit(m2, k)) acrossBoth(k);
+            continue;
+        }
+        // Doubly linked: each set is locked, so each of its other digits goes from
+        // the cells that see all its holders in that set.
+        if (k == x || k == z) {
+            acrossBoth(k);
+            continue;
+        }
+        if (HasDigit(m1, k)) withinSet(k, pair.first);
+        if (HasDigit(m2, k)) withinSet(k, pair.second);
+    }
+    std::sort(pair.removals.begin(), pair.removals.end(),
+              [](const DigitRemoval& a, const DigitRemoval& b) { return a.digit < b.digit; });
+    return pair;
+}
+
+std::vector<int> MedusaRule4Cells(const HintRecord& hint, const Board& board) {
+    const int a = DecodeMedusa(hint.HintRow).cell, b = DecodeMedusa(hint.HintColumn).cell;
+    if (hint.HintRow < 0 || hint.HintColumn < 0 || hint.HintNumber < 1 || hint.HintNumber > 9)
+        return {};
+    const int ends[] = {a, b};
+    return SeeingAllHolders(board, hint.HintNumber, ends, ends);
+}
+
+MultiFishPattern MultiFishOf(const HintRecord& hint, const Board& board) {
+    MultiFishPattern p;
+    CandidateMask set = 0;
+    for (int d : ListPart(hint.HintValues, 1, hint.HintValueCount)) {
+        if (d < 1 || d > 9) continue;
+        p.digits.push_back(d);
+        set |= DigitBit(d);
+    }
+    // Which of the digits stand in each row and each column.
+    std::array<CandidateMask, 9> inRow{}, inColumn{};
+    for (int c = 0; c < 81; ++c) {
+        const int d = board.CurrentGrid[c];
+        if (d >= 1 && d <= 9 && HasDigit(set, d)) {
+            inRow[c / 9] |= DigitBit(d);
+            inColumn[c % 9] |= DigitBit(d);
+        }
+    }
+    std::array<bool, 9> rowFree{}, columnFree{};
+    for (int i = 0; i < 9; ++i) {
+        rowFree[i] = inRow[i] == 0;
+        columnFree[i] = inColumn[i] == 0;
+        if (rowFree[i]) p.truthRows.push_back(i);
+        if (!columnFree[i] && inColumn[i] != set) p.linkColumns.push_back(i);
+    }
+    for (int c = 0; c < 81; ++c)
+        if (rowFree[c / 9] && columnFree[c % 9] && board.CurrentGrid[c] == 0)
+            p.linkCells.push_back(c);
+
+    for (int d : p.digits) {
+        std::vector<int> cells;
+        for (int c = 0; c < 81; ++c)
+            if (!rowFree[c / 9] && !columnFree[c % 9] && board.Has(d, c)) cells.push_back(c);
+        AddRemoval(p.outside, d, cells);
+    }
+    for (int d = 1; d <= 9; ++d) {
+        if (HasDigit(set, d)) continue;
+        AddRemoval(p.inLinkCells, d, HoldersOf(board, d, p.linkCells));
+    }
+    return p;
+}
+
+}  // namespace tavi::hints

@@ -1,0 +1,97 @@
+// What a hint's sentence and its colours both work out again from the record and
+// the board, so that the two always tell the same story. Several kinds store less
+// than they say: the ALS kinds keep no removals, MultiFish keeps only its digits,
+// a finned X-Wing no fin. The board they are read from is the board the hint was
+// found on; a hint changes nothing, so it still stands when the hint is written.
+//
+// The layouts this file settles for kinds whose record is not spelt out field by
+// field elsewhere:
+//  - Kind 29, type 3: HintCells[1..4] the corners, [3] and [4] the roof, [5] the
+//    cell that makes the naked pair with the roof, HintCellCount 5; the house is
+//    the one those three cells share (a line before the box).
+//  - Kind 34: HintCell, HintRow, HintColumn and, for rule 6, HintValueCount hold a
+//    candidate coded as cell + 81 x (digit - 1). HintCells[1..HintCellCount] are
+//    the coloured candidates in the same code, HintValues[k] the colour of entry
+//    k by its sign.
+//  - Kind 37: only the digits (HintValues[1..HintValueCount]) are read; the truth
+//    rows, the link columns, the link cells and the removals follow from them and
+//    the board.
+#pragma once
+
+#include <span>
+#include <vector>
+
+#include "grid/board.h"
+#include "solver/hint_record.h"
+
+namespace tavi::hints {
+
+// Two different cells in one row, column or box.
+bool Sees(int a, int b);
+// The cells, ascending, outside `cells` that see every one of them.
+std::vector<int> SeenByAll(std::span<const int> cells);
+// The candidates of `cell`, ascending.
+std::vector<int> DigitsOf(const Board& board, int cell);
+// Entries first..last (1-based) of a hint list.
+std::vector<int> ListPart(const std::array<int, HintRecord::kListSize + 1>& list, int first,
+                          int last);
+
+// Kind 3: the line inside the box that the digit keeps to.
+struct PointingLine {
+    bool row;
+    int line;
+};
+PointingLine PointingLineOf(const HintRecord& hint);
+
+// Kinds 6, 7, 13: the lines of the square of HintCells, in list order.
+struct FishLines {
+    std::vector<int> rows, columns;
+};
+FishLines FishLinesOf(const HintRecord& hint);
+
+// Kinds 16 and 17: the top left cell of the box the cells share, or -1 when the
+// form names none.
+int ExclusionBoxLeftTop(const HintRecord& hint);
+
+// Kind 29, type 3: the house of the naked pair with the roof.
+enum class HouseKind { Row, Column, Box };
+HouseKind RectangleType3House(const HintRecord& hint);
+
+// A digit and the cells, ascending, that lose it.
+struct DigitRemoval {
+    int digit;
+    std::vector<int> cells;
+};
+
+// Kinds 32 and 33: the two sets and what they remove, by digit ascending.
+struct AlsPair {
+    std::vector<int> first, second;  // kind 32: the bi-value cell, then the set
+    bool doublyLinked = false;
+    std::vector<DigitRemoval> removals;
+};
+AlsPair AlsPairOf(const HintRecord& hint, const Board& board);
+
+// Kind 34: a candidate in the code of the record.
+struct MedusaCandidate {
+    int cell, digit;
+};
+inline MedusaCandidate DecodeMedusa(int code) {
+    if (code < 0) return {-1, 0};
+    return {code % 81, code / 81 + 1};
+}
+// Rule 4: the cells, ascending, that see both coloured candidates and hold the digit.
+std::vector<int> MedusaRule4Cells(const HintRecord& hint, const Board& board);
+
+// Kind 37: the counting pattern of the four digits on the board.
+struct MultiFishPattern {
+    std::vector<int> digits;       // as the record lists them
+    std::vector<int> truthRows;    // rows where none of the digits stands
+    std::vector<int> linkColumns;  // columns where some stand and some are still missing
+    std::vector<int> linkCells;    // empty cells where a truth row crosses a free column
+    // The digits from cells off the truth rows in the link columns, by digit; then
+    // the other digits from the link cells, by digit.
+    std::vector<DigitRemoval> outside, inLinkCells;
+};
+MultiFishPattern MultiFishOf(const HintRecord& hint, const Board& board);
+
+}  // namespace tavi::hints
