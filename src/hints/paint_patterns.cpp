@@ -1,0 +1,213 @@
+// Painting of the wings, the aligned exclusions, Sue-de-Coq and the unique and
+// avoidable rectangles.
+#include <algorithm>
+
+#include "hints/paints.h"
+
+namespace tavi::hints {
+
+namespace {
+
+bool ValidCell(int cell) {
+    return cell >= 0 && cell < 81;
+}
+bool Contains(const std::vector<int>& cells, int c) {
+    return std::find(cells.begin(), cells.end(), c) != cells.end();
+}
+
+// Kinds 10, 11 and 14: the cells that see every holder of the digit among the
+// pattern lose it; the first cell is the stem (or hinge), the others branches.
+void Wing(HintPainter& p, const HintRecord& h, int size, bool stemHoldsDigit) {
+    const auto cells = ListPart(h.HintCells, 1, size);
+    if (!std::all_of(cells.begin(), cells.end(), ValidCell)) return;
+    const int n = h.HintNumber;
+    const std::vector<int> holders(cells.begin() + (stemHoldsDigit ? 0 : 1), cells.end());
+    AttackSeenByAll(p, holders, n);
+    p.ZetHintVak(cells[0], kBaseCell);
+    for (size_t i = 1; i < cells.size(); ++i)
+        p.ZetHintVak(cells[i], kAttackingCell);
+    PaintCandidates(p, cells[0], kBaseCandidates);
+    for (size_t i = 1; i < cells.size(); ++i)
+        PaintCandidates(p, cells[i], kChainCandidates);
+    for (int c : holders)
+        p.ZetHintNummer(c, n, kAttackingCandidates);
+}
+
+void WXYZWing(HintPainter& p, const HintRecord& h) {
+    const bool hingeHolds = h.HintVariant == 1;
+    Wing(p, h, 4, hingeHolds);
+    if (hingeHolds && ValidCell(h.HintCells[1])) p.ZetHintVak(h.HintCells[1], kAttackingCell);
+}
+
+// Kinds 16 and 17: `size` cells of which each loses the digits that its tag
+// marks in HintValues; the further cells of HintCells did the reducing.
+void Exclusion(HintPainter& p, const HintRecord& h, int size) {
+    const int form = h.HintVariant;
+    if (form >= 1 && form <= 4) {
+        if (form % 2 == 1)
+            p.ZetHintRij(h.HintRow, kPatternCell);
+        else
+            p.ZetHintKolom(h.HintColumn, kPatternCell);
+        p.ZetHintBlok(ExclusionBoxLeftTop(h), kPatternCell);
+    }
+    const auto cells = ListPart(h.HintCells, 1, size);
+    const auto reducers = ListPart(h.HintCells, size + 1, h.HintCellCount);
+    for (int c : cells)
+        p.ZetHintVak(c, kAttackedCell);
+    for (int c : reducers) {
+        p.ZetHintVak(c, kChainCell);
+        PaintCandidates(p, c, kChainCandidates);
+    }
+    // Each entry names its cell: the sign in kind 16, the tens and hundreds in 17.
+    std::vector<int> eliminated;
+    for (int v : ListPart(h.HintValues, 1, h.HintValueCount)) {
+        int index = -1, digit = 0;
+        if (size == 2)
+            index = v > 0 ? 0 : 1, digit = v > 0 ? v : -v;
+        else if (v >= 101 && v <= 109)
+            index = 2, digit = v - 100;
+        else if (v >= 11 && v <= 19)
+            index = 1, digit = v - 10;
+        else if (v >= 1 && v <= 9)
+            index = 0, digit = v;
+        if (index < 0 || index >= int(cells.size())) continue;
+        p.ZetHintNummer(cells[index], digit, kAttackedCandidates);
+        eliminated.push_back(digit);
+    }
+    for (int c : reducers)
+        for (int d : eliminated)
+            if (p.Holds(d, c)) p.ZetHintNummer(c, d, kAttackingCandidates);
+}
+
+void SueDeCoq(HintPainter& p, const HintRecord& h) {
+    const bool row = h.HintRow != -1;
+    const int line = row ? h.HintRow : h.HintColumn;
+    if (line < 0 || line > 8 || h.HintVariant < 0 || h.HintVariant > 8) return;
+    const auto& lineCells = UnitCells[row ? line : 9 + line];
+    const auto& boxCells = UnitCells[18 + h.HintVariant];
+    const auto lineGroup = ListPart(h.HintCells, 1, h.HintCellCount);
+    const auto boxGroup = ListPart(h.HintValues, 1, h.HintValueCount);
+    const Board& b = p.board();
+    auto inBox = [&](int c) { return Global::BoxOfCell[c] == h.HintVariant; };
+    auto maskOf = [&](const std::vector<int>& cells) {
+        CandidateMask m = 0;
+        for (int c : cells)
+            if (ValidCell(c)) m |= b.Candidates[c];
+        return m;
+    };
+    std::vector<int> intersection;
+    for (int c : lineCells)
+        if (inBox(c) && b.Candidates[c] != 0) intersection.push_back(c);
+
+    p.ZetHintBlok(Global::BoxLeftTop[h.HintVariant], kPatternCell);
+    if (row)
+        p.ZetHintRij(line, kPatternCell);
+    else
+        p.ZetHintKolom(line, kPatternCell);
+    for (int c : intersection) {
+        p.ZetHintVak(c, kBaseCell);
+        PaintCandidates(p, c, kBaseCandidates);
+    }
+    for (const auto* group : {&lineGroup, &boxGroup})
+        for (int c : *group) {
+            p.ZetHintVak(c, kChainCell);
+            PaintCandidates(p, c, kChainCandidates);
+        }
+    // The line group's digits leave the rest of the line, the box group's the rest
+    // of the box, and the intersection's own digits both.
+    const CandidateMask lineDigits = maskOf(lineGroup), boxDigits = maskOf(boxGroup);
+    const CandidateMask own = maskOf(intersection) & CandidateMask(~(lineDigits | boxDigits));
+    auto attack = [&](const auto& unit, const std::vector<int>& group, CandidateMask digits) {
+        for (int c : unit) {
+            if (Contains(intersection, c) || Contains(group, c)) continue;
+            for (int d = 1; d <= 9; ++d)
+                if (HasDigit(digits, d)) p.ZetAttackedCell(c, d);
+        }
+    };
+    attack(lineCells, lineGroup, lineDigits | own);
+    attack(boxCells, boxGroup, boxDigits | own);
+}
+
+// Kinds 29 and 30: the corners with the roles of cell and candidate swapped, as
+// the chains paint their loops, then what the type removes.
+void Rectangle(HintPainter& p, const HintRecord& h) {
+    const auto corners = ListPart(h.HintCells, 1, 4);
+    if (!std::all_of(corners.begin(), corners.end(), ValidCell)) return;
+    for (int c : corners) {
+        p.ZetHintVak(c, kAttackingCandidates);
+        for (int d : {h.HintValues[1], h.HintValues[2]})
+            if (p.Holds(d, c)) p.ZetHintNummer(c, d, kAttackingCell);
+    }
+    const int n = h.HintNumber;
+    const int roof[] = {corners[2], corners[3]};
+    if (h.HintKind == 30) {
+        if (h.HintValueCount == 2)
+            p.ZetAttackedCell(corners[3], n);
+        else
+            AttackSeenByAll(p, roof, n);
+        return;
+    }
+    switch (h.HintVariant) {
+        case 1:
+            p.ZetAttackedCell(corners[3], h.HintValues[1]);
+            p.ZetAttackedCell(corners[3], h.HintValues[2]);
+            break;
+        case 2:
+            AttackSeenByAll(p, roof, n);
+            break;
+        case 3: {
+            // The extra digits leave the house of the naked pair that the roof
+            // makes with the extra cell.
+            const auto pair = ListPart(h.HintCells, 3, h.HintCellCount);
+            const HouseKind house = RectangleType3House(h);
+            const int extra = h.HintCells[5];
+            if (!ValidCell(extra)) break;
+            const int unit = house == HouseKind::Row      ? extra / 9
+                             : house == HouseKind::Column ? 9 + extra % 9
+                                                          : 18 + Global::BoxOfCell[extra];
+            for (int c : UnitCells[unit])
+                if (!Contains(pair, c))
+                    for (int d : {h.HintValues[3], h.HintValues[4]})
+                        p.ZetAttackedCell(c, d);
+            break;
+        }
+        case 4:
+            p.ZetAttackedCell(corners[2], n);
+            p.ZetAttackedCell(corners[3], n);
+            break;
+        case 5:
+            p.ZetAttackedCell(corners[3], n);
+            break;
+    }
+}
+
+}  // namespace
+
+void PaintPattern(HintPainter& p, const HintRecord& h) {
+    switch (h.HintKind) {
+        case 10:
+            Wing(p, h, 3, false);
+            break;
+        case 11:
+            Wing(p, h, 3, true);
+            break;
+        case 14:
+            WXYZWing(p, h);
+            break;
+        case 16:
+            Exclusion(p, h, 2);
+            break;
+        case 17:
+            Exclusion(p, h, 3);
+            break;
+        case 27:
+            SueDeCoq(p, h);
+            break;
+        case 29:
+        case 30:
+            Rectangle(p, h);
+            break;
+    }
+}
+
+}  // namespace tavi::hints
