@@ -133,7 +133,17 @@ public:
     void CommandHelp();
     void WebSiteClick();
 
+    // --- Options --------------------------------------------------------------
+    // After the options window closed: what changed from `before` takes effect
+    // on the board (marks, filters, wells) or is announced (the clock).
+    void CommandOptions(const Options& before);
+    // Whether sounds can be played at all; the options window disables its box
+    // when not.
+    bool SoundAvailable() const { return services_.sounds && services_.sounds->Available(); }
+
     // --- Clock and wells ----------------------------------------------------
+    // Puts `seconds` on the running clock at once (a hint's price).
+    void Penalty(int seconds);
     void Tick();              // the timer
     void WindowMinimised();   // pause
     void WindowRestored();    // go on
@@ -218,6 +228,9 @@ private:
     void AfterLoad();
     // The marks for play without pencil marks: every digit a click target again.
     void SpecialPencilmarks();
+    // The candidates as the automatic marks have them: all digits but those the
+    // peers hold.
+    void RebuildMarks();
     // Stops the game's commands after a load that failed.
     void LoadFailed();
     // Saves the position keys and the options: every way out ends here.

@@ -1,0 +1,55 @@
+// What a change of the options does to the game on the board.
+#include "game/game.h"
+#include "grid/candidates.h"
+
+namespace tavi {
+
+void Game::RebuildMarks() {
+    for (int c = 0; c < 81; ++c) {
+        if (ctx_.board.CurrentGrid[c]) continue;
+        CandidateMask m = kAllCandidates;
+        for (int peer : Peers[c])
+            if (ctx_.board.CurrentGrid[peer]) m &= CandidateMask(~DigitBit(ctx_.board.CurrentGrid[peer]));
+        ctx_.board.Candidates[c] = m;
+    }
+}
+
+void Game::CommandOptions(const Options& before) {
+    const bool gameOpen = !position_.SudokuSolved && position_.OpenLevel > 0;
+    const bool lowLevel = gameOpen && position_.OpenLevel < 4;
+    if (options_.Dimmed != before.Dimmed) HoverCell = kNoHover;
+
+    // The marks of the board follow the two pencil-mark options: without them
+    // every digit is a click target and the marks are the player's own.
+    const bool marksBefore = before.Pencilmarks && !(lowLevel && before.PencilmarksOff);
+    const bool marksNow = options_.Pencilmarks && !(lowLevel && options_.PencilmarksOff);
+    const bool offChanged = lowLevel && options_.PencilmarksOff != before.PencilmarksOff;
+    const bool updateChanged = gameOpen && options_.Pencilmarks != before.Pencilmarks;
+    if ((offChanged || updateChanged) && marksBefore != marksNow) {
+        ResetHintStage();
+        WisKleuren();
+        brush_ = {};
+        if (marksNow) {
+            filterOn_.fill(true);
+            RebuildMarks();
+        } else {
+            SpecialPencilmarks();
+        }
+    }
+    if (options_.Wells && !before.Wells) SetupWells();
+    if (options_.TimeOn != before.TimeOn)
+        services_.prompter.Message("Time option changed",
+                                   "Switching Time on/off will take place on the next sudoku");
+}
+
+void Game::Penalty(int seconds) {
+    if (!options_.TimeOn || !timerRunning_) return;
+    Tick();
+    clockSeconds_ += seconds;
+    int now = services_.clock.SecondOfDay();
+    if (clockSeconds_ > now) now += 86400;
+    clockStart_ = now - clockSeconds_;
+    ShowClock();
+}
+
+}  // namespace tavi

@@ -1,0 +1,95 @@
+// What a change of the options does to the game on the board, and the penalty.
+#include "settings/options_form.h"
+#include "support/game_fixture.h"
+
+namespace tavi::testing {
+namespace {
+
+class OptionsChange : public GameFixture {
+public:
+    Game& Playing(int level) {
+        Game& g = Started();
+        g.OptionType(level);
+        g.CommandNew();
+        return g;
+    }
+    // What the options window does on OK.
+    void ChangeOptions(Game& g, void (*edit)(OptionsForm&)) {
+        const Options before = options;
+        OptionsForm form = OptionsForm::From(options);
+        edit(form);
+        form.ApplyTo(options);
+        g.CommandOptions(before);
+    }
+};
+
+TEST_F(OptionsChange, PencilmarksOffOnAnEasyGameAndBack) {
+    Game& g = Playing(2);
+    const Board automatic = g.board();
+    g.DigitButtonUp(4, MouseButton::Left, true);
+    ChangeOptions(g, [](OptionsForm& f) { f.PencilmarksOff = true; });
+    EXPECT_FALSE(g.MarkCaptionsShown());
+    EXPECT_TRUE(g.FilterOn(4));
+    for (int c = 0; c < 81; ++c)
+        if (!g.board().CurrentGrid[c]) EXPECT_EQ(g.board().Candidates[c], kAllCandidates);
+    ChangeOptions(g, [](OptionsForm& f) { f.PencilmarksOff = false; });
+    EXPECT_TRUE(g.MarkCaptionsShown());
+    EXPECT_EQ(g.board().Candidates, automatic.Candidates);
+}
+
+TEST_F(OptionsChange, PencilmarksOffMeansNothingFromLevelFour) {
+    Game& g = Playing(4);
+    const Board before = g.board();
+    ChangeOptions(g, [](OptionsForm& f) { f.PencilmarksOff = true; });
+    EXPECT_TRUE(g.MarkCaptionsShown());
+    EXPECT_EQ(g.board().Candidates, before.Candidates);
+}
+
+TEST_F(OptionsChange, TheClockOptionWaitsForTheNextSudoku) {
+    Game& g = Playing(1);
+    ChangeOptions(g, [](OptionsForm& f) { f.TimeOn = false; });
+    EXPECT_EQ(prompter.shown.back().title, "Time option changed");
+    EXPECT_EQ(prompter.shown.back().text, "Switching Time on/off will take place on the next sudoku");
+    EXPECT_TRUE(g.TimerRunning());
+    g.CommandNew();
+    EXPECT_FALSE(g.TimerRunning());
+    EXPECT_EQ(g.LabelTijd(), "");
+}
+
+TEST_F(OptionsChange, WellsOnRebuildsThem) {
+    Game& g = Playing(1);
+    ChangeOptions(g, [](OptionsForm& f) { f.Wells = false; });
+    auto [cell, digit] = FirstOpenCell();
+    g.MarkMouseUp(digit, cell, MouseButton::Left, true);
+    EXPECT_FALSE(g.WellFilled(digit, Global::BoxOfCell[cell]));
+    ChangeOptions(g, [](OptionsForm& f) { f.Wells = true; });
+    EXPECT_TRUE(g.WellFilled(digit, Global::BoxOfCell[cell]));
+}
+
+TEST_F(OptionsChange, PenaltiesPutSecondsOnTheRunningClock) {
+    Game& g = Playing(1);
+    clock.now += 30;
+    g.Penalty(15);
+    EXPECT_EQ(g.ClockSeconds(), 45);
+    clock.now += 10;
+    g.Tick();
+    EXPECT_EQ(g.ClockSeconds(), 55);
+    options.TimeOn = false;
+    g.Penalty(20);
+    EXPECT_EQ(g.ClockSeconds(), 55);
+}
+
+TEST_F(OptionsChange, NoSoundDeviceTurnsSoundsOff) {
+    options.Sounds = true;
+    store.Write("Options", "Sounds", "True");
+    sounds.available = false;
+    Game& g = Started();
+    EXPECT_FALSE(options.Sounds);
+    EXPECT_FALSE(g.SoundAvailable());
+    g.Speel(kSoundPlaced);
+    g.Speel(-1);
+    EXPECT_TRUE(sounds.played.empty());
+}
+
+}  // namespace
+}  // namespace tavi::testing
