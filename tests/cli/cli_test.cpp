@@ -1,8 +1,17 @@
 #include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <regex>
 #include <sstream>
 
 #include "cli/commands.h"
+#include "grid/candidates.h"
+#include "grid/levels.h"
+#include "solver/ladder.h"
 #include "support/puzzles.h"
 
 namespace tavi::cli {
@@ -14,7 +23,7 @@ struct Output {
 };
 
 template <typename Command>
-Output Run(Command command, const std::string& input) {
+Output RunCommand(Command command, const std::string& input) {
     std::istringstream in(input);
     std::ostringstream out, err;
     const int status = command(in, out, err);
@@ -22,15 +31,50 @@ Output Run(Command command, const std::string& input) {
 }
 
 Output RunRate(const std::string& input) {
-    return Run([](auto& in, auto& out, auto& err) { return Rate(in, out, err); }, input);
+    return RunCommand([](auto& in, auto& out, auto& err) { return Rate(in, out, err); }, input);
+}
+Output RunSolve(const std::string& input) {
+    return RunCommand([](auto& in, auto& out, auto& err) { return Solve(in, out, err); }, input);
+}
+Output RunSteps(const std::string& input) {
+    return RunCommand([](auto& in, auto& out, auto& err) { return Steps(in, out, err); }, input);
 }
 
-}  // namespace
+std::vector<std::string> Split(const std::string& text, char sep) {
+    std::vector<std::string> parts;
+    std::string part;
+    std::istringstream s(text);
+    while (std::getline(s, part, sep))
+        parts.push_back(part);
+    return parts;
+}
+
+std::string Text(const Digits& d) {
+    return FormatDigits(d, '.');
+}
+
+// A solved grid with five cells emptied, one per row, column and box: singles only.
+Digits FiveHoles() {
+    Digits d = testing::GeneratedPuzzles(1)[0].solution;
+    for (int c : {0, 13, 26, 30, 43})
+        d[c] = 0;
+    return d;
+}
+
+// Open cells everywhere, but A9 can hold nothing: A1..A8 hold 1..8 and E9 a 9.
+Digits DeadCell() {
+    Digits d{};
+    for (int c = 0; c < 8; ++c)
+        d[c] = std::uint8_t(c + 1);
+    d[44] = 9;
+    return d;
+}
 
 TEST(CliRate, RatesEachPuzzleAndSkipsCommentsAndBlankLines) {
     const auto& puzzles = testing::GeneratedPuzzles(3);
     std::string input = "# a comment\n\n";
-    for (const auto& p : puzzles) input += FormatDigits(p.puzzle, '.') + "  trailing words\n";
+    for (const auto& p : puzzles)
+        input += FormatDigits(p.puzzle, '.') + "  trailing words\n";
     const Output o = RunRate(input);
     EXPECT_EQ(o.status, 0);
     EXPECT_EQ(o.err, "");
@@ -45,4 +89,192 @@ TEST(CliRate, RatesEachPuzzleAndSkipsCommentsAndBlankLines) {
     EXPECT_EQ(n, 3);
 }
 
+TEST(CliRate, GivesTheWorkbenchRatingAndOutlawWhenTheLadderFails) {
+    Digits clash = FiveHoles();
+    clash[0] = clash[1];  // the same digit twice in row A
+    std::string input;
+    std::vector<std::string> expected;
+    for (const auto& p : testing::GeneratedPuzzles(20)) {
+        SolveContext ctx;
+        ctx.board = BoardFromPuzzle(p.puzzle);
+        const int level = SolveSudoku(ctx, {}) ? ctx.SolvingLevel : 9;
+        input += Text(p.puzzle) + "\n";
+        expected.push_back(Text(p.puzzle) + "\t" + std::to_string(level) + "\t" +
+                           std::string(LevelName(level)));
+    }
+    for (auto [puzzle, rating] :
+         {std::pair{FiveHoles(), "1\tEasy"}, {DeadCell(), "9\tOutlaw"}, {clash, "9\tOutlaw"}}) {
+        input += FormatDigits(puzzle, '0') + "\n";
+        expected.push_back(FormatDigits(puzzle, '0') + "\t" + rating);
+    }
+    const Output o = RunRate(input);
+    EXPECT_EQ(o.status, 0);
+    EXPECT_EQ(Split(o.out, '\n'), expected);
+}
+
+TEST(CliRate, SummaryCountsEachLevelOnStandardError) {
+    const std::string input = Text(FiveHoles()) + "\n" + Text(DeadCell()) + "\n";
+    const Output o = RunCommand(
+        [](auto& in, auto& out, auto& err) { return Rate(in, out, err, RateOptions{true}); },
+        input);
+    EXPECT_EQ(o.status, 0);
+    EXPECT_EQ(Split(o.out, '\n').size(), 2u);
+    EXPECT_NE(o.err.find("Easy\t1\n"), std::string::npos) << o.err;
+    EXPECT_NE(o.err.find("Medium\t0\n"), std::string::npos) << o.err;
+    EXPECT_NE(o.err.find("Outlaw\t1\n"), std::string::npos) << o.err;
+    EXPECT_NE(o.err.find("per second"), std::string::npos) << o.err;
+}
+
+TEST(CliSolve, SaysUniqueNoneOrMultiple) {
+    const auto& p = testing::GeneratedPuzzles(1)[0];
+    Digits clueLess = p.puzzle;
+    *std::find_if(clueLess.begin(), clueLess.end(), [](auto d) { return d != 0; }) = 0;
+    struct Case {
+        std::string line, expected;
+    } cases[] = {
+        {Text(p.puzzle), Text(p.puzzle) + "\tunique\t" + FormatDigits(p.solution)},
+        {FormatDigits(p.puzzle, '0') + "; extra",
+         FormatDigits(p.puzzle, '0') + "\tunique\t" + FormatDigits(p.solution)},
+        {Text(clueLess), Text(clueLess) + "\tmultiple\t-"},
+        {Text(DeadCell()), Text(DeadCell()) + "\tnone\t-"},
+        {Text(Digits{}), Text(Digits{}) + "\tmultiple\t-"},
+    };
+    std::string input, expected;
+    for (const Case& k : cases) {
+        input += k.line + "\n";
+        expected += k.expected + "\n";
+    }
+    const Output o = RunSolve(input);
+    EXPECT_EQ(o.status, 0);
+    EXPECT_EQ(o.out, expected);
+    EXPECT_EQ(o.err, "");
+}
+
+TEST(CliSolve, ClashingGivensHaveNoSolution) {
+    Digits clash{};
+    clash[0] = clash[1] = 1;
+    EXPECT_EQ(RunSolve(Text(clash) + "\n").out, Text(clash) + "\tnone\t-\n");
+}
+
+// Every command reports a line that is no puzzle with its number, goes on with
+// the rest, and ends with status 1.
+TEST(CliInput, BadLinesAreReportedAndTheRestIsProcessed) {
+    const std::string good = Text(FiveHoles());
+    std::string badChar = good;
+    badChar[10] = 'x';
+    const std::string input = good + "\n" + "123\n" + "# comment\n\n" + badChar + "\n" + good +
+                              " trailing\n" + good.substr(0, 80) + "\n";
+    for (auto command : {RunRate, RunSolve, RunSteps}) {
+        const Output o = command(input);
+        EXPECT_EQ(o.status, 1);
+        const auto errors = Split(o.err, '\n');
+        ASSERT_EQ(errors.size(), 3u) << o.err;
+        EXPECT_NE(errors[0].find("line 2"), std::string::npos) << errors[0];
+        EXPECT_NE(errors[1].find("line 5"), std::string::npos) << errors[1];
+        EXPECT_NE(errors[2].find("line 7"), std::string::npos) << errors[2];
+        int puzzles = 0;
+        for (const auto& line : Split(o.out, '\n'))
+            puzzles += line.starts_with(good + "\t") || line.starts_with("result\t");
+        EXPECT_EQ(puzzles, 2) << o.out;
+    }
+}
+
+TEST(CliSteps, OneLinePerHitThenTheResult) {
+    const Digits puzzle = FiveHoles();
+    const Output o = RunSteps(Text(puzzle) + "\n");
+    EXPECT_EQ(o.status, 0);
+    const auto lines = Split(o.out, '\n');
+    ASSERT_EQ(lines.size(), 6u) << o.out;
+    const Digits solution = testing::GeneratedPuzzles(1)[0].solution;
+    EXPECT_EQ(lines[0], "step\t1\t3\tHidden Singles\tA1=" + std::to_string(solution[0]));
+    EXPECT_EQ(lines[5], "result\tsolved\t1\tEasy");
+    EXPECT_EQ(RunSteps(Text(DeadCell()) + "\n").out, "result\tunsolved\t9\tOutlaw\n");
+}
+
+// Over generated puzzles: the placements of the steps rebuild the solution, no
+// step takes away a digit of the solution, and each line names its rung.
+TEST(CliSteps, ReplayOverGeneratedPuzzles) {
+    const std::regex change("([A-HJ])([1-9])([=-])([1-9])");
+    const auto& puzzles = testing::GeneratedPuzzles(40);
+    std::string input;
+    for (const auto& p : puzzles)
+        input += Text(p.puzzle) + "\n";
+    const Output steps = RunSteps(input);
+    const auto ratings = Split(RunRate(input).out, '\n');
+    ASSERT_EQ(steps.status, 0);
+    size_t next = 0, removals = 0;
+    const auto lines = Split(steps.out, '\n');
+    for (size_t i = 0; i < puzzles.size(); ++i) {
+        Digits grid = puzzles[i].puzzle;
+        for (int number = 1;; ++number) {
+            ASSERT_LT(next, lines.size());
+            const auto fields = Split(lines[next++], '\t');
+            if (fields[0] == "result") {
+                const auto rating = Split(ratings[i], '\t');
+                EXPECT_EQ(fields, (std::vector<std::string>{
+                                      fields[0], rating[1] == "9" ? "unsolved" : "solved",
+                                      rating[1], rating[2]}));
+                if (fields[1] == "solved") {
+                    EXPECT_EQ(grid, puzzles[i].solution);
+                }
+                break;
+            }
+            ASSERT_EQ(fields.size(), 5u) << lines[next - 1];
+            EXPECT_EQ(fields[0], "step");
+            EXPECT_EQ(fields[1], std::to_string(number));
+            const auto rungs = RungsOf(std::stoi(fields[2]));
+            EXPECT_TRUE(std::any_of(rungs.begin(), rungs.end(), [&](const Rung& r) {
+                return r.Name() == fields[3];
+            })) << lines[next - 1];
+            for (const auto& item : Split(fields[4], ' ')) {
+                std::smatch m;
+                ASSERT_TRUE(std::regex_match(item, m, change)) << "'" << item << "'";
+                const int row = std::string("ABCDEFGHJ").find(m[1].str()[0]);
+                const int cell = 9 * row + std::stoi(m[2]) - 1, digit = std::stoi(m[4]);
+                if (m[3] == "=") {
+                    EXPECT_EQ(grid[cell], 0);
+                    grid[cell] = std::uint8_t(digit);
+                    EXPECT_EQ(digit, puzzles[i].solution[cell]) << item;
+                } else {
+                    ++removals;
+                    EXPECT_NE(digit, puzzles[i].solution[cell]) << item;
+                }
+            }
+        }
+    }
+    EXPECT_EQ(next, lines.size());
+    EXPECT_GT(removals, 0u);
+}
+
+// The built program, for its exit status and its two ways of reading.
+TEST(CliProgram, ExitStatusTellsWhetherEveryLineWasAPuzzle) {
+    const auto dir =
+        std::filesystem::temp_directory_path() / ("tavi-cli-test-" + std::to_string(::getpid()));
+    std::filesystem::create_directories(dir);
+    const auto good = dir / "good.txt", bad = dir / "bad.txt", out = dir / "out.txt";
+    std::ofstream(good) << "# two puzzles\n"
+                        << Text(FiveHoles()) << "\n"
+                        << Text(DeadCell()) << "\n";
+    std::ofstream(bad) << Text(FiveHoles()) << "\nnot a puzzle\n";
+    auto run = [&](const std::string& args) {
+        const std::string command = std::string(TAVI_CLI_PATH) + " " + args + " > " + out.string() +
+                                    " 2> " + (dir / "err.txt").string();
+        const int status = std::system(command.c_str());
+        return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+    };
+    auto written = [&] {
+        std::ifstream f(out);
+        return std::string(std::istreambuf_iterator<char>(f), {});
+    };
+    EXPECT_EQ(run("rate " + good.string()), 0);
+    EXPECT_EQ(written(), RunRate(Text(FiveHoles()) + "\n" + Text(DeadCell()) + "\n").out);
+    EXPECT_EQ(run("rate < " + good.string()), 0);
+    EXPECT_EQ(Split(written(), '\n').size(), 2u);
+    EXPECT_EQ(run("solve " + bad.string()), 1);
+    EXPECT_EQ(Split(written(), '\n').size(), 1u);
+    EXPECT_EQ(run("steps < " + bad.string()), 1);
+    std::filesystem::remove_all(dir);
+}
+
+}  // namespace
 }  // namespace tavi::cli
