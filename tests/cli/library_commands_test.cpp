@@ -38,10 +38,10 @@ std::vector<std::string> Lines(const std::string& text) {
 TEST(CliGenerate, TheSameSeedGivesTheSameMinimalUniquePuzzles) {
     const Output a = RunCommand(GenerateCommand, {"generate", "--count", "4", "--seed", "99"});
     const Output b = RunCommand(GenerateCommand, {"generate", "--seed", "99", "--count", "4"});
-    const Output c = RunCommand(GenerateCommand, {"generate", "--count", "4", "--seed", "100"});
+    const Output other = RunCommand(GenerateCommand, {"generate", "--count", "4", "--seed", "100"});
     EXPECT_EQ(a.status, 0);
     EXPECT_EQ(a.out, b.out);
-    EXPECT_NE(a.out, c.out);
+    EXPECT_NE(a.out, other.out);
     const auto lines = Lines(a.out);
     ASSERT_EQ(lines.size(), 4u);
     for (const std::string& line : lines) {
