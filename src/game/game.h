@@ -8,12 +8,14 @@
 #pragma once
 
 #include <array>
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
 
 #include "game/library_position.h"
 #include "game/platform.h"
+#include "hints/hint_paint.h"
 #include "grid/library_files.h"
 #include "grid/records.h"
 #include "settings/options.h"
@@ -58,6 +60,7 @@ struct CommandStates {
     bool AutoSolve = false, Solution = false;
     std::string MakeCaption = "Make";
     std::string HintCaption = "Hint";
+    std::string ScanCaption = "Scan";
 };
 
 struct BrushState {
@@ -75,6 +78,8 @@ struct GameServices {
     TimeSource& clock;
     SoundPlayer* sounds = nullptr;
     PageOpener* pages = nullptr;
+    // Lets the window breathe during a long search: repaint, and hear Stop.
+    std::function<void()> yield = {};
 };
 
 inline constexpr std::string_view kStandingHintText =
@@ -132,6 +137,26 @@ public:
     void CommandSolution();
     void CommandHelp();
     void WebSiteClick();
+
+    // --- Hint, Autosolve and Scan -------------------------------------------
+    // The next logical step, shown and not taken; its price goes on the clock.
+    void CommandHint();
+    // Applies the techniques until the board is solved, a halt is reached or
+    // nothing is found.
+    void CommandAutoSolve();
+    // Autosolve over a range of the open library file; "Stop" ends it.
+    void CommandScan();
+    // The last hint found by a technique, for the hint window.
+    const HintRecord& LastHint() const { return lastHint_; }
+    // The hint window's caption: "Hint - " and the technique's name, or "Main
+    // Duplicate" when the board shows something else than a technique's hint.
+    const std::string& HintWindowCaption() const { return hintWindowCaption_; }
+    // Counts the hint windows the model asked for (a hint shown with the option on).
+    int HintWindowShows() const { return hintWindowShows_; }
+    // A search is running: the window takes no other command meanwhile.
+    bool Busy() const { return busy_; }
+    // Colours of a hint on the board.
+    void ApplyPaints(const std::vector<HintPaint>& paints);
 
     // --- Options --------------------------------------------------------------
     // After the options window closed: what changed from `before` takes effect
@@ -237,6 +262,19 @@ private:
     void WriteSettingsOnExit();
     void OpenPage(const std::string& page);
 
+    // Hint.
+    bool HiddenMarksShownFor(std::string_view question);
+    // The checks before the techniques: wrong digits, lost candidates, digits
+    // still marked. True when one of them spoke (and, for Hint, took its price).
+    bool ReportWrongNumber(bool penalty);
+    bool ReportLostCandidate(bool penalty);
+    bool ReportStillMarked(bool penalty);
+    void ShowTechniqueHint();
+    void SpecialHint();
+    // One Autosolve over the board; true when it stopped at a halt.
+    bool AutoSolveBoard();
+    void Breathe();
+
     // Clock.
     void StartClock();
     void ShowClock();
@@ -265,6 +303,12 @@ private:
     std::string labelTijd_;
     std::string caption_;
     std::string sudTekst_;
+    HintRecord lastHint_;
+    std::string hintWindowCaption_;
+    int hintWindowShows_ = 0;
+    int showMeCell_ = 0, showMeNumber_ = 0;
+    bool busy_ = false;
+    bool scanStop_ = false;
     int clockSeconds_ = 0;
     int clockStart_ = 0;
     bool clockPaused_ = false;

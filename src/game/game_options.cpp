@@ -15,6 +15,7 @@ void Game::RebuildMarks() {
 }
 
 void Game::CommandOptions(const Options& before) {
+    ResetHintStage();  // a waiting "Show Me" is for the board as it was
     const bool gameOpen = !position_.SudokuSolved && position_.OpenLevel > 0;
     const bool lowLevel = gameOpen && position_.OpenLevel < 4;
     if (options_.Dimmed != before.Dimmed) HoverCell = kNoHover;

@@ -1,0 +1,288 @@
+// Hint, Autosolve and Scan: the solver step by step on the game's board. Before
+// any technique runs, the board is checked for what a technique can't see: wrong
+// digits, lost candidates and digits still marked in their peers.
+#include "game/game.h"
+#include "grid/candidates.h"
+#include "hints/hint_kinds.h"
+#include "hints/hint_search.h"
+#include "hints/schrijf_hint.h"
+#include "hints/special_hint.h"
+
+namespace tavi {
+
+namespace {
+constexpr std::string_view kAutosolveCompleted =
+    "Autosolve completed, no more logical hints, if the current sudoku isn't solved, then "
+    "you'll have to enable more techniques or guess more than once...";
+}  // namespace
+
+void Game::Breathe() {
+    if (services_.yield) services_.yield();
+}
+
+void Game::ApplyPaints(const std::vector<HintPaint>& paints) {
+    const auto& colors = options_.colors.HintColor;
+    for (const HintPaint& p : paints) {
+        switch (p.what) {
+            case HintPaint::Erase: WisKleuren(); break;
+            case HintPaint::Cell: cellPaint_[p.cell] = colors[p.role]; break;
+            case HintPaint::Digit: markPaint_[p.cell][p.digit - 1] = colors[p.role]; break;
+        }
+    }
+}
+
+bool Game::HiddenMarksShownFor(std::string_view question) {
+    bool hidden = false;
+    for (int d = 1; d <= 9; ++d) hidden |= !filterOn_[d];
+    if (!hidden) return true;
+    if (services_.prompter.Ask("Hidden pencilmarks detected", question, Buttons::YesNo,
+                               Icon::Question) != Answer::Yes)
+        return false;
+    for (int d = 1; d <= 9; ++d)
+        if (!filterOn_[d]) ToonPencilmarks(d);
+    return true;
+}
+
+bool Game::ReportWrongNumber(bool penalty) {
+    const Board& b = ctx_.board;
+    for (int c = 0; c < 81; ++c) {
+        if (!b.Solution[c] || !b.CurrentGrid[c] || b.Solution[c] == b.CurrentGrid[c]) continue;
+        Speel(kSoundWrongNumber);
+        SelectedRow = c / 9;
+        SelectedColumn = c % 9;
+        textHint_ = "Incorrect number (" + std::to_string(b.CurrentGrid[c]) + ") at cell " +
+                    CellName(c) + " - Use [Undo] or [Reset Cell]";
+        HintPainter painter(b);
+        painter.WisKleuren();
+        painter.ZetHintVak(c, kAttackedCell);
+        ApplyPaints(painter.paints());
+        hintWindowCaption_ = kMainDuplicateCaption;
+        if (penalty) Penalty(10);
+        return true;
+    }
+    return false;
+}
+
+bool Game::ReportLostCandidate(bool penalty) {
+    const Board& b = ctx_.board;
+    for (int c = 0; c < 81; ++c) {
+        if (b.CurrentGrid[c] || !b.Solution[c] || b.Has(b.Solution[c], c)) continue;
+        Speel(kSoundWrongNumber);
+        SelectedRow = c / 9;
+        SelectedColumn = c % 9;
+        textHint_ = "The correct number is no longer shown as a possibility at cell " + CellName(c) +
+                    " - Use [Undo] or [Reset Cell]";
+        HintPainter painter(b);
+        painter.WisKleuren();
+        painter.ZetHintVak(c, kAttackedCell);
+        ApplyPaints(painter.paints());
+        hintWindowCaption_ = kMainDuplicateCaption;
+        if (penalty) Penalty(10);
+        return true;
+    }
+    return false;
+}
+
+bool Game::ReportStillMarked(bool penalty) {
+    const Board& b = ctx_.board;
+    for (int c = 0; c < 81; ++c) {
+        const int d = b.CurrentGrid[c];
+        if (!d || !Exclude(b, d, c)) continue;
+        Speel(kSoundStillMarked);
+        textHint_ = "Since number " + std::to_string(d) + " is located at cell " + CellName(c) +
+                    ", this number cannot longer be a candidate in that same row, column or block";
+        HintPainter painter(b);
+        painter.WisKleuren();
+        painter.ZetHintRij(c / 9, kPatternCell);
+        painter.ZetHintKolom(c % 9, kPatternCell);
+        painter.ZetHintBlok(Global::BoxLeftTopOfCell[c], kPatternCell);
+        painter.ZetHintVak(c, kAttackingCell);
+        painter.ZetHintNummer(c, d, kAttackingCandidates);
+        for (int peer : Peers[c]) painter.ZetAttackedCell(peer, d);
+        ApplyPaints(painter.paints());
+        hintWindowCaption_ = kMainDuplicateCaption;
+        if (penalty) Penalty(20);
+        return true;
+    }
+    return false;
+}
+
+void Game::ShowTechniqueHint() {
+    textHint_ = SchrijfHint(ctx_.hint, ctx_.board);
+    ApplyPaints(PaintHint(ctx_.hint, ctx_.board));
+    lastHint_ = RecordAfterSchrijfHint(ctx_.hint);
+    hintWindowCaption_ = HintCaption(ctx_.hint);
+    if (options_.HintWindow) ++hintWindowShows_;
+}
+
+void Game::SpecialHint() {
+    busy_ = true;
+    const auto hit = FindSpecialHint(ctx_.board.CurrentGrid, [&](std::string_view text) {
+        textHint_ = std::string(text);
+        Breathe();
+    });
+    busy_ = false;
+    if (!hit) {
+        textHint_ = std::string(kNoMoreLogicalHints);
+        return;
+    }
+    Speel(kSoundPenalty);
+    WisKleuren();
+    cellPaint_[hit->cell] = options_.colors.HintColor[kBaseCell];
+    showMeCell_ = hit->cell;
+    showMeNumber_ = hit->digit;
+    HintStage = 1;
+    commands_.HintCaption = "Show Me";
+    textHint_ = std::string(kSpecialHintText);
+    hintWindowCaption_ = kMainDuplicateCaption;
+    Penalty(15);
+}
+
+void Game::CommandHint() {
+    if (busy_) return;
+    if (HintStage != 0) {
+        // The second stage of a hint without pencil marks: the digit too.
+        Speel(kSoundPenalty);
+        WisKleuren();
+        cellPaint_[showMeCell_] = options_.colors.HintColor[kBaseCell];
+        markPaint_[showMeCell_][showMeNumber_ - 1] = options_.colors.HintColor[kBaseCandidates];
+        textHint_ = std::string(kSpecialHintText);
+        Penalty(15);
+        ResetHintStage();
+        return;
+    }
+    if (!HiddenMarksShownFor(
+            "All pencilmarks must be visible to make hints available, shall I make them visible ?"))
+        return;
+    if (ReportWrongNumber(true)) return;
+    if (options_.PencilmarksOff && position_.ChosenLevel < 4) return SpecialHint();
+    if (ReportLostCandidate(true) || ReportStillMarked(true)) return;
+
+    busy_ = true;
+    ctx_.BatchRunning = true;
+    ctx_.yield = [this] { Breathe(); };
+    const Rung* hit = FindHint(ctx_, options_.techniques, [&](std::string_view name) {
+        textHint_ = ScanningText(name);
+        Breathe();
+    });
+    ctx_.BatchRunning = false;
+    busy_ = false;
+    if (!hit) {
+        textHint_ = std::string(kNoLogicalHints);
+        return;
+    }
+    Speel(kSoundPenalty);
+    ShowTechniqueHint();
+    Penalty(15);
+}
+
+bool Game::AutoSolveBoard() {
+    const auto walk = HintWalk(options_.techniques);
+    busy_ = true;
+    ctx_.BatchRunning = true;
+    ctx_.yield = [this] { Breathe(); };
+    bool halted = false;
+    while (!scanStop_) {
+        Breathe();
+        bool progressed = false;
+        for (const Rung* rung : walk) {
+            textHint_ = ScanningText(AutosolveScanName(*rung));
+            const bool halt = options_.techniques.Halt[rung->number] == 1;
+            ctx_.HintOnly = halt;
+            ctx_.ForceZet = rung->number == kBifurcationTechnique && halt;
+            if (!rung->run(ctx_).found) continue;
+            if (ctx_.HintOnly) {
+                // A halt: the hit is shown, not taken.
+                Speel(kSoundPenalty);
+                ShowTechniqueHint();
+                halted = true;
+            }
+            progressed = true;
+            break;
+        }
+        ctx_.HintOnly = ctx_.ForceZet = false;
+        if (halted) break;
+        if (!progressed) {
+            textHint_ = std::string(kAutosolveCompleted);
+            break;
+        }
+        if (BoardSolved()) {
+            if (options_.Wells) SetupWells();
+            ZetOpgelost();
+            break;
+        }
+    }
+    ctx_.BatchRunning = false;
+    busy_ = false;
+    if (options_.Wells) SetupWells();
+    return halted;
+}
+
+void Game::CommandAutoSolve() {
+    if (busy_) return;
+    if (position_.ChosenLevel < 4 && options_.PencilmarksOff) return;
+    if (!HiddenMarksShownFor(
+            "All pencilmarks must be visible to start the Autosolver, shall I make them visible ?"))
+        return;
+    ResetHintStage();
+    ctx_.AutosolveActive = true;
+    if (ReportWrongNumber(false) || ReportLostCandidate(false) || ReportStillMarked(false)) {
+        commands_.ScanCaption = "Scan";
+        ctx_.AutosolveActive = false;
+        return;
+    }
+    // A game Autosolve has touched can't be saved any more.
+    position_.SudokuAutosolved = true;
+    AutoSolveBoard();
+    ctx_.AutosolveActive = false;
+}
+
+void Game::CommandScan() {
+    if (commands_.ScanCaption == "Stop") {
+        scanStop_ = true;
+        return;
+    }
+    if (busy_) return;
+    ResetHintStage();
+    LeaveBoard();
+    const int level = position_.ChosenLevel;
+    const auto file = PuzzleFile(folders_.DataFolder, LevelStem(level));
+    if (!FileExists(file)) {
+        services_.prompter.Message("File Error", "Source file: " + file.filename().string() +
+                                                     " not found!");
+        return;
+    }
+    const long count = WholeRecords(file, kSudokuRecordSize);
+    auto ask = [&](const std::string& title, long low, std::string_view def) -> long {
+        while (true) {
+            const auto answer = services_.prompter.Input(
+                title, "Enter a value between " + std::to_string(low) + " and " + std::to_string(count),
+                def);
+            if (!answer || answer->empty()) return 0;
+            const long n = std::atol(answer->c_str());
+            if (n >= low && n <= count) return n;
+        }
+    };
+    if (count < 1) return;
+    const long from = ask("Scan 'from' number", 1, "1");
+    if (!from) return;
+    const long to = ask("Scan 'to' number", from, std::to_string(count));
+    if (!to) return;
+
+    commands_.ScanCaption = "Stop";
+    scanStop_ = false;
+    for (long n = from; n <= to && !scanStop_; ++n) {
+        position_.PuzzleNumber[level] = int(n);
+        LoadPuzzle(false);
+        if (!gridEnabled_) break;
+        ctx_.AutosolveActive = true;
+        position_.SudokuAutosolved = true;
+        const bool halted = AutoSolveBoard();
+        ctx_.AutosolveActive = false;
+        if (halted) break;
+    }
+    scanStop_ = false;
+    commands_.ScanCaption = "Scan";
+}
+
+}  // namespace tavi

@@ -1,0 +1,196 @@
+// Hint, Autosolve and Scan on the game's board: the checks before the techniques
+// in their order, the penalties on a scripted clock, the halts.
+#include "grid/candidates.h"
+#include "hints/hint_search.h"
+#include "solver/ladder.h"
+#include "hints/schrijf_hint.h"
+#include "support/game_fixture.h"
+
+namespace tavi::testing {
+namespace {
+
+class Hints : public GameFixture {
+public:
+    Game& Playing(int level) {
+        Game& g = Started();
+        g.OptionType(level);
+        g.CommandNew();
+        return g;
+    }
+    int Clock() { return game->ClockSeconds(); }
+    // An open cell and a digit that is a candidate there but not its solution.
+    std::pair<int, int> WrongCandidate() const {
+        const Board& b = game->board();
+        for (int c = 0; c < 81; ++c)
+            for (int d = 1; d <= 9; ++d)
+                if (!b.CurrentGrid[c] && d != b.Solution[c] && b.Has(d, c)) return {c, d};
+        return {-1, 0};
+    }
+};
+
+TEST_F(Hints, ATechniqueHintChangesNothingAndCostsFifteenSeconds) {
+    options.Sounds = true;
+    Game& g = Playing(1);
+    options.Sounds = true;
+    const Board before = g.board();
+    g.CommandHint();
+    EXPECT_EQ(g.board().CurrentGrid, before.CurrentGrid);
+    EXPECT_EQ(g.board().Candidates, before.Candidates);
+    EXPECT_EQ(g.CurrentStep(), 0);
+    EXPECT_EQ(Clock(), 15);
+    EXPECT_EQ(sounds.played.back(), kSoundPenalty);
+    // The first hint of a fresh board is a single; its sentence is the one shown.
+    EXPECT_EQ(g.TextHint(), SchrijfHint(g.LastHint(), g.board()));
+    EXPECT_TRUE(g.TextHint().starts_with("HIDDEN SINGLE: ") ||
+                g.TextHint().starts_with("NAKED SINGLE: "))
+        << g.TextHint();
+    EXPECT_TRUE(g.HintWindowCaption().starts_with("Hint - "));
+    bool painted = false;
+    for (int c = 0; c < 81; ++c) painted |= g.CellPaint(c).has_value();
+    EXPECT_TRUE(painted);
+}
+
+TEST_F(Hints, AWrongDigitIsReportedFirst) {
+    Game& g = Playing(2);
+    auto [cell, digit] = WrongCandidate();
+    ASSERT_GE(cell, 0);
+    g.MarkMouseUp(digit, cell, MouseButton::Left, true);
+    g.CommandHint();
+    EXPECT_EQ(g.TextHint(), "Incorrect number (" + std::to_string(digit) + ") at cell " +
+                                CellName(cell) + " - Use [Undo] or [Reset Cell]");
+    EXPECT_EQ(g.SelectedRow, cell / 9);
+    EXPECT_EQ(g.SelectedColumn, cell % 9);
+    EXPECT_EQ(g.CellPaint(cell), options.colors.HintColor[kAttackedCell]);
+    EXPECT_EQ(Clock(), 10);
+    // Reset Cell on the named cell is the way out.
+    g.CommandResetCell();
+    EXPECT_EQ(g.board().CurrentGrid[cell], 0);
+}
+
+TEST_F(Hints, ALostCandidateAndADigitStillMarked) {
+    Game& g = Playing(3);
+    auto [cell, digit] = FirstOpenCell();
+    g.MarkMouseUp(digit, cell, MouseButton::Right, true);
+    g.CommandHint();
+    EXPECT_EQ(g.TextHint(), "The correct number is no longer shown as a possibility at cell " +
+                                CellName(cell) + " - Use [Undo] or [Reset Cell]");
+    EXPECT_EQ(Clock(), 10);
+    g.CommandUndo();
+    // A digit placed without the automatic update stays marked in its peers.
+    options.Pencilmarks = false;
+    g.MarkMouseUp(digit, cell, MouseButton::Left, true);
+    g.CommandHint();
+    EXPECT_EQ(g.TextHint(), "Since number " + std::to_string(digit) + " is located at cell " +
+                                CellName(cell) +
+                                ", this number cannot longer be a candidate in that same row, "
+                                "column or block");
+    EXPECT_EQ(Clock(), 30);
+    EXPECT_EQ(g.CellPaint(cell), options.colors.HintColor[kAttackingCell]);
+}
+
+TEST_F(Hints, HiddenMarksAreShownFirstOrTheHintIsDropped) {
+    Game& g = Playing(1);
+    g.DigitButtonUp(5, MouseButton::Left, true);
+    prompter.answers = {Answer::No};
+    g.CommandHint();
+    EXPECT_EQ(prompter.shown.back().title, "Hidden pencilmarks detected");
+    EXPECT_EQ(Clock(), 0);
+    EXPECT_FALSE(g.FilterOn(5));
+    prompter.answers = {Answer::Yes};
+    g.CommandHint();
+    EXPECT_TRUE(g.FilterOn(5));
+    EXPECT_EQ(Clock(), 15);
+}
+
+TEST_F(Hints, WithoutPencilmarksTheHintComesInTwoStages) {
+    Game& g = Started();
+    options.PencilmarksOff = true;
+    g.OptionType(2);
+    g.CommandNew();
+    g.CommandHint();
+    EXPECT_EQ(g.TextHint(), "A candidate can savely be assigned to the colored cell");
+    EXPECT_EQ(g.commands().HintCaption, "Show Me");
+    EXPECT_EQ(Clock(), 15);
+    int cell = -1;
+    for (int c = 0; c < 81; ++c)
+        if (g.CellPaint(c)) cell = c;
+    ASSERT_GE(cell, 0);
+    EXPECT_EQ(g.board().CurrentGrid[cell], 0);
+    g.CommandHint();
+    EXPECT_EQ(g.commands().HintCaption, "Hint");
+    EXPECT_EQ(Clock(), 30);
+    int digit = 0;
+    for (int d = 1; d <= 9; ++d)
+        if (g.MarkPaint(d, cell) == options.colors.HintColor[kBaseCandidates]) digit = d;
+    EXPECT_EQ(digit, g.board().Solution[cell]);
+    // A change of the board drops a waiting second stage.
+    g.CommandHint();
+    EXPECT_EQ(g.commands().HintCaption, "Show Me");
+    g.MarkMouseUp(digit, cell, MouseButton::Left, true);
+    EXPECT_EQ(g.commands().HintCaption, "Hint");
+}
+
+TEST_F(Hints, WhereTheLogicEndsAHintCostsNothing) {
+    // A puzzle the ladder can't finish, as record 1 of the Outlaw file.
+    const GeneratedPuzzle* outlaw = nullptr;
+    for (const auto& p : GeneratedPuzzles(400)) {
+        SolveContext ctx;
+        ctx.board = BoardFromPuzzle(p.puzzle);
+        if (!SolveSudoku(ctx, {})) {
+            outlaw = &p;
+            break;
+        }
+    }
+    ASSERT_NE(outlaw, nullptr);
+    WriteSudokuRecord(PuzzleFile(folders.AppFolder, LevelStem(9)), 1,
+                      SudokuRecord{outlaw->puzzle, outlaw->solution, 0, 0});
+    Game& g = Playing(9);
+    g.CommandAutoSolve();
+    EXPECT_EQ(g.TextHint(),
+              "Autosolve completed, no more logical hints, if the current sudoku isn't solved, "
+              "then you'll have to enable more techniques or guess more than once...");
+    EXPECT_EQ(Clock(), 0);
+    g.CommandHint();
+    EXPECT_EQ(g.TextHint(), "No logical hints, you'll have to guess more than once...");
+    EXPECT_EQ(Clock(), 0);
+}
+
+TEST_F(Hints, AutosolvePlaysThroughAndCannotBeSaved) {
+    Game& g = Playing(1);
+    g.CommandAutoSolve();
+    EXPECT_EQ(g.board().CurrentGrid, g.board().Solution);
+    EXPECT_TRUE(g.position().SudokuSolved);
+    EXPECT_GT(g.CurrentStep(), 0);
+    // No applause and no best time for an autosolved game.
+    EXPECT_FALSE(prompter.Showed("New best time !!!"));
+}
+
+TEST_F(Hints, AutosolveStopsAtAHalt) {
+    Game& g = Playing(3);
+    options.techniques.Halt[4] = 1;  // naked singles halt
+    const int before = g.board().EmptyCount();
+    g.CommandAutoSolve();
+    EXPECT_TRUE(g.TextHint().starts_with("NAKED SINGLE: ")) << g.TextHint();
+    EXPECT_LT(g.board().EmptyCount(), before);
+    EXPECT_FALSE(g.position().SudokuSolved);
+    prompter.shown.clear();
+    PlaceOne();
+    g.CommandSave();
+    EXPECT_EQ(prompter.shown.back().text,
+              "Autosolve function is invoked at the current sudoku, therefore you cannot save "
+              "this sudoku !");
+}
+
+TEST_F(Hints, ScanRunsAutosolveOverARange) {
+    Game& g = Started();
+    g.OptionType(1);
+    prompter.inputs = {"2", "3"};
+    g.CommandScan();
+    EXPECT_EQ(g.position().OpenRecord, 3);
+    EXPECT_EQ(g.commands().ScanCaption, "Scan");
+    EXPECT_TRUE(g.position().SudokuSolved);
+    EXPECT_EQ(prompter.shown.at(prompter.shown.size() - 1).text, "Enter a value between 2 and 3");
+}
+
+}  // namespace
+}  // namespace tavi::testing
