@@ -6,6 +6,9 @@
 #include "cli/puzzle_lines.h"
 #include "grid/candidates.h"
 #include "grid/levels.h"
+#include "hints/hint_paint.h"
+#include "hints/hint_search.h"
+#include "hints/schrijf_hint.h"
 #include "solver/brute_force.h"
 #include "solver/ladder.h"
 
@@ -18,6 +21,16 @@ namespace {
 int RatePuzzle(SolveContext& ctx, const Digits& puzzle, const WorkbenchRun& run) {
     ctx.board = BoardFromPuzzle(puzzle);
     return SolveSudoku(ctx, run) ? ctx.SolvingLevel : kOutlaw;
+}
+
+// The sentence of the record that `rung` fills under HintOnly on `board`.
+std::string ExplainStep(const Rung& rung, const Board& board) {
+    SolveContext look(Side::Workbench);
+    look.board = board;
+    look.HintOnly = true;
+    look.ForceZet = rung.number == kBifurcationTechnique;
+    if (!rung.run(look).found) return "";
+    return SchrijfHint(look.hint, board);
 }
 
 std::string FormatChange(const BoardChange& change) {
@@ -63,15 +76,18 @@ int Solve(std::istream& in, std::ostream& out, std::ostream& err) {
     return bad ? 1 : 0;
 }
 
-int Steps(std::istream& in, std::ostream& out, std::ostream& err) {
+int Steps(std::istream& in, std::ostream& out, std::ostream& err, bool explain) {
     SolveContext ctx(Side::Workbench);
     std::vector<BoardChange> changes;
     int step = 0;
+    Board before;
     WorkbenchRun run;
+    if (explain) run.observer.before = [&](const Rung&) { before = ctx.board; };
     run.observer.hit = [&](const Rung& rung) {
         out << "step\t" << ++step << '\t' << rung.number << '\t' << rung.Name() << '\t';
         for (size_t i = 0; i < changes.size(); ++i)
             out << (i ? " " : "") << FormatChange(changes[i]);
+        if (explain) out << '\t' << ExplainStep(rung, before);
         out << '\n';
         changes.clear();
     };
@@ -83,6 +99,22 @@ int Steps(std::istream& in, std::ostream& out, std::ostream& err) {
         ctx.trace = nullptr;
         out << "result\t" << (level == kOutlaw ? "unsolved" : "solved") << '\t' << level << '\t'
             << LevelName(level) << '\n';
+    });
+    return bad ? 1 : 0;
+}
+
+int Hint(std::istream& in, std::ostream& out, std::ostream& err, bool paint) {
+    const TechniqueTables defaults;
+    const int bad = ForEachPuzzle(in, err, [&](const PuzzleLine& p) {
+        SolveContext ctx(Side::Game);
+        ctx.board = BoardFromPuzzle(p.digits);
+        const bool clash = GivensClash(p.digits);
+        const Rung* hit = clash ? nullptr : FindHint(ctx, defaults);
+        out << p.text << '\t' << (hit ? SchrijfHint(ctx.hint, ctx.board) : std::string(kNoLogicalHints))
+            << '\n';
+        if (paint && hit)
+            for (const HintPaint& each : PaintHint(ctx.hint, ctx.board))
+                out << '\t' << DescribePaint(each) << '\n';
     });
     return bad ? 1 : 0;
 }

@@ -23,6 +23,13 @@ int Solve(std::istream& in, std::ostream& out, std::ostream& err);
 // Per puzzle: a line per ladder hit ("step", its number, the technique number,
 // the technique's name, the changes), then "result" with "solved" or "unsolved",
 // the level and its name.
-int Steps(std::istream& in, std::ostream& out, std::ostream& err);
+// With `explain`, each step line ends in the hint sentence of the step: what the
+// rung reports under HintOnly on the board before it.
+int Steps(std::istream& in, std::ostream& out, std::ostream& err, bool explain = false);
+
+// Per puzzle: the 81 characters and the sentence that Hint gives on the fresh
+// board with the default options, or "No logical hints, ..."; with `paint`, the
+// hint's paints follow, one per line, each after a tab.
+int Hint(std::istream& in, std::ostream& out, std::ostream& err, bool paint = false);
 
 }  // namespace tavi::cli

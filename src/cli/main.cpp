@@ -20,7 +20,10 @@ constexpr const char* kUsage =
     "commands:\n"
     "  rate [--summary]   puzzle, level number and level name\n"
     "  solve              puzzle, unique/none/multiple, and the solution or -\n"
-    "  steps              every step of the ladder, then the result\n"
+    "  steps [--explain]  every step of the ladder, then the result; --explain adds\n"
+    "                     the hint sentence of each step\n"
+    "  hint [--paint]     the sentence of the first hint on the fresh board; --paint\n"
+    "                     lists the hint's colours after it\n"
     "\n"
     "  generate --count N [--seed S]\n"
     "        N minimal puzzles with one solution each, one per line\n"
@@ -54,10 +57,15 @@ int main(int argc, char** argv) {
     if (command == "library") return tavi::cli::LibraryCommand(args, std::cout, std::cerr);
 
     tavi::cli::RateOptions rateOptions;
+    bool explain = false, paint = false;
     std::string file;
     for (size_t i = 1; i < args.size(); ++i) {
         if (args[i] == "--summary" && command == "rate")
             rateOptions.summary = true;
+        else if (args[i] == "--explain" && command == "steps")
+            explain = true;
+        else if (args[i] == "--paint" && command == "hint")
+            paint = true;
         else if (args[i].rfind("--", 0) == 0)
             return Usage("unknown option " + args[i] + " for " + command);
         else if (file.empty())
@@ -79,6 +87,7 @@ int main(int argc, char** argv) {
 
     if (command == "rate") return tavi::cli::Rate(in, std::cout, std::cerr, rateOptions);
     if (command == "solve") return tavi::cli::Solve(in, std::cout, std::cerr);
-    if (command == "steps") return tavi::cli::Steps(in, std::cout, std::cerr);
+    if (command == "steps") return tavi::cli::Steps(in, std::cout, std::cerr, explain);
+    if (command == "hint") return tavi::cli::Hint(in, std::cout, std::cerr, paint);
     return Usage("unknown command " + command);
 }

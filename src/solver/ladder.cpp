@@ -136,6 +136,7 @@ bool SolveSudoku(SolveContext& ctx, const WorkbenchRun& run) {
     std::string base;
     auto runRung = [&](const Rung& rung) {
         if (showing) run.observer.progress(base + std::string(rung.label));
+        if (run.observer.before) run.observer.before(rung);
         const RungOutcome out = rung.run(ctx);
         if (out.found && run.observer.hit) run.observer.hit(rung);
         return out;
