@@ -222,6 +222,9 @@ public:
     void Speel(int id);
     // The end of a game: best time, erase question, "Busy", commands off.
     void ZetOpgelost();
+    // The common end of a game and of Solution: erase the progress (or ask),
+    // keep "Busy" for a game still in progress on disk, write the position.
+    void CloseGameRecord();
 
 private:
     // MoveListener: the solver's placements and removals become steps.
@@ -269,6 +272,7 @@ private:
     bool ReportWrongNumber(bool penalty);
     bool ReportLostCandidate(bool penalty);
     bool ReportStillMarked(bool penalty);
+    void ReportCell(int cell, const std::string& text, int penalty);
     void ShowTechniqueHint();
     void SpecialHint();
     // One Autosolve over the board; true when it stopped at a halt.

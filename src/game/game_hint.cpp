@@ -43,21 +43,29 @@ bool Game::HiddenMarksShownFor(std::string_view question) {
     return true;
 }
 
+// A cell whose digit or marks are wrong: its row and column are picked for
+// Reset Cell and the cell is shown as attacked.
+void Game::ReportCell(int cell, const std::string& text, int penalty) {
+    Speel(kSoundWrongNumber);
+    SelectedRow = cell / 9;
+    SelectedColumn = cell % 9;
+    textHint_ = text;
+    HintPainter painter(ctx_.board);
+    painter.WisKleuren();
+    painter.ZetHintVak(cell, kAttackedCell);
+    ApplyPaints(painter.paints());
+    hintWindowCaption_ = kMainDuplicateCaption;
+    if (penalty) Penalty(penalty);
+}
+
 bool Game::ReportWrongNumber(bool penalty) {
     const Board& b = ctx_.board;
     for (int c = 0; c < 81; ++c) {
         if (!b.Solution[c] || !b.CurrentGrid[c] || b.Solution[c] == b.CurrentGrid[c]) continue;
-        Speel(kSoundWrongNumber);
-        SelectedRow = c / 9;
-        SelectedColumn = c % 9;
-        textHint_ = "Incorrect number (" + std::to_string(b.CurrentGrid[c]) + ") at cell " +
-                    CellName(c) + " - Use [Undo] or [Reset Cell]";
-        HintPainter painter(b);
-        painter.WisKleuren();
-        painter.ZetHintVak(c, kAttackedCell);
-        ApplyPaints(painter.paints());
-        hintWindowCaption_ = kMainDuplicateCaption;
-        if (penalty) Penalty(10);
+        ReportCell(c,
+                   "Incorrect number (" + std::to_string(b.CurrentGrid[c]) + ") at cell " +
+                       CellName(c) + " - Use [Undo] or [Reset Cell]",
+                   penalty ? 10 : 0);
         return true;
     }
     return false;
@@ -67,17 +75,10 @@ bool Game::ReportLostCandidate(bool penalty) {
     const Board& b = ctx_.board;
     for (int c = 0; c < 81; ++c) {
         if (b.CurrentGrid[c] || !b.Solution[c] || b.Has(b.Solution[c], c)) continue;
-        Speel(kSoundWrongNumber);
-        SelectedRow = c / 9;
-        SelectedColumn = c % 9;
-        textHint_ = "The correct number is no longer shown as a possibility at cell " + CellName(c) +
-                    " - Use [Undo] or [Reset Cell]";
-        HintPainter painter(b);
-        painter.WisKleuren();
-        painter.ZetHintVak(c, kAttackedCell);
-        ApplyPaints(painter.paints());
-        hintWindowCaption_ = kMainDuplicateCaption;
-        if (penalty) Penalty(10);
+        ReportCell(c,
+                   "The correct number is no longer shown as a possibility at cell " + CellName(c) +
+                       " - Use [Undo] or [Reset Cell]",
+                   penalty ? 10 : 0);
         return true;
     }
     return false;

@@ -265,17 +265,7 @@ void Game::CommandSolution() {
     }
     if (options_.Wells) SetupWells();
     // As the end of a game, without the applause and the best time.
-    if (options_.AutoErase ||
-        services_.prompter.Ask("Sudoku solved",
-                               "Do you want to erase progress of current solved sudoku ?",
-                               Buttons::YesNo, Icon::Question) == Answer::Yes) {
-        AutoWisProgress(folders_, position_, sudoku_, logRecord_);
-        position_.SudokuSolved = true;
-    }
-    if (!position_.SudokuSolved && !SudInProgress(folders_, position_))
-        position_.SudokuSolved = true;
-    SaveLastSudoku(services_.store, position_);
-    position_.SudokuSolved = true;
+    CloseGameRecord();
     commands_.Save = commands_.Undo = commands_.Redo = commands_.ResetCell = false;
     commands_.Hint = commands_.AutoSolve = commands_.Solution = false;
 }

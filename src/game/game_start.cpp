@@ -92,12 +92,16 @@ void Game::ZetOpgelost() {
             BewaarBestTime(folders_, position_, sudoku_, &services_.prompter);
         }
     }
-    if (options_.AutoErase) {
-        AutoWisProgress(folders_, position_, sudoku_, logRecord_);
-        position_.SudokuSolved = true;
-    } else if (services_.prompter.Ask("Sudoku solved",
-                                      "Do you want to erase progress of current solved sudoku ?",
-                                      Buttons::YesNo, Icon::Question) == Answer::Yes) {
+    CloseGameRecord();
+    commands_.Undo = commands_.Redo = commands_.ResetCell = commands_.Hint = false;
+    commands_.AutoSolve = commands_.Solution = commands_.Save = false;
+}
+
+void Game::CloseGameRecord() {
+    if (options_.AutoErase ||
+        services_.prompter.Ask("Sudoku solved",
+                               "Do you want to erase progress of current solved sudoku ?",
+                               Buttons::YesNo, Icon::Question) == Answer::Yes) {
         AutoWisProgress(folders_, position_, sudoku_, logRecord_);
         position_.SudokuSolved = true;
     }
@@ -107,8 +111,6 @@ void Game::ZetOpgelost() {
         position_.SudokuSolved = true;
     SaveLastSudoku(services_.store, position_);
     position_.SudokuSolved = true;
-    commands_.Undo = commands_.Redo = commands_.ResetCell = commands_.Hint = false;
-    commands_.AutoSolve = commands_.Solution = commands_.Save = false;
 }
 
 void Game::WriteSettingsOnExit() {

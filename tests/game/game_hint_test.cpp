@@ -11,12 +11,6 @@ namespace {
 
 class Hints : public GameFixture {
 public:
-    Game& Playing(int level) {
-        Game& g = Started();
-        g.OptionType(level);
-        g.CommandNew();
-        return g;
-    }
     int Clock() { return game->ClockSeconds(); }
     // An open cell and a digit that is a candidate there but not its solution.
     std::pair<int, int> WrongCandidate() const {

@@ -7,12 +7,6 @@ namespace {
 
 class Input : public GameFixture {
 public:
-    Game& Playing(int level) {
-        Game& g = Started();
-        g.OptionType(level);
-        g.CommandNew();
-        return g;
-    }
     // An open cell with at least two marks, other than its solution, that a peer
     // in the same row also carries; and that digit.
     std::pair<int, int> OpenCellWithWrongMark() {

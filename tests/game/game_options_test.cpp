@@ -7,12 +7,6 @@ namespace {
 
 class OptionsChange : public GameFixture {
 public:
-    Game& Playing(int level) {
-        Game& g = Started();
-        g.OptionType(level);
-        g.CommandNew();
-        return g;
-    }
     // What the options window does on OK.
     void ChangeOptions(Game& g, void (*edit)(OptionsForm&)) {
         const Options before = options;

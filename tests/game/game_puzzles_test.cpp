@@ -7,12 +7,6 @@ namespace {
 
 class Puzzles : public GameFixture {
 public:
-    Game& Playing(int level) {
-        Game& g = Started();
-        g.OptionType(level);
-        g.CommandNew();
-        return g;
-    }
     // Fills every open cell with its solution digit, one click each.
     void SolveByHand() {
         for (auto [cell, digit] = FirstOpenCell(); cell >= 0; std::tie(cell, digit) = FirstOpenCell())

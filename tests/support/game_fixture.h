@@ -118,6 +118,13 @@ public:
         EXPECT_TRUE(game->Start());
         return *game;
     }
+    // A started game with New pressed on `level`.
+    Game& Playing(int level) {
+        Game& g = Started();
+        g.OptionType(level);
+        g.CommandNew();
+        return g;
+    }
     // The record `number` of `level` as the game reads it.
     GeneratedPuzzle Record(int level, int number) {
         SudokuRecord r;
