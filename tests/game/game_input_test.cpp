@@ -53,7 +53,9 @@ TEST_F(Input, WithoutAutomaticUpdateOnlyTheCellLosesItsMarks) {
     const auto before = Marks();
     g.MarkMouseUp(digit, cell, MouseButton::Left, true);
     for (int c = 0; c < 81; ++c)
-        if (c != cell) EXPECT_EQ(g.board().Candidates[c], before[c]);
+        if (c != cell) {
+            EXPECT_EQ(g.board().Candidates[c], before[c]);
+        }
     const MoveStep& s = g.MoveLog()[0];
     EXPECT_EQ(s.LogColumnMarks | s.LogRowMarks | s.LogBoxMarks, 0);
 }

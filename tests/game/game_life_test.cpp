@@ -153,7 +153,7 @@ INSTANTIATE_TEST_SUITE_P(
                       ExitCase{"AskCancel", false, true, {Answer::Cancel}, false, false, ""},
                       ExitCase{"NeverYes", false, false, {Answer::Yes}, true, false, "No"},
                       ExitCase{"NeverNo", false, false, {Answer::No}, false, false, ""}),
-    [](const auto& info) { return std::string(info.param.name); });
+    [](const auto& param) { return std::string(param.param.name); });
 
 TEST_F(Life, ClosingTheWindowWithNeitherOptionAsksToSave) {
     Game& g = Started();
