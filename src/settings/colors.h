@@ -45,13 +45,14 @@ constexpr bool IsStoredLabel(int i) {
     return i >= 1 && i <= 9 && i != 4 && i != 5;
 }
 
-// Mark brushes write the digit in their fore colour; cell brushes paint the cell
-// in their back colour.
+// A brush paints in its label's back colour: a mark brush the background of one
+// mark, a cell brush a whole cell. Mark brushes are stronger than cell brushes,
+// so that a painted mark stands out on a painted cell.
 inline constexpr std::array<Color, kPaletteLabels> kDefaultLabelBack = {
-    0x00FFFFFF, 0x00FFFFFF, 0x00FFFFFF, 0x00FFFFFF, 0x00E0E0E0,
-    0x00E0E0E0, 0x0080FFFF, 0x0080FF80, 0x00FFC080, 0x00C0A0FF};
+    0x0050C8FF, 0x0060D860, 0x00FFA860, 0x00E080E0, 0x00E0E0E0,
+    0x00E0E0E0, 0x00A0F0FF, 0x00C0F0C0, 0x00FFE0C0, 0x00F0D0F0};
 inline constexpr std::array<Color, kPaletteLabels> kDefaultLabelFore = {
-    0x000000FF, 0x00C00000, 0x00008000, 0x00C000C0, 0x00000000,
+    0x00000000, 0x00000000, 0x00000000, 0x00000000, 0x00000000,
     0x00000000, 0x00000000, 0x00000000, 0x00000000, 0x00000000};
 
 struct ColorSettings {
