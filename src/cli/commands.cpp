@@ -103,6 +103,26 @@ int Steps(std::istream& in, std::ostream& out, std::ostream& err, bool explain) 
     return bad ? 1 : 0;
 }
 
+int Signature(std::istream& in, std::ostream& out, std::ostream& err) {
+    SolveContext ctx(Side::Workbench);
+    std::vector<BoardChange> changes;
+    int steps = 0;
+    WorkbenchRun run;
+    run.observer.hit = [&](const Rung&) { ++steps; };
+    const int bad = ForEachPuzzle(in, err, [&](const PuzzleLine& p) {
+        steps = 0;
+        changes.clear();
+        ctx.trace = &changes;
+        const int level = RatePuzzle(ctx, p.digits, run);
+        ctx.trace = nullptr;
+        int placed = 0;
+        for (const BoardChange& c : changes) placed += c.kind == BoardChange::Placed;
+        out << p.text << '\t' << level << '\t' << steps << '\t' << placed << '\t'
+            << changes.size() - placed << '\n';
+    });
+    return bad ? 1 : 0;
+}
+
 int Hint(std::istream& in, std::ostream& out, std::ostream& err, bool paint) {
     const TechniqueTables defaults;
     const int bad = ForEachPuzzle(in, err, [&](const PuzzleLine& p) {

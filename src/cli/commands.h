@@ -27,6 +27,11 @@ int Solve(std::istream& in, std::ostream& out, std::ostream& err);
 // rung reports under HintOnly on the board before it.
 int Steps(std::istream& in, std::ostream& out, std::ostream& err, bool explain = false);
 
+// A deterministic signature of the ladder: per puzzle the 81 characters, the
+// level, the number of steps, of digits placed and of candidates removed. Kept
+// for a fixed list in the tests, so that no change of behaviour goes unnoticed.
+int Signature(std::istream& in, std::ostream& out, std::ostream& err);
+
 // Per puzzle: the 81 characters and the sentence that Hint gives on the fresh
 // board with the default options, or "No logical hints, ..."; with `paint`, the
 // hint's paints follow, one per line, each after a tab.

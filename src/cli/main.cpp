@@ -24,6 +24,7 @@ constexpr const char* kUsage =
     "                     the hint sentence of each step\n"
     "  hint [--paint]     the sentence of the first hint on the fresh board; --paint\n"
     "                     lists the hint's colours after it\n"
+    "  signature          level, steps, placements and removals of each puzzle\n"
     "\n"
     "  generate --count N [--seed S]\n"
     "        N minimal puzzles with one solution each, one per line\n"
@@ -89,5 +90,6 @@ int main(int argc, char** argv) {
     if (command == "solve") return tavi::cli::Solve(in, std::cout, std::cerr);
     if (command == "steps") return tavi::cli::Steps(in, std::cout, std::cerr, explain);
     if (command == "hint") return tavi::cli::Hint(in, std::cout, std::cerr, paint);
+    if (command == "signature") return tavi::cli::Signature(in, std::cout, std::cerr);
     return Usage("unknown command " + command);
 }

@@ -1,0 +1,38 @@
+// The ladder's signature over a fixed list of generated puzzles must stay as it
+// is recorded: a change of any rung's behaviour shows here. When the change is
+// meant (a new technique), the file is made again with the command in its header.
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <sstream>
+
+#include "cli/commands.h"
+#include "cli/library_commands.h"
+
+namespace tavi::cli {
+namespace {
+
+TEST(LadderSignature, StaysAsRecorded) {
+    std::ifstream file(std::string(TAVI_TEST_DATA_DIR) + "/ladder_signature.tsv");
+    ASSERT_TRUE(file) << "missing tests/data/ladder_signature.tsv";
+    std::vector<std::string> expected;
+    for (std::string line; std::getline(file, line);)
+        if (!line.empty() && line[0] != '#') expected.push_back(line);
+    ASSERT_EQ(expected.size(), 300u);
+
+    std::ostringstream puzzles;
+    ASSERT_EQ(Generate(300, 4242, puzzles), 0);
+    std::istringstream in(puzzles.str());
+    std::ostringstream out, err;
+    ASSERT_EQ(Signature(in, out, err), 0);
+    std::istringstream got(out.str());
+    std::string line;
+    for (size_t i = 0; i < expected.size(); ++i) {
+        ASSERT_TRUE(std::getline(got, line));
+        EXPECT_EQ(line, expected[i]) << "puzzle " << i + 1;
+    }
+    EXPECT_FALSE(std::getline(got, line));
+}
+
+}  // namespace
+}  // namespace tavi::cli
