@@ -1,0 +1,35 @@
+// tavi-sudoku: the game window over the core. The folders, the settings store,
+// the options and the platform's services are made here and handed to the game;
+// the game starts before the window shows, as its questions may come first.
+#include <QApplication>
+
+#include "game/game.h"
+#include "settings/options.h"
+#include "ui/desktop_services.h"
+#include "ui/main_window.h"
+#include "ui/program_folders.h"
+#include "ui/qsettings_store.h"
+#include "ui/qt_prompter.h"
+#include "ui/qt_sound_player.h"
+
+int main(int argc, char** argv) {
+    QApplication app(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("Tavi Sudoku 1"));
+    QApplication::setApplicationVersion(QStringLiteral("1.6"));
+
+    const tavi::LibraryFolders folders = tavi::ui::ProgramFolders();
+    tavi::ui::QSettingsStore store;
+    tavi::Options options;
+    tavi::ui::QtPrompter prompter;
+    tavi::ui::QtSoundPlayer sounds(folders.AppFolder);
+    tavi::ui::QtTimeSource clock;
+    tavi::ui::DesktopPageOpener pages;
+    tavi::Game game(tavi::GameServices{prompter, store, clock, &sounds, &pages}, folders, options);
+
+    tavi::ui::MainWindow window(game, folders.AppFolder);
+    if (!game.Start()) return 1;
+    prompter.SetParent(&window);
+    window.Refresh();
+    window.show();
+    return app.exec();
+}

@@ -1,0 +1,62 @@
+#include "ui/board_geometry.h"
+
+#include <algorithm>
+
+namespace tavi::ui {
+
+void BoardGeometry::Fit(QSize size) {
+    // The headers take half a cell, the outer border half a thick line.
+    const int side = std::min(size.width(), size.height());
+    cell_ = std::max(9, int((side - 4) / 9.5));
+    cell_ -= cell_ % 3;  // three marks of equal size across
+    header_ = std::max(12, cell_ / 2);
+    thick_ = std::max(2, (cell_ + 12) / 24);
+    const int width = header_ + 9 * cell_ + thick_;
+    const int height = header_ + 9 * cell_ + thick_;
+    origin_ = QPoint((size.width() - width) / 2 + header_, (size.height() - height) / 2 + header_);
+}
+
+QRect BoardGeometry::BoardRect() const {
+    return QRect(origin_ - QPoint(header_, header_),
+                 QSize(header_ + 9 * cell_ + thick_, header_ + 9 * cell_ + thick_));
+}
+
+QRect BoardGeometry::CellRect(int cell) const {
+    return QRect(origin_.x() + (cell % 9) * cell_, origin_.y() + (cell / 9) * cell_, cell_, cell_);
+}
+
+QRect BoardGeometry::MarkRect(int digit, int cell) const {
+    const int m = cell_ / 3;
+    const QRect c = CellRect(cell);
+    return QRect(c.x() + ((digit - 1) % 3) * m, c.y() + ((digit - 1) / 3) * m, m, m);
+}
+
+QRect BoardGeometry::RowHeaderRect(int row) const {
+    return QRect(origin_.x() - header_, origin_.y() + row * cell_, header_, cell_);
+}
+
+QRect BoardGeometry::ColumnHeaderRect(int column) const {
+    return QRect(origin_.x() + column * cell_, origin_.y() - header_, cell_, header_);
+}
+
+BoardSpot BoardGeometry::SpotAt(QPoint p) const {
+    if (cell_ <= 0) return {};
+    const int x = p.x() - origin_.x();
+    const int y = p.y() - origin_.y();
+    const int span = 9 * cell_;
+    // Integer division rounds towards zero; the floor keeps -1 out of column 0.
+    auto floorDiv = [](int a, int b) { return a >= 0 ? a / b : -((-a + b - 1) / b); };
+    const int column = floorDiv(x, cell_);
+    const int row = floorDiv(y, cell_);
+    if (x >= 0 && x < span && y >= 0 && y < span) {
+        const int m = cell_ / 3;
+        const int mx = std::min(2, (x - column * cell_) / m);
+        const int my = std::min(2, (y - row * cell_) / m);
+        return {BoardSpot::Cell, row * 9 + column, my * 3 + mx + 1};
+    }
+    if (x >= -header_ && x < 0 && y >= 0 && y < span) return {BoardSpot::RowHeader, row, 0};
+    if (y >= -header_ && y < 0 && x >= 0 && x < span) return {BoardSpot::ColumnHeader, column, 0};
+    return {};
+}
+
+}  // namespace tavi::ui

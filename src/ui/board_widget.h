@@ -1,0 +1,58 @@
+// The board of the game window: 81 cells with their big digit or their 3 x 3
+// pencil marks, the painted colours, the row headers A to J (no I) and the
+// column headers 1 to 9. It draws what the game holds and tells the game where
+// a mouse button was released; it decides nothing itself.
+#pragma once
+
+#include <QWidget>
+#include <optional>
+
+#include "game/game.h"
+#include "ui/board_geometry.h"
+#include "ui/glyph_cache.h"
+
+namespace tavi::ui {
+
+class BoardWidget : public QWidget {
+    Q_OBJECT
+
+  public:
+    explicit BoardWidget(Game& game, QWidget* parent = nullptr);
+
+    const BoardGeometry& Layout() const { return layout_; }
+    // What a button pressed at `p` is aimed at: a mark that shows (digit 1..9),
+    // the cell itself (digit 0) when the square holds no mark, or a header.
+    BoardSpot TargetAt(QPoint p) const;
+
+    QSize sizeHint() const override { return {460, 460}; }
+    QSize minimumSizeHint() const override { return {200, 200}; }
+
+  signals:
+    // A click reached the game: the window shows the game's new state.
+    void Changed();
+
+  protected:
+    void paintEvent(QPaintEvent*) override;
+    void resizeEvent(QResizeEvent*) override;
+    void changeEvent(QEvent*) override;
+    void mousePressEvent(QMouseEvent*) override;
+    void mouseReleaseEvent(QMouseEvent*) override;
+    void mouseMoveEvent(QMouseEvent*) override;
+    void leaveEvent(QEvent*) override;
+
+  private:
+    void PaintBackgrounds(QPainter& p);
+    void PaintLines(QPainter& p);
+    void PaintHeaders(QPainter& p);
+    void PaintDigitsAndMarks(QPainter& p);
+    void Hover(const BoardSpot& spot);
+
+    Game& game_;
+    BoardGeometry layout_;
+    GlyphCache glyphs_;
+    std::optional<BoardSpot> pressed_;
+    Qt::MouseButton pressedButton_ = Qt::NoButton;
+    BoardSpot hover_;
+};
+
+}  // namespace tavi::ui

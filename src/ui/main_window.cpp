@@ -1,0 +1,233 @@
+#include "ui/main_window.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QFontDatabase>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QScreen>
+#include <QTimer>
+#include <QVBoxLayout>
+#include <algorithm>
+#include <cmath>
+
+#include "ui/board_area.h"
+#include "ui/painted_pictures.h"
+#include "ui/qt_convert.h"
+#include "ui/release_controls.h"
+#include "ui/revision_window.h"
+
+namespace tavi::ui {
+
+namespace {
+
+// The puzzle's line of 81 digits, in a fixed-width font small enough to show
+// it whole.
+class PuzzleLine : public QLineEdit {
+  public:
+    using QLineEdit::QLineEdit;
+
+  protected:
+    void resizeEvent(QResizeEvent* e) override {
+        QFont f = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+        const QString digits(81, QLatin1Char('0'));
+        for (int px = 15; px >= 8; --px) {
+            f.setPixelSize(px);
+            if (QFontMetrics(f).horizontalAdvance(digits) + 14 <= width()) break;
+        }
+        if (f != font()) setFont(f);
+        QLineEdit::resizeEvent(e);
+    }
+};
+
+}  // namespace
+
+MainWindow::MainWindow(Game& game, const std::filesystem::path& appFolder, QWidget* parent)
+    : QMainWindow(parent), game_(game), brushCursor_(BrushCursor(appFolder)) {
+    setObjectName(QStringLiteral("Main"));
+    auto* central = new QWidget(this);
+    auto* outer = new QHBoxLayout(central);
+    outer->setContentsMargins(10, 10, 10, 10);
+    outer->setSpacing(14);
+
+    auto* left = new QVBoxLayout;
+    left->setSpacing(8);
+    area_ = new BoardArea(game, central);
+    sudTekst_ = new PuzzleLine(central);
+    sudTekst_->setObjectName(QStringLiteral("SudTekst"));
+    sudTekst_->setReadOnly(true);
+    left->addWidget(area_, 1);
+    left->addWidget(sudTekst_);
+    outer->addLayout(left, 1);
+    side_ = BuildSidePanel();
+    outer->addWidget(side_);
+    setCentralWidget(central);
+    ConnectBoard();
+
+    // The clock ticks once a second; the game decides whether it runs.
+    timer_ = new QTimer(this);
+    timer_->setObjectName(QStringLiteral("Timer1"));
+    timer_->setInterval(1000);
+    connect(timer_, &QTimer::timeout, this, [this] {
+        game_.Tick();
+        labelTijd_->setText(ToQString(game_.LabelTijd()));
+    });
+    timer_->start();
+
+    setWindowIcon(QIcon(SiteEmblem(64, 1.0)));
+    setMinimumSize(760, 560);
+    // The window opens centred on the screen, as large as it comfortably fits.
+    QSize start(1000, 760);
+    if (const QScreen* screen = this->screen()) {
+        const QRect free = screen->availableGeometry();
+        start = start.boundedTo(free.size() * 0.92).expandedTo(minimumSize());
+        resize(start);
+        move(free.center() - QPoint(start.width() / 2, start.height() / 2));
+    } else {
+        resize(start);
+    }
+    Refresh();
+}
+
+void MainWindow::ConnectBoard() {
+    connect(area_->Board(), &BoardWidget::Changed, this, &MainWindow::Refresh);
+    for (int d = 1; d <= 9; ++d) {
+        connect(area_->DigitButton(d), &ReleaseButton::Released, this,
+                [this, d](MouseButton button, bool inside) {
+                    Do([this, d, button, inside] { game_.DigitButtonUp(d, button, inside); });
+                });
+    }
+}
+
+void MainWindow::Do(const std::function<void()>& handler) {
+    handler();
+    Refresh();
+}
+
+void MainWindow::Refresh() {
+    setWindowTitle(ToQString(game_.Caption()));
+    area_->Refresh();
+    area_->Board()->update();
+    const int level = game_.position().ChosenLevel;
+    if (level >= 1 && level <= 9 && !levels_[level]->isChecked()) levels_[level]->setChecked(true);
+    RefreshCommands();
+    const QString hint = ToQString(game_.TextHint());
+    if (textHint_->toPlainText() != hint) textHint_->setPlainText(hint);
+    labelStap_->setText(ToQString(game_.LabelStap()));
+    labelTijd_->setText(ToQString(game_.LabelTijd()));
+    const QString text = ToQString(game_.SudTekst());
+    if (sudTekst_->text() != text) {
+        sudTekst_->setText(text);
+        sudTekst_->setCursorPosition(0);
+    }
+    RefreshPalette();
+    if (game_.brush().BrushActive)
+        setCursor(brushCursor_);
+    else
+        unsetCursor();
+}
+
+void MainWindow::RefreshCommands() {
+    const CommandStates& c = game_.commands();
+    const std::array<bool, kCommandCount> enabled = {
+        c.New,       c.Open, c.Save, c.Print,     c.Make, c.Solution, c.Undo, c.Redo,
+        c.ResetCell, c.Hint, c.Scan, c.AutoSolve, true,   true,       true};
+    for (int id = 0; id < kCommandCount; ++id)
+        commands_[id]->setEnabled(enabled[id]);
+    commands_[kMake]->setText(ToQString(c.MakeCaption));
+    commands_[kHint]->setText(ToQString(c.HintCaption));
+}
+
+void MainWindow::RefreshPalette() {
+    const ColorSettings& colors = game_.options().colors;
+    const BrushState& brush = game_.brush();
+    for (int i = 0; i < kPaletteLabels; ++i) {
+        QPalette pal = palette_[i]->palette();
+        pal.setColor(QPalette::Window, ToQColor(colors.LabelBack[i]));
+        pal.setColor(QPalette::WindowText, ToQColor(colors.LabelFore[i]));
+        palette_[i]->setPalette(pal);
+        palette_[i]->setText(ToQString(brush.PaletteCaptions[i]));
+    }
+}
+
+void MainWindow::Exit() {
+    if (game_.CommandExit()) {
+        exiting_ = true;
+        close();
+    } else {
+        Refresh();
+    }
+}
+
+void MainWindow::closeEvent(QCloseEvent* e) {
+    // After Exit has asked its questions the window just goes.
+    if (exiting_ || game_.QueryUnload()) {
+        exiting_ = true;
+        timer_->stop();
+        e->accept();
+    } else {
+        e->ignore();
+        Refresh();
+    }
+}
+
+void MainWindow::changeEvent(QEvent* e) {
+    if (e->type() == QEvent::WindowStateChange) {
+        const bool minimised = windowState() & Qt::WindowMinimized;
+        if (minimised && !minimised_) {
+            minimised_ = true;
+            game_.WindowMinimised();
+        } else if (!minimised && minimised_) {
+            minimised_ = false;
+            game_.WindowRestored();
+            Refresh();
+        }
+    }
+    QMainWindow::changeEvent(e);
+}
+
+void MainWindow::resizeEvent(QResizeEvent* e) {
+    QMainWindow::resizeEvent(e);
+    ScaleControls();
+}
+
+void MainWindow::ScaleControls() {
+    const double scale = std::clamp(std::min(width() / 1000.0, height() / 760.0), 1.0, 1.5);
+    if (std::abs(scale - scale_) < 0.04) return;
+    scale_ = scale;
+    QFont f = QApplication::font();
+    if (f.pointSizeF() > 0)
+        f.setPointSizeF(f.pointSizeF() * scale);
+    else
+        f.setPixelSize(int(f.pixelSize() * scale));
+    side_->setFont(f);
+    QFont strong = f;
+    strong.setBold(true);
+    for (ClickLabel* label : palette_)
+        label->setFont(strong);
+    if (strong.pointSizeF() > 0)
+        strong.setPointSizeF(strong.pointSizeF() * 1.25);
+    else
+        strong.setPixelSize(int(strong.pixelSize() * 1.25));
+    labelStap_->setFont(strong);
+    labelTijd_->setFont(strong);
+}
+
+void MainWindow::NotAvailable(const QString& what) {
+    QMessageBox::information(this, QStringLiteral("Tavi Sudoku 1"),
+                             what + QStringLiteral(" is not available yet."));
+}
+
+void MainWindow::ShowRevisions() {
+    if (!revisions_) revisions_ = new RevisionWindow(this);
+    revisions_->show();
+    revisions_->raise();
+    revisions_->activateWindow();
+}
+
+}  // namespace tavi::ui

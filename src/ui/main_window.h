@@ -1,0 +1,103 @@
+// MainWindow: the game window. The board with its digit filter and wells, the
+// levels, the commands, the hint box, the step counter and clock, the palette,
+// the puzzle's text line and the small labels at the foot. Every control shows
+// what the game holds and passes its clicks to the game; after each event the
+// whole window is drawn again from the game.
+#pragma once
+
+#include <QCursor>
+#include <QMainWindow>
+#include <array>
+#include <filesystem>
+#include <functional>
+
+#include "game/game.h"
+
+class QLabel;
+class QLineEdit;
+class QPlainTextEdit;
+class QPushButton;
+class QRadioButton;
+class QTimer;
+
+namespace tavi::ui {
+
+class BoardArea;
+class ClickLabel;
+class RevisionWindow;
+
+class MainWindow : public QMainWindow {
+    Q_OBJECT
+
+  public:
+    // `appFolder` holds the program's pictures ("Brush.ico").
+    MainWindow(Game& game, const std::filesystem::path& appFolder, QWidget* parent = nullptr);
+
+    // Draws the window again from the game.
+    void Refresh();
+
+    BoardArea* Area() const { return area_; }
+
+  protected:
+    void closeEvent(QCloseEvent*) override;
+    void changeEvent(QEvent*) override;
+    void resizeEvent(QResizeEvent*) override;
+
+  private:
+    // The command buttons, in the order of their grid.
+    enum CommandId {
+        kNew,
+        kOpen,
+        kSave,
+        kPrint,
+        kMake,
+        kSolution,
+        kUndo,
+        kRedo,
+        kResetCell,
+        kHint,
+        kScan,
+        kAutoSolve,
+        kOptions,
+        kHelp,
+        kExit,
+        kCommandCount
+    };
+
+    QWidget* BuildSidePanel();
+    QWidget* BuildLevels();
+    QWidget* BuildCommands();
+    QWidget* BuildCounters();
+    QWidget* BuildPalette();
+    QWidget* BuildFoot();
+    void ConnectBoard();
+
+    // Runs a handler of the game, then shows its outcome.
+    void Do(const std::function<void()>& handler);
+    void Exit();
+    void NotAvailable(const QString& what);
+    void ShowRevisions();
+    void RefreshCommands();
+    void RefreshPalette();
+    // The controls beside the board grow with the window, as the board does.
+    void ScaleControls();
+
+    Game& game_;
+    QCursor brushCursor_;
+    BoardArea* area_ = nullptr;
+    QWidget* side_ = nullptr;
+    double scale_ = 0;
+    std::array<QRadioButton*, 10> levels_{};  // 1..9
+    std::array<QPushButton*, kCommandCount> commands_{};
+    std::array<ClickLabel*, kPaletteLabels> palette_{};
+    QPlainTextEdit* textHint_ = nullptr;
+    QLabel* labelStap_ = nullptr;
+    QLabel* labelTijd_ = nullptr;
+    QLineEdit* sudTekst_ = nullptr;
+    QTimer* timer_ = nullptr;
+    RevisionWindow* revisions_ = nullptr;
+    bool exiting_ = false;    // Exit has asked already: the close goes through
+    bool minimised_ = false;  // the clock is paused
+};
+
+}  // namespace tavi::ui

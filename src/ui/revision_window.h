@@ -1,0 +1,17 @@
+// FormRevision: the program's revision history in a text box, with a button to
+// close it.
+#pragma once
+
+#include <QDialog>
+
+namespace tavi::ui {
+
+class RevisionWindow : public QDialog {
+  public:
+    explicit RevisionWindow(QWidget* parent = nullptr);
+};
+
+// The history shown, newest first.
+QString RevisionHistory();
+
+}  // namespace tavi::ui

@@ -1,0 +1,66 @@
+// The game window over a game on a generated library in a temporary folder, with
+// scripted answers, shown offscreen at 800 x 600.
+#pragma once
+
+#include <QImage>
+#include <QPushButton>
+#include <QTest>
+
+#include "support/game_fixture.h"
+#include "ui/board_area.h"
+#include "ui/board_widget.h"
+#include "ui/main_window.h"
+
+namespace tavi::ui {
+
+class WindowFixture : public tavi::testing::GameFixture {
+  public:
+    // Starts the game and shows the window over it.
+    MainWindow& Open(QSize size = {800, 600}) {
+        Started();
+        window.emplace(*game, folders.AppFolder);
+        window->resize(size);
+        window->show();
+        QApplication::processEvents();
+        return *window;
+    }
+    QPushButton* Button(const char* name) const {
+        auto* b = window->findChild<QPushButton*>(QLatin1String(name));
+        EXPECT_NE(b, nullptr) << name;
+        return b;
+    }
+    template <typename W>
+    W* Find(const QString& name) const {
+        auto* w = window->findChild<W*>(name);
+        EXPECT_NE(w, nullptr) << name.toStdString();
+        return w;
+    }
+    BoardWidget* Board() const { return window->Area()->Board(); }
+    void Press(const char* name) { QTest::mouseClick(Button(name), Qt::LeftButton); }
+    QPoint MarkCentre(int digit, int cell) const {
+        return Board()->Layout().MarkRect(digit, cell).center();
+    }
+    void ClickMark(int digit, int cell, Qt::MouseButton button = Qt::LeftButton) {
+        QTest::mouseClick(Board(), button, {}, MarkCentre(digit, cell));
+    }
+    QImage BoardImage() const { return Board()->grab().toImage(); }
+
+    std::optional<MainWindow> window;
+};
+
+// Dark pixels in `box` of `image`: what has been drawn there in ink.
+inline int InkIn(const QImage& image, const QRect& box) {
+    int ink = 0;
+    for (int y = box.top(); y <= box.bottom(); ++y)
+        for (int x = box.left(); x <= box.right(); ++x)
+            if (qGray(image.pixel(x, y)) < 150) ++ink;
+    return ink;
+}
+
+// The part of `r` between the fractions `from` and `to` of its width and height.
+inline QRect Part(const QRect& r, double x0, double y0, double x1, double y1) {
+    return QRect(QPoint(r.x() + int(r.width() * x0), r.y() + int(r.height() * y0)),
+                 QPoint(r.x() + int(r.width() * x1), r.y() + int(r.height() * y1)));
+}
+
+}  // namespace tavi::ui
