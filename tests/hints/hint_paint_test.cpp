@@ -1,0 +1,198 @@
+// The colours of representative kinds, judged on the board they leave: the last
+// role painted on each cell and candidate.
+#include "hints/hint_paint.h"
+
+#include <gtest/gtest.h>
+
+#include "hints/hint_records.h"
+#include "hints/schrijf_hint.h"
+#include "solver/techniques.h"
+
+namespace tavi {
+namespace {
+
+using testing::Box;
+using testing::KeepDigitOnlyIn;
+using testing::KeepDigitsOnlyIn;
+using testing::OpenBoard;
+using testing::PaintedBoard;
+using testing::Record;
+using testing::Removal;
+using testing::Row;
+using testing::SetCandidates;
+
+HintRecord HintOf(const Board& board, bool (*rung)(SolveContext&)) {
+    SolveContext ctx = testing::ContextOn(board, Side::Game);
+    ctx.HintOnly = true;
+    ctx.hint = testing::MarkedHint();
+    EXPECT_TRUE(rung(ctx));
+    return ctx.hint;
+}
+
+std::vector<int> Cells(std::initializer_list<int> cells) {
+    return cells;
+}
+
+TEST(PaintHint, ASingleIsItsCellAndDigitAfterTheErase) {
+    Board board = OpenBoard();
+    SetCandidates(board, 80, {4});
+    const std::vector<HintPaint> expected = {
+        {HintPaint::Erase},
+        {HintPaint::Cell, 80, 0, kBaseCell},
+        {HintPaint::Digit, 80, 4, kBaseCandidates},
+    };
+    EXPECT_EQ(PaintHint(HintOf(board, NakedSingle), board), expected);
+}
+
+TEST(PaintHint, NothingOutsideTheKinds) {
+    const Board board = OpenBoard();
+    EXPECT_TRUE(PaintHint(Record(0), board).empty());
+    EXPECT_TRUE(PaintHint(Record(38), board).empty());
+}
+
+TEST(PaintHint, APointingPairNeverMarksACandidateThatIsNotThere) {
+    Board board = OpenBoard();
+    KeepDigitOnlyIn(board, 5, Box(0), {0, 1});
+    board.Candidates[5] &= CandidateMask(~DigitBit(5));  // A6 lacks the digit
+    const PaintedBoard painted(PaintHint(HintOf(board, PointingPair), board));
+
+    EXPECT_EQ(painted.CellsIn(kAttackingCell), Cells({0, 1}));
+    EXPECT_EQ(painted.DigitsIn(kAttackingCandidates), (std::vector<Removal>{{0, 5}, {1, 5}}));
+    // The rest of the box stays the pattern, A3 too, which lacks the digit.
+    EXPECT_EQ(painted.CellsIn(kPatternCell), Cells({2, 9, 10, 11, 18, 19, 20}));
+    EXPECT_EQ(painted.CellsIn(kAttackedCell), Cells({3, 4, 6, 7, 8}));
+    EXPECT_EQ(painted.DigitsIn(kAttackedCandidates),
+              (std::vector<Removal>{{3, 5}, {4, 5}, {6, 5}, {7, 5}, {8, 5}}));
+    EXPECT_EQ(painted.cell[5], -1) << "the line itself is not painted";
+}
+
+TEST(PaintHint, SubsetsEndWithTheirCellsAsAttackers) {
+    Board naked = OpenBoard();
+    SetCandidates(naked, 0, {1, 2});
+    SetCandidates(naked, 1, {1, 2});
+    SetCandidates(naked, 3, {3, 4});  // nothing to lose: stays part of the row's pattern
+    const PaintedBoard n(
+        PaintHint(HintOf(naked, [](SolveContext& c) { return NakedHidden(c, true, 2); }), naked));
+    EXPECT_EQ(n.CellsIn(kAttackingCell), Cells({0, 1}));
+    EXPECT_EQ(n.CellsIn(kPatternCell), Cells({3}));
+    EXPECT_EQ(n.CellsIn(kAttackedCell), Cells({2, 4, 5, 6, 7, 8}));
+    EXPECT_EQ(n.digit[2][1], kAttackedCandidates);
+    EXPECT_EQ(n.digit[2][3], -1);
+    EXPECT_EQ(n.digit[0][2], kAttackingCandidates);
+
+    Board hidden = OpenBoard();
+    KeepDigitsOnlyIn(hidden, {6, 7}, Row(1), {9, 10});
+    SetCandidates(hidden, 10, {6, 7, 8});
+    const PaintedBoard h(PaintHint(
+        HintOf(hidden, [](SolveContext& c) { return NakedHidden(c, false, 2); }), hidden));
+    // The set's cells lose their other digits; the set's own stay as attackers.
+    EXPECT_EQ(h.CellsIn(kAttackedCell), Cells({9, 10}));
+    EXPECT_EQ(h.DigitsIn(kAttackingCandidates),
+              (std::vector<Removal>{{9, 6}, {9, 7}, {10, 6}, {10, 7}}));
+    // B1 loses its seven others, B2 its 8.
+    EXPECT_EQ(h.DigitsIn(kAttackedCandidates).size(), 8u);
+}
+
+TEST(PaintHint, AnXYWingAttacksWhatBothBranchesSee) {
+    Board board = OpenBoard();
+    SetCandidates(board, 40, {1, 2});  // stem E5
+    SetCandidates(board, 32, {1, 7});  // branch D6, in the stem's box
+    SetCandidates(board, 36, {2, 7});  // branch E1, in the stem's row
+    SetCandidates(board, 28, {3});     // D2 sees both branches, but has no 7
+    const PaintedBoard painted(PaintHint(Record(10).number(7).cells({40, 32, 36}), board));
+    EXPECT_EQ(painted.CellsIn(kAttackedCell), Cells({27, 29, 39, 41}));
+    EXPECT_EQ(painted.CellsIn(kBaseCell), Cells({40}));
+    EXPECT_EQ(painted.CellsIn(kAttackingCell), Cells({32, 36}));
+    EXPECT_EQ(painted.DigitsIn(kBaseCandidates), (std::vector<Removal>{{40, 1}, {40, 2}}));
+    EXPECT_EQ(painted.DigitsIn(kChainCandidates), (std::vector<Removal>{{32, 1}, {36, 2}}));
+    EXPECT_EQ(painted.DigitsIn(kAttackingCandidates), (std::vector<Removal>{{32, 7}, {36, 7}}));
+}
+
+// Loops paint their cells in the candidate role and their digits in the cell
+// role: the swap is deliberate.
+TEST(PaintHint, LoopsAndRectanglesSwapTheRolesOfCellAndDigit) {
+    const Board board = OpenBoard();
+    // A1 - A5 = E5 - E1 - back to A1 on digit 2; the weak link A5 - E5 shares column 5.
+    const PaintedBoard cycle(
+        PaintHint(Record(28).variant(1).number(2).cells({0, 4, 40, 36, 0}), board));
+    for (int c : {0, 4, 40, 36}) {
+        EXPECT_EQ(cycle.cell[c], kAttackingCandidates) << CellName(c);
+        EXPECT_EQ(cycle.digit[c][2], kAttackingCell) << CellName(c);
+    }
+    // The weak links A5 - E5 and E1 - A1 run in columns 5 and 1: the rest of each
+    // loses the digit.
+    EXPECT_EQ(cycle.CellsIn(kAttackedCell),
+              Cells({9, 13, 18, 22, 27, 31, 45, 49, 54, 58, 63, 67, 72, 76}));
+    EXPECT_EQ(cycle.DigitsIn(kAttackedCandidates).size(), 14u);
+
+    const PaintedBoard weak(
+        PaintHint(Record(31).variant(3).cells({0, 4, 4, 40, 36}).values({3, 3, 6, 6, 3}), board));
+    EXPECT_EQ(weak.digit[4][3], kAttackingCell);
+    EXPECT_EQ(weak.digit[4][6], kAttackingCell);
+    EXPECT_EQ(weak.cell[36], kAttackedCell) << "the far end loses its digit";
+    EXPECT_EQ(weak.DigitsIn(kAttackedCandidates), (std::vector<Removal>{{36, 3}}));
+
+    Board rectangle = OpenBoard();
+    for (int c : {10, 13, 64})
+        SetCandidates(rectangle, c, {1, 9});
+    SetCandidates(rectangle, 67, {1, 4, 9});
+    const PaintedBoard type1(
+        PaintHint(Record(29).variant(1).values({1, 9}).cells({10, 13, 64, 67}), rectangle));
+    for (int c : {10, 13, 64}) {
+        EXPECT_EQ(type1.cell[c], kAttackingCandidates);
+        EXPECT_EQ(type1.digit[c][1], kAttackingCell);
+    }
+    EXPECT_EQ(type1.cell[67], kAttackedCell);
+    EXPECT_EQ(type1.DigitsIn(kAttackedCandidates), (std::vector<Removal>{{67, 1}, {67, 9}}));
+}
+
+TEST(PaintHint, MultiFishShowsTruthsLinksAndRemovals) {
+    Board board;
+    for (auto [cell, digit] : {std::pair{0, 1}, {10, 2}, {20, 3}, {30, 4}, {36, 2}, {49, 1}})
+        board.CurrentGrid[cell] = std::uint8_t(digit);
+    SetCandidates(board, 9, {3, 9});
+    SetCandidates(board, 59, {1, 5});
+    const PaintedBoard painted(PaintHint(Record(37).variant(1).values({1, 2, 3, 4}), board));
+    // Rows G to J and columns 1 to 5 are attacked, the links in G6..J9 attacking,
+    // and B1 a removal.
+    EXPECT_EQ(painted.cell[9], kBaseCell);
+    EXPECT_EQ(painted.DigitsIn(kAttackedCandidates), (std::vector<Removal>{{9, 3}, {59, 5}}));
+    EXPECT_EQ(painted.cell[59], kAttackingCell);
+    EXPECT_EQ(painted.cell[63], kAttackedCell);
+    EXPECT_EQ(painted.cell[4], kAttackedCell);
+    EXPECT_EQ(painted.cell[5], -1);
+    EXPECT_EQ(painted.CellsIn(kAttackingCell).size(), 12u);
+}
+
+TEST(PaintHint, ToleratesRecordsOfStaleMarks) {
+    // A record whose fields the kind does not fill are left from earlier hints;
+    // whatever they hold, painting and writing stay within the board.
+    const Board board = OpenBoard();
+    for (int mark : {-99, 0, 500}) {
+        for (int kind = 1; kind <= 37; ++kind) {
+            HintRecord h = testing::MarkedHint(mark);
+            h.HintKind = kind;
+            const auto paints = PaintHint(h, board);
+            ASSERT_FALSE(paints.empty());
+            EXPECT_EQ(paints.front().what, HintPaint::Erase);
+            for (const HintPaint& p : paints) {
+                if (p.what == HintPaint::Erase) continue;
+                EXPECT_TRUE(p.cell >= 0 && p.cell < 81) << kind;
+                if (p.what == HintPaint::Digit) {
+                    EXPECT_TRUE(p.digit >= 1 && p.digit <= 9) << kind;
+                }
+            }
+            SchrijfHint(h, board);
+        }
+    }
+}
+
+TEST(PaintHint, DescribesEachPaint) {
+    EXPECT_EQ(DescribePaint({HintPaint::Erase}), "erase");
+    EXPECT_EQ(DescribePaint({HintPaint::Cell, 72, 0, kPatternCell}), "cell J1 pattern cell");
+    EXPECT_EQ(DescribePaint({HintPaint::Digit, 8, 5, kAttackedCandidates}),
+              "digit 5 of A9 attacked candidates");
+}
+
+}  // namespace
+}  // namespace tavi
