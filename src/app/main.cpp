@@ -24,9 +24,16 @@ int main(int argc, char** argv) {
     tavi::ui::QtSoundPlayer sounds(folders.AppFolder);
     tavi::ui::QtTimeSource clock;
     tavi::ui::DesktopPageOpener pages;
-    tavi::Game game(tavi::GameServices{prompter, store, clock, &sounds, &pages}, folders, options);
+    // A long search lets the window repaint and hear "Stop" once it is there.
+    tavi::ui::MainWindow* shown = nullptr;
+    auto breathe = [&shown] {
+        if (shown) shown->Breathe();
+    };
+    tavi::Game game(tavi::GameServices{prompter, store, clock, &sounds, &pages, breathe}, folders,
+                    options);
 
     tavi::ui::MainWindow window(game, folders.AppFolder);
+    shown = &window;
     if (!game.Start()) return 1;
     prompter.SetParent(&window);
     window.Refresh();

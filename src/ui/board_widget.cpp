@@ -141,7 +141,7 @@ void BoardWidget::PaintDigitsAndMarks(QPainter& p) {
 // --- Mouse ---------------------------------------------------------------------
 
 void BoardWidget::mousePressEvent(QMouseEvent* e) {
-    if (pressed_ || !ToMouseButton(e->button())) return;
+    if (pressed_ || !ToMouseButton(e->button()) || game_.Busy()) return;
     pressed_ = TargetAt(e->position().toPoint());
     pressedButton_ = e->button();
 }
@@ -152,6 +152,7 @@ void BoardWidget::mouseReleaseEvent(QMouseEvent* e) {
     if (!pressed_ || e->button() != pressedButton_) return;
     const BoardSpot target = *pressed_;
     pressed_.reset();
+    if (game_.Busy()) return;
     const auto button = ToMouseButton(e->button());
     const bool inside = TargetAt(e->position().toPoint()) == target;
     switch (target.kind) {

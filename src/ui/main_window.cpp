@@ -105,8 +105,14 @@ void MainWindow::ConnectBoard() {
 }
 
 void MainWindow::Do(const std::function<void()>& handler) {
+    if (game_.Busy()) return;
     handler();
     Refresh();
+}
+
+void MainWindow::Breathe() {
+    Refresh();
+    QCoreApplication::processEvents();
 }
 
 void MainWindow::Refresh() {
@@ -141,6 +147,7 @@ void MainWindow::RefreshCommands() {
         commands_[id]->setEnabled(enabled[id]);
     commands_[kMake]->setText(ToQString(c.MakeCaption));
     commands_[kHint]->setText(ToQString(c.HintCaption));
+    commands_[kScan]->setText(ToQString(c.ScanCaption));
 }
 
 void MainWindow::RefreshPalette() {
@@ -156,6 +163,7 @@ void MainWindow::RefreshPalette() {
 }
 
 void MainWindow::Exit() {
+    if (game_.Busy()) return;
     if (game_.CommandExit()) {
         exiting_ = true;
         close();
@@ -165,8 +173,9 @@ void MainWindow::Exit() {
 }
 
 void MainWindow::closeEvent(QCloseEvent* e) {
-    // After Exit has asked its questions the window just goes.
-    if (exiting_ || game_.QueryUnload()) {
+    // After Exit has asked its questions the window just goes; a search must
+    // end first.
+    if (exiting_ || (!game_.Busy() && game_.QueryUnload())) {
         exiting_ = true;
         timer_->stop();
         e->accept();

@@ -35,6 +35,9 @@ class MainWindow : public QMainWindow {
 
     // Draws the window again from the game.
     void Refresh();
+    // A long search of the game lets the window show its progress and take the
+    // click on "Stop".
+    void Breathe();
 
     BoardArea* Area() const { return area_; }
 
@@ -72,7 +75,8 @@ class MainWindow : public QMainWindow {
     QWidget* BuildFoot();
     void ConnectBoard();
 
-    // Runs a handler of the game, then shows its outcome.
+    // Runs a handler of the game, then shows its outcome; while the game is in
+    // a search it takes no other command.
     void Do(const std::function<void()>& handler);
     void Exit();
     void NotAvailable(const QString& what);

@@ -106,7 +106,14 @@ QWidget* MainWindow::BuildCommands() {
     on(kResetCell, [this] { game_.CommandResetCell(); });
     on(kSolution, [this] { game_.CommandSolution(); });
     on(kHelp, [this] { game_.CommandHelp(); });
-    for (CommandId id : {kPrint, kMake, kHint, kScan, kAutoSolve, kOptions}) {
+    on(kHint, [this] { game_.CommandHint(); });
+    on(kAutoSolve, [this] { game_.CommandAutoSolve(); });
+    // Scan answers also while it runs: its "Stop" ends the run.
+    connect(commands_[kScan], &QPushButton::clicked, this, [this] {
+        game_.CommandScan();
+        Refresh();
+    });
+    for (CommandId id : {kPrint, kMake, kOptions}) {
         connect(commands_[id], &QPushButton::clicked, this,
                 [this, id] { NotAvailable(commands_[id]->text()); });
     }

@@ -9,18 +9,24 @@ namespace tavi::ui {
 
 QtSoundPlayer::QtSoundPlayer(const std::filesystem::path& folder)
     : owner_(std::make_unique<QObject>()) {
+    std::array<std::filesystem::path, kSoundFiles.size()> files;
     bool anyFile = false;
     for (std::size_t id = 0; id < kSoundFiles.size(); ++id) {
-        const std::filesystem::path file = folder / kSoundFiles[id];
         std::error_code ec;
-        if (!std::filesystem::is_regular_file(file, ec)) continue;
-        anyFile = true;
+        const std::filesystem::path file = folder / kSoundFiles[id];
+        if (std::filesystem::is_regular_file(file, ec)) files[id] = file;
+        anyFile = anyFile || !files[id].empty();
+    }
+    // Without a file there is nothing to ask the audio system for, and without
+    // a device the effects would only complain.
+    available_ = anyFile && !QMediaDevices::audioOutputs().isEmpty();
+    if (!available_) return;
+    for (std::size_t id = 0; id < files.size(); ++id) {
+        if (files[id].empty()) continue;
         auto* effect = new QSoundEffect(owner_.get());
-        effect->setSource(QUrl::fromLocalFile(QString::fromStdString(file.string())));
+        effect->setSource(QUrl::fromLocalFile(QString::fromStdString(files[id].string())));
         effects_[id] = effect;
     }
-    // Without a file there is nothing to ask the audio system for.
-    available_ = anyFile && !QMediaDevices::audioOutputs().isEmpty();
 }
 
 QtSoundPlayer::~QtSoundPlayer() = default;

@@ -2,7 +2,9 @@
 // scripted answers, shown offscreen at 800 x 600.
 #pragma once
 
+#include <QDialog>
 #include <QImage>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QTest>
 
@@ -10,6 +12,8 @@
 #include "ui/board_area.h"
 #include "ui/board_widget.h"
 #include "ui/main_window.h"
+#include "ui/qt_convert.h"
+#include "ui/release_controls.h"
 
 namespace tavi::ui {
 
@@ -39,6 +43,10 @@ class WindowFixture : public tavi::testing::GameFixture {
     void Press(const char* name) { QTest::mouseClick(Button(name), Qt::LeftButton); }
     QPoint MarkCentre(int digit, int cell) const {
         return Board()->Layout().MarkRect(digit, cell).center();
+    }
+    // The inside of a mark's square, where only its digit is drawn.
+    QRect MarkRect(int digit, int cell) const {
+        return Board()->Layout().MarkRect(digit, cell).adjusted(2, 2, -2, -2);
     }
     void ClickMark(int digit, int cell, Qt::MouseButton button = Qt::LeftButton) {
         QTest::mouseClick(Board(), button, {}, MarkCentre(digit, cell));

@@ -1,0 +1,234 @@
+// The game window over a real game: buttons and the board reach the game, and
+// what the game then holds is what the window shows.
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QRadioButton>
+
+#include "window_fixture.h"
+
+namespace tavi::ui {
+namespace {
+
+using MainWindowTest = WindowFixture;
+
+TEST_F(MainWindowTest, AtStartOnlyTheCommandsWithoutAGameAnswerAndTheBoardTakesNoClick) {
+    Open();
+    EXPECT_EQ(window->windowTitle(), "Tavi Sudoku 1");
+    EXPECT_TRUE(Find<QRadioButton>("OptionType_2")->isChecked());
+    for (const char* on :
+         {"CommandNew", "CommandOpen", "CommandOptions", "Command2", "CommandExit"})
+        EXPECT_TRUE(Button(on)->isEnabled()) << on;
+    for (const char* off : {"CommandUndo", "CommandRedo", "CommandResetCell", "CommandHint",
+                            "CommandAutoSolve", "CommandSolution"})
+        EXPECT_FALSE(Button(off)->isEnabled()) << off;
+    EXPECT_EQ(Find<QPlainTextEdit>("TextHint")->toPlainText().toStdString(), kStandingHintText);
+    EXPECT_EQ(Find<QLabel>("LabelStap")->toolTip(), "Step counter");
+    EXPECT_EQ(Find<QLabel>("LabelTijd")->toolTip(), "Elapsed time");
+
+    ClickMark(5, 40);
+    EXPECT_EQ(game->CurrentStep(), 0);
+    EXPECT_EQ(game->board().CurrentGrid[40], 0);
+}
+
+TEST_F(MainWindowTest, ALeftClickOnAMarkPlacesTheDigitAndTheBoardDrawsIt) {
+    Open();
+    QTest::mouseClick(Find<QRadioButton>("OptionType_1"), Qt::LeftButton);
+    Press("CommandNew");
+    const GeneratedPuzzle record = Record(1, 1);
+    EXPECT_EQ(window->windowTitle(), "Tavi Sudoku 1 - Easy - 1");
+    EXPECT_EQ(Find<QLineEdit>("SudTekst")->text().toStdString(), FormatDigits(record.puzzle, '0'));
+    EXPECT_EQ(Find<QLabel>("LabelTijd")->text(), "00:00");
+    EXPECT_FALSE(Button("CommandUndo")->isEnabled());
+    EXPECT_TRUE(Button("CommandSolution")->isEnabled());
+
+    const auto [cell, digit] = FirstOpenCell();
+    const QRect box = Board()->Layout().CellRect(cell);
+    const int inkBefore = InkIn(BoardImage(), Part(box, 0.35, 0.35, 0.65, 0.65));
+    ClickMark(digit, cell);
+
+    EXPECT_EQ(game->board().CurrentGrid[cell], digit);
+    EXPECT_EQ(game->CurrentStep(), 1);
+    EXPECT_EQ(Find<QLabel>("LabelStap")->text(), "1");
+    EXPECT_TRUE(Button("CommandUndo")->isEnabled());
+    // The big digit fills the middle of the cell, in the player's colour rather
+    // than the clues' blue, and no mark is left in the corners.
+    const QImage image = BoardImage();
+    const QRect middle = Part(box, 0.35, 0.3, 0.65, 0.7);
+    EXPECT_GT(InkIn(image, middle), 3 * inkBefore + 10);
+    for (const QRect& corner :
+         {Part(box, 0.05, 0.05, 0.25, 0.25), Part(box, 0.75, 0.05, 0.95, 0.25),
+          Part(box, 0.05, 0.75, 0.25, 0.95), Part(box, 0.75, 0.75, 0.95, 0.95)})
+        EXPECT_EQ(InkIn(image, corner), 0);
+    auto blueness = [&](int c) {
+        const QRect r = Part(Board()->Layout().CellRect(c), 0.3, 0.25, 0.7, 0.75);
+        long blue = 0, red = 0;
+        for (int y = r.top(); y <= r.bottom(); ++y)
+            for (int x = r.left(); x <= r.right(); ++x)
+                if (const QRgb p = image.pixel(x, y); qGray(p) < 150) {
+                    blue += qBlue(p);
+                    red += qRed(p);
+                }
+        return blue - red;
+    };
+    int clue = 0;
+    while (!game->IsClue(clue))
+        ++clue;
+    EXPECT_GT(blueness(clue), 1000);
+    EXPECT_LT(blueness(cell), 1000);
+}
+
+TEST_F(MainWindowTest, AClickCountsOnlyWhenReleasedOverTheMarkItWasPressedOn) {
+    Open();
+    Press("CommandNew");
+    const auto [cell, digit] = FirstOpenCell();
+    int other = 1;
+    while (other == digit || !game->MarkVisible(other, cell))
+        ++other;
+    ASSERT_LE(other, 9);
+
+    QTest::mousePress(Board(), Qt::LeftButton, {}, MarkCentre(digit, cell));
+    QTest::mouseRelease(Board(), Qt::LeftButton, {}, MarkCentre(other, cell));
+    QTest::mousePress(Board(), Qt::LeftButton, {}, MarkCentre(digit, cell));
+    QTest::mouseRelease(Board(), Qt::LeftButton, {}, QPoint(-20, Board()->height() + 20));
+    EXPECT_EQ(game->CurrentStep(), 0);
+    EXPECT_EQ(game->board().CurrentGrid[cell], 0);
+    EXPECT_TRUE(game->MarkVisible(digit, cell));
+
+    // A right click takes the mark away; its square is then the cell itself.
+    ClickMark(other, cell, Qt::RightButton);
+    EXPECT_FALSE(game->MarkVisible(other, cell));
+    EXPECT_EQ(game->MoveLog().back().LogDigit, -other);
+    EXPECT_EQ(Board()->TargetAt(MarkCentre(other, cell)), (BoardSpot{BoardSpot::Cell, cell, 0}));
+    EXPECT_EQ(InkIn(BoardImage(), MarkRect(other, cell)), 0);
+}
+
+TEST_F(MainWindowTest, HeadersPickACellForResetCellAndThePickedHeaderIsRed) {
+    Open();
+    Press("CommandNew");
+    const auto [cell, digit] = FirstOpenCell();
+    ClickMark(digit, cell);
+    const BoardGeometry& at = Board()->Layout();
+    QTest::mouseClick(Board(), Qt::LeftButton, {}, at.RowHeaderRect(cell / 9).center());
+    QTest::mouseClick(Board(), Qt::LeftButton, {}, at.ColumnHeaderRect(cell % 9).center());
+    EXPECT_EQ(game->SelectedRow, cell / 9);
+    EXPECT_EQ(game->SelectedColumn, cell % 9);
+    auto redIn = [](const QImage& image, const QRect& r) {
+        int red = 0;
+        for (int y = r.top(); y <= r.bottom(); ++y)
+            for (int x = r.left(); x <= r.right(); ++x)
+                if (const QRgb p = image.pixel(x, y); qRed(p) > 180 && qGreen(p) < 90) ++red;
+        return red;
+    };
+    const QImage image = BoardImage();
+    EXPECT_GT(redIn(image, at.RowHeaderRect(cell / 9)), 5);
+    EXPECT_EQ(redIn(image, at.RowHeaderRect((cell / 9 + 1) % 9)), 0);
+
+    Press("CommandResetCell");
+    EXPECT_EQ(game->board().CurrentGrid[cell], 0);
+    EXPECT_EQ(game->MoveLog().back().LogDigit, 10 + digit);
+    // A second click on the red header lets go of the row.
+    QTest::mouseClick(Board(), Qt::LeftButton, {}, at.RowHeaderRect(cell / 9).center());
+    EXPECT_EQ(game->SelectedRow, kNoLine);
+    EXPECT_EQ(redIn(BoardImage(), at.RowHeaderRect(cell / 9)), 0);
+}
+
+TEST_F(MainWindowTest, TheDigitFilterHidesItsMarksAndTheirClicks) {
+    Open();
+    Press("CommandNew");
+    const auto [cell, digit] = FirstOpenCell();
+    auto* button = Find<ReleaseButton>(QStringLiteral("Command1_%1").arg(digit));
+    QTest::mouseClick(button, Qt::LeftButton);
+    EXPECT_FALSE(game->FilterOn(digit));
+    EXPECT_TRUE(button->font().strikeOut());
+    EXPECT_EQ(InkIn(BoardImage(), MarkRect(digit, cell)), 0);
+    ClickMark(digit, cell);
+    EXPECT_EQ(game->CurrentStep(), 0);
+
+    // A right click on the button is no filter click; the left one shows them again.
+    QTest::mouseClick(button, Qt::RightButton);
+    EXPECT_FALSE(game->FilterOn(digit));
+    QTest::mouseClick(button, Qt::LeftButton);
+    EXPECT_TRUE(game->FilterOn(digit));
+    EXPECT_FALSE(button->font().strikeOut());
+    EXPECT_GT(InkIn(BoardImage(), MarkRect(digit, cell)), 0);
+}
+
+TEST_F(MainWindowTest, ACellBrushPaintsWithItsColourAndThePointerShowsTheBrush) {
+    Open();
+    Press("CommandNew");
+    auto* brush = Find<ClickLabel>("LabelColor_7");
+    QTest::mouseClick(brush, Qt::LeftButton);
+    EXPECT_TRUE(game->brush().BrushActive);
+    EXPECT_EQ(brush->text(), " L");
+    EXPECT_EQ(window->cursor().shape(), Qt::BitmapCursor);
+
+    const auto [cell, digit] = FirstOpenCell();
+    ClickMark(digit, cell);  // paints, does not place
+    EXPECT_EQ(game->board().CurrentGrid[cell], 0);
+    ASSERT_TRUE(game->CellPaint(cell).has_value());
+    const QColor paint = ToQColor(*game->CellPaint(cell));
+    const QRect box = Board()->Layout().CellRect(cell);
+    EXPECT_EQ(BoardImage().pixelColor(box.x() + 3, box.y() + box.height() / 2), paint);
+
+    QTest::mouseClick(Find<ClickLabel>("LabelColor_4"), Qt::LeftButton);
+    EXPECT_FALSE(game->brush().BrushActive);
+    EXPECT_EQ(brush->text(), "");
+    EXPECT_EQ(window->cursor().shape(), Qt::ArrowCursor);
+}
+
+TEST_F(MainWindowTest, CommandButtonsFollowTheGameThroughUndoAndSolution) {
+    Open();
+    Press("CommandNew");
+    PlaceOne();
+    window->Refresh();
+    EXPECT_TRUE(Button("CommandUndo")->isEnabled());
+    EXPECT_FALSE(Button("CommandRedo")->isEnabled());
+    Press("CommandUndo");
+    EXPECT_EQ(game->CurrentStep(), 0);
+    EXPECT_FALSE(Button("CommandUndo")->isEnabled());
+    EXPECT_TRUE(Button("CommandRedo")->isEnabled());
+    Press("CommandRedo");
+    EXPECT_EQ(game->CurrentStep(), 1);
+
+    Press("CommandSolution");
+    EXPECT_EQ(game->board().CurrentGrid, game->board().Solution);
+    for (const char* off : {"CommandSave", "CommandUndo", "CommandRedo", "CommandResetCell",
+                            "CommandHint", "CommandAutoSolve", "CommandSolution"})
+        EXPECT_FALSE(Button(off)->isEnabled()) << off;
+    for (const char* on : {"CommandNew", "CommandOpen", "CommandPrint", "CommandMake"})
+        EXPECT_TRUE(Button(on)->isEnabled()) << on;
+}
+
+TEST_F(MainWindowTest, ExitAsksOnceAndTheCloseBoxCanBeRefused) {
+    Open();
+    const std::size_t before = prompter.shown.size();  // the first run's notes
+    prompter.answers = {Answer::No};
+    window->close();
+    EXPECT_TRUE(window->isVisible());
+
+    prompter.answers = {Answer::Yes};
+    Press("CommandExit");
+    EXPECT_FALSE(window->isVisible());
+    EXPECT_TRUE(prompter.answers.empty());
+    EXPECT_EQ(prompter.shown.size(), before + 2);
+    EXPECT_EQ(prompter.shown.back().title, "Quit Tavi Sudoku");
+}
+
+TEST_F(MainWindowTest, TheFootLabelsOpenTheSiteAndTheRevisionHistory) {
+    Open();
+    QTest::mouseClick(Find<ClickLabel>("Picture1"), Qt::LeftButton);
+    ASSERT_EQ(pages.opened.size(), 1u);
+    EXPECT_TRUE(QString::fromStdString(pages.opened[0]).endsWith("help/index.html#about"));
+    EXPECT_EQ(Find<ClickLabel>("Label1")->toolTip(),
+              "DoubleClick here for \"file managment window\"");
+
+    auto* version = Find<ClickLabel>("Label2");
+    EXPECT_EQ(version->text(), "Version 1.6");
+    QTest::mouseClick(version, Qt::LeftButton);
+    auto* revisions = window->findChild<QDialog*>("FormRevision");
+    ASSERT_NE(revisions, nullptr);
+    EXPECT_TRUE(revisions->isVisible());
+}
+
+}  // namespace
+}  // namespace tavi::ui

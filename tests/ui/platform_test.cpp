@@ -1,0 +1,127 @@
+// The platform the shell gives the game: message boxes and the input box, page
+// addresses, sounds without files, and the board's geometry.
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QInputDialog>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QTimer>
+#include <functional>
+
+#include "ui/board_geometry.h"
+#include "ui/desktop_services.h"
+#include "ui/qt_prompter.h"
+#include "ui/qt_sound_player.h"
+
+namespace tavi::ui {
+namespace {
+
+// Runs `act` on the modal dialog as soon as it is up.
+void WhenModal(std::function<void(QWidget*)> act) {
+    QTimer::singleShot(0, [act] {
+        QWidget* modal = QApplication::activeModalWidget();
+        ASSERT_NE(modal, nullptr);
+        act(modal);
+    });
+}
+
+TEST(QtPrompter, AsksWithTheGamesTitleTextButtonsAndIcon) {
+    QtPrompter prompter;
+    WhenModal([](QWidget* w) {
+        auto* box = qobject_cast<QMessageBox*>(w);
+        ASSERT_NE(box, nullptr);
+        EXPECT_EQ(box->windowTitle(), "Sudoku in progress");
+        EXPECT_EQ(box->text(), "Do you want to save the current sudoku ?");
+        EXPECT_EQ(box->standardButtons(), QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
+        EXPECT_EQ(box->icon(), QMessageBox::Question);
+        box->button(QMessageBox::No)->click();
+    });
+    EXPECT_EQ(prompter.Ask("Sudoku in progress", "Do you want to save the current sudoku ?",
+                           Buttons::YesNoCancel, Icon::Question),
+              Answer::No);
+
+    WhenModal([](QWidget* w) {
+        auto* box = qobject_cast<QMessageBox*>(w);
+        ASSERT_NE(box, nullptr);
+        EXPECT_EQ(box->icon(), QMessageBox::Warning);
+        box->button(QMessageBox::Retry)->click();
+    });
+    EXPECT_EQ(prompter.Ask("t", "x", Buttons::AbortRetryIgnore, Icon::Exclamation), Answer::Retry);
+}
+
+TEST(QtPrompter, ClosingABoxAnswersWhatChangesLeast) {
+    QtPrompter prompter;
+    for (auto [buttons, expected] :
+         {std::pair{Buttons::YesNo, Answer::No}, std::pair{Buttons::YesNoCancel, Answer::Cancel},
+          std::pair{Buttons::OkCancel, Answer::Cancel}, std::pair{Buttons::Ok, Answer::Ok}}) {
+        WhenModal([](QWidget* w) { w->close(); });
+        EXPECT_EQ(prompter.Ask("Quit Tavi Sudoku", "Do you really want to quit ?", buttons),
+                  expected);
+    }
+}
+
+TEST(QtPrompter, TheInputBoxGivesTheTextOrNothingOnCancel) {
+    QtPrompter prompter;
+    WhenModal([](QWidget* w) {
+        auto* box = qobject_cast<QInputDialog*>(w);
+        ASSERT_NE(box, nullptr);
+        EXPECT_EQ(box->windowTitle(), "Sudoku number");
+        EXPECT_EQ(box->labelText(), "Enter a value between 1 and 300");
+        EXPECT_EQ(box->textValue(), "1");
+        box->setTextValue("17x");
+        box->accept();
+    });
+    EXPECT_EQ(prompter.Input("Sudoku number", "Enter a value between 1 and 300", "1"), "17x");
+    WhenModal([](QWidget* w) { qobject_cast<QDialog*>(w)->reject(); });
+    EXPECT_EQ(prompter.Input("Sudoku number", "Enter a value between 1 and 300", "1"),
+              std::nullopt);
+}
+
+TEST(DesktopPageOpener, PathsBecomeFileUrlsWithTheirAnchorAndAddressesStay) {
+    const QUrl help = PageUrl("/opt/tavi/help/index.html#about");
+    EXPECT_TRUE(help.isLocalFile());
+    EXPECT_EQ(help.toLocalFile(), "/opt/tavi/help/index.html");
+    EXPECT_EQ(help.fragment(), "about");
+    EXPECT_EQ(PageUrl("/opt/tavi/help/index.html").fragment(), "");
+    EXPECT_EQ(PageUrl("https://example.org/sudoku").toString(), "https://example.org/sudoku");
+    EXPECT_TRUE(PageUrl("C:/Tavi_Help/index.html").isLocalFile());
+}
+
+TEST(QtSoundPlayer, WithoutItsFilesItIsSilentAndNotAvailable) {
+    QTemporaryDir empty;
+    QtSoundPlayer sounds(empty.path().toStdString());
+    EXPECT_FALSE(sounds.Available());
+    for (int id = -1; id <= 10; ++id)
+        sounds.Play(id);
+}
+
+TEST(BoardGeometry, EveryMarkAndHeaderMapsBackAndNothingElseDoes) {
+    for (QSize size : {QSize(300, 280), QSize(1100, 1070)}) {
+        BoardGeometry g;
+        g.Fit(size);
+        EXPECT_TRUE(QRect(QPoint(0, 0), size).contains(g.BoardRect())) << size.width();
+        EXPECT_EQ(g.CellSize() % 3, 0);
+        for (int cell = 0; cell < 81; ++cell)
+            for (int d = 1; d <= 9; ++d) {
+                const QRect m = g.MarkRect(d, cell);
+                for (QPoint p : {m.topLeft(), m.center(), m.bottomRight()})
+                    ASSERT_EQ(g.SpotAt(p), (BoardSpot{BoardSpot::Cell, cell, d}))
+                        << cell << " " << d << " at " << size.width();
+            }
+        for (int i = 0; i < 9; ++i) {
+            EXPECT_EQ(g.SpotAt(g.RowHeaderRect(i).center()), (BoardSpot{BoardSpot::RowHeader, i}));
+            EXPECT_EQ(g.SpotAt(g.ColumnHeaderRect(i).center()),
+                      (BoardSpot{BoardSpot::ColumnHeader, i}));
+        }
+        const QRect grid = g.GridRect();
+        for (QPoint p : {grid.topLeft() - QPoint(1, 1), grid.bottomRight() + QPoint(1, 1),
+                         QPoint(grid.left() - 1, grid.bottom() + 1), QPoint(-5, -5)})
+            EXPECT_EQ(g.SpotAt(p).kind, BoardSpot::None);
+    }
+}
+
+}  // namespace
+}  // namespace tavi::ui
