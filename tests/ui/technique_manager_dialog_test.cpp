@@ -1,0 +1,117 @@
+// The Solving Techniques Manager on screen: rows where the order puts them, the
+// fixed boxes, the order buttons and the default order, all straight into the
+// tables.
+#include "ui/technique_manager_dialog.h"
+
+#include <gtest/gtest.h>
+
+#include <QCheckBox>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QScreen>
+
+namespace tavi::ui {
+namespace {
+
+class TechniqueDialog : public ::testing::Test {
+  public:
+    QCheckBox* Box(int box) const {
+        auto* b = dialog.findChild<QCheckBox*>(QStringLiteral("CheckInclude_%1").arg(box));
+        EXPECT_NE(b, nullptr) << box;
+        return b;
+    }
+    void Press(const char* name) {
+        auto* b = dialog.findChild<QPushButton*>(QString::fromLatin1(name));
+        ASSERT_NE(b, nullptr) << name;
+        b->click();
+    }
+    void Pick(int technique) {
+        dialog.findChild<QRadioButton*>(QStringLiteral("OptionOrder_%1").arg(technique))->click();
+    }
+
+    TechniqueTables tables;
+    TechniqueManagerDialog dialog{tables};
+};
+
+TEST_F(TechniqueDialog, RowsStandAtTheirPositionsWithCaptionsAndLevels) {
+    tables.Order[8] = 20;
+    tables.Order[20] = 8;
+    TechniqueManagerDialog shown(tables);
+    EXPECT_EQ(shown.windowTitle(), "Solving Techniques Manager");
+    for (int position = 0; position < kTechniqueCount; ++position) {
+        const int t = position == 8 ? 20 : position == 20 ? 8 : position;
+        EXPECT_EQ(shown.TechniqueShownAt(position), t) << position;
+    }
+    auto* include = shown.findChild<QCheckBox*>("CheckInclude_20");
+    auto* halt = shown.findChild<QCheckBox*>("CheckInclude_60");
+    EXPECT_EQ(include->text(), "Finned X-Wing");
+    EXPECT_EQ(halt->text(), "Finned X-Wing");
+    EXPECT_EQ(include->toolTip(), "Kamikaze level");
+    // The window starts with X-Wing's row picked, wherever it stands.
+    EXPECT_TRUE(shown.findChild<QRadioButton*>("OptionOrder_8")->isChecked());
+    EXPECT_EQ(shown.Manager().SelectedPosition, 20);
+}
+
+TEST_F(TechniqueDialog, FixedBoxesStayTickedAndAHaltAnswersOnlyWhileIncluded) {
+    for (int box : {0, 7, 40, 42}) {
+        EXPECT_TRUE(Box(box)->isChecked()) << box;
+        EXPECT_FALSE(Box(box)->isEnabled()) << box;
+        Box(box)->click();
+        EXPECT_TRUE(Box(box)->isChecked()) << box;
+    }
+    EXPECT_EQ(tables.OnOff[7], 1);
+    EXPECT_EQ(tables.Halt[2], 1);
+    EXPECT_TRUE(Box(43)->isEnabled());  // the first halt that can be left out
+
+    // X-Wing: halt on, then left out; its halt box greys out and keeps its tick.
+    Box(48)->click();
+    EXPECT_EQ(tables.Halt[8], 1);
+    Box(8)->click();
+    EXPECT_EQ(tables.OnOff[8], 0);
+    EXPECT_FALSE(Box(48)->isEnabled());
+    EXPECT_TRUE(Box(48)->isChecked());
+    EXPECT_EQ(tables.Halt[8], 1);
+    Box(8)->click();
+    EXPECT_TRUE(Box(48)->isEnabled());
+}
+
+TEST_F(TechniqueDialog, UpAndDownMoveThePickedRowWithinEightToThirtyEight) {
+    Press("KnopUp");  // X-Wing is picked and already at the top of the range
+    EXPECT_EQ(dialog.TechniqueShownAt(8), 8);
+    Press("KnopDown");
+    Press("KnopDown");
+    EXPECT_EQ(tables.Order[8], 10);
+    EXPECT_EQ(dialog.TechniqueShownAt(10), 8);
+    EXPECT_EQ(dialog.TechniqueShownAt(8), 9);
+    EXPECT_EQ(dialog.TechniqueShownAt(9), 10);
+
+    Pick(38);  // Long AIC's, the last movable row
+    Press("KnopDown");
+    EXPECT_EQ(dialog.TechniqueShownAt(38), 38);
+    Press("KnopUp");
+    EXPECT_EQ(dialog.TechniqueShownAt(37), 38);
+
+    Pick(39);  // Bifurcation never moves
+    Press("KnopUp");
+    EXPECT_EQ(dialog.TechniqueShownAt(39), 39);
+    EXPECT_EQ(tables.Order[39], 39);
+
+    // The default order comes back and the ticks stay as they are.
+    Box(12)->click();
+    Press("cmdDefaults");
+    EXPECT_EQ(tables.Order, DefaultTechniqueOrder());
+    for (int p = 0; p < kTechniqueCount; ++p)
+        EXPECT_EQ(dialog.TechniqueShownAt(p), p);
+    EXPECT_EQ(tables.OnOff[12], 0);
+    EXPECT_FALSE(Box(12)->isChecked());
+}
+
+TEST_F(TechniqueDialog, TheWindowFitsOnTheScreen) {
+    dialog.show();
+    const QRect room = dialog.screen()->availableGeometry();
+    EXPECT_LE(dialog.frameGeometry().height(), room.height());
+    EXPECT_LE(dialog.frameGeometry().width(), room.width());
+}
+
+}  // namespace
+}  // namespace tavi::ui
