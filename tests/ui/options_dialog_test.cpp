@@ -1,0 +1,162 @@
+// The options window works on a copy: Cancel and the close box drop it, OK takes
+// it; the techniques manager it opens changes the tables at once.
+#include "ui/options_dialog.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTimer>
+#include <tuple>
+
+#include "ui/technique_manager_dialog.h"
+
+namespace tavi::ui {
+namespace {
+
+auto Fields(const Options& o) {
+    return std::tuple(o.Pencilmarks, o.TimeOn, o.TimeShow, o.Wells, o.Sounds, o.HintWindow,
+                      o.AutoErase, o.PencilmarksOff, o.Dimmed, o.AutoSave, o.AskSave);
+}
+
+template <typename W>
+W* Child(const QWidget& parent, const QString& name) {
+    auto* w = parent.findChild<W*>(name);
+    EXPECT_NE(w, nullptr) << name.toStdString();
+    return w;
+}
+
+// Every box clicked once, the timer shown hidden, and "Never".
+void ClickEverything(OptionsDialog& dialog) {
+    for (int i = 1; i <= 8; ++i)
+        Child<QCheckBox>(dialog, QStringLiteral("Check%1").arg(i))->click();
+    Child<QCheckBox>(dialog, "Check2")->click();  // "Keep time" back on, so the timer answers
+    Child<QRadioButton>(dialog, "Option1")->click();
+    Child<QRadioButton>(dialog, "Option3_1")->click();
+}
+
+// The first modal window that opens gets `act`, from the event loop of its exec.
+template <typename F>
+void WhenModalOpens(F act) {
+    QTimer::singleShot(0, [act] {
+        QWidget* modal = QApplication::activeModalWidget();
+        ASSERT_NE(modal, nullptr);
+        act(modal);
+    });
+}
+
+TEST(OptionsDialog, CancelAndTheCloseBoxDropTheCopyAndOkTakesIt) {
+    Options options;
+    const auto before = Fields(options);
+    {
+        OptionsDialog dialog(options, true);
+        ClickEverything(dialog);
+        EXPECT_FALSE(dialog.Form().Pencilmarks);
+        Child<QPushButton>(dialog, "Command1")->click();
+        EXPECT_EQ(dialog.result(), QDialog::Rejected);
+    }
+    EXPECT_EQ(Fields(options), before);
+    {
+        OptionsDialog dialog(options, true);
+        dialog.show();
+        ClickEverything(dialog);
+        dialog.close();
+        EXPECT_EQ(dialog.result(), QDialog::Rejected);
+    }
+    EXPECT_EQ(Fields(options), before);
+    {
+        OptionsDialog dialog(options, true);
+        ClickEverything(dialog);
+        Child<QPushButton>(dialog, "Command2")->click();
+        EXPECT_EQ(dialog.result(), QDialog::Accepted);
+    }
+    EXPECT_EQ(Fields(options),
+              std::tuple(false, true, false, false, true, true, false, true, true, false, false));
+
+    // The window opens showing the options in force.
+    OptionsDialog again(options, true);
+    EXPECT_FALSE(Child<QCheckBox>(again, "Check1")->isChecked());
+    EXPECT_TRUE(Child<QCheckBox>(again, "Check8")->isChecked());
+    EXPECT_TRUE(Child<QRadioButton>(again, "Option1")->isChecked());
+    EXPECT_TRUE(Child<QRadioButton>(again, "Option3_1")->isChecked());
+}
+
+TEST(OptionsDialog, KeepTimeEnablesTheTimerChoices) {
+    Options options;
+    options.TimeOn = false;
+    OptionsDialog dialog(options, true);
+    auto* hide = Child<QRadioButton>(dialog, "Option1");
+    auto* show = Child<QRadioButton>(dialog, "Option2");
+    EXPECT_FALSE(hide->isEnabled());
+    EXPECT_FALSE(show->isEnabled());
+    EXPECT_TRUE(show->isChecked());
+    Child<QCheckBox>(dialog, "Check2")->click();
+    EXPECT_TRUE(hide->isEnabled());
+    EXPECT_TRUE(show->isEnabled());
+    Child<QCheckBox>(dialog, "Check2")->click();
+    EXPECT_FALSE(hide->isEnabled());
+    // The choice made while enabled survives the switch off and back.
+    EXPECT_TRUE(show->isChecked());
+}
+
+TEST(OptionsDialog, TheSaveChoicesAndTheSoundsBox) {
+    const std::tuple<const char*, bool, bool> choices[] = {
+        {"Option3_0", true, true}, {"Option3_1", false, false}, {"Option3_2", false, true}};
+    for (const auto& [name, autoSave, askSave] : choices) {
+        Options options;
+        options.AutoSave = !autoSave;
+        options.AskSave = !askSave;
+        OptionsDialog dialog(options, true);
+        Child<QRadioButton>(dialog, name)->click();
+        dialog.accept();
+        EXPECT_EQ(options.AutoSave, autoSave) << name;
+        EXPECT_EQ(options.AskSave, askSave) << name;
+        // And the window opened on these options shows that choice.
+        OptionsDialog shown(options, true);
+        EXPECT_TRUE(Child<QRadioButton>(shown, name)->isChecked()) << name;
+    }
+    Options options;
+    EXPECT_FALSE(Child<QCheckBox>(OptionsDialog(options, false), "Check4")->isEnabled());
+    EXPECT_TRUE(Child<QCheckBox>(OptionsDialog(options, true), "Check4")->isEnabled());
+}
+
+TEST(OptionsDialog, TheTechniquesManagerCountsEvenWhenTheOptionsAreCancelled) {
+    Options options;
+    OptionsDialog dialog(options, true);
+    WhenModalOpens([](QWidget* modal) {
+        auto* manager = qobject_cast<TechniqueManagerDialog*>(modal);
+        ASSERT_NE(manager, nullptr);
+        EXPECT_EQ(manager->windowTitle(), "Solving Techniques Manager");
+        Child<QCheckBox>(*manager, "CheckInclude_8")->click();
+        Child<QPushButton>(*manager, "CommandOK")->click();
+    });
+    Child<QPushButton>(dialog, "KnopTechnieken")->click();
+    dialog.reject();
+    EXPECT_EQ(options.techniques.OnOff[8], 0);
+}
+
+TEST(OptionsDialog, RunTellsWhetherOkWasPressedAndOpensTheColoursWhenGiven) {
+    Options options;
+    WhenModalOpens([](QWidget* modal) {
+        EXPECT_EQ(modal->windowTitle(), "Tavi Sudoku Options");
+        // No colours window given: its button can't be pressed.
+        EXPECT_FALSE(Child<QPushButton>(*modal, "KnopColors")->isEnabled());
+        Child<QCheckBox>(*modal, "Check3")->click();
+        Child<QPushButton>(*modal, "Command2")->click();
+    });
+    EXPECT_TRUE(RunOptionsDialog(nullptr, options, true));
+    EXPECT_FALSE(options.Wells);
+
+    int colorsOpened = 0;
+    WhenModalOpens([](QWidget* modal) {
+        Child<QPushButton>(*modal, "KnopColors")->click();
+        Child<QPushButton>(*modal, "Command1")->click();
+    });
+    EXPECT_FALSE(RunOptionsDialog(nullptr, options, true, [&](QWidget*) { ++colorsOpened; }));
+    EXPECT_EQ(colorsOpened, 1);
+}
+
+}  // namespace
+}  // namespace tavi::ui
