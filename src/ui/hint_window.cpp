@@ -1,0 +1,167 @@
+#include "ui/hint_window.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QInputDialog>
+#include <QMenuBar>
+#include <QPainter>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QRegularExpression>
+
+#include "hints/hint_kinds.h"
+#include "ui/qt_convert.h"
+
+namespace tavi::ui {
+
+namespace {
+
+// The board of the window: it draws the copy it is given and nothing else.
+class SnapshotView : public QWidget {
+  public:
+    SnapshotView(const HintSnapshot& snapshot, QWidget* parent)
+        : QWidget(parent), snapshot_(snapshot) {
+        setObjectName(QStringLiteral("Picture1"));
+        setAttribute(Qt::WA_OpaquePaintEvent);
+        setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    }
+    QSize sizeHint() const override { return {340, 340}; }
+    QSize minimumSizeHint() const override { return {190, 190}; }
+
+  protected:
+    void paintEvent(QPaintEvent*) override {
+        QPainter p(this);
+        p.fillRect(rect(), palette().window());
+        PaintSnapshot(p, rect(), snapshot_, palette());
+    }
+
+  private:
+    const HintSnapshot& snapshot_;
+};
+
+QString AskWithInputBox(QWidget* parent, const QString& title, const QString& prompt,
+                        const QString& suggested, bool* ok) {
+    return QInputDialog::getText(parent, title, prompt, QLineEdit::Normal, suggested, ok);
+}
+
+}  // namespace
+
+HintWindow::HintWindow(const Game& game, LibraryFolders folders, QWidget* parent)
+    : QMainWindow(parent, Qt::Window), game_(game), folders_(std::move(folders)) {
+    setObjectName(QStringLiteral("FormHint"));
+    setWindowTitle(ToQString(kMainDuplicateCaption));
+    board_ = new SnapshotView(snapshot_, this);
+    setCentralWidget(board_);
+
+    QMenu* menu = menuBar()->addMenu(QStringLiteral("&Window"));
+    menu->setObjectName(QStringLiteral("mnuWindow"));
+    const auto item = [&](const char* name, const char* caption, auto slot) {
+        QAction* a = menu->addAction(QString::fromLatin1(caption));
+        a->setObjectName(QString::fromLatin1(name));
+        connect(a, &QAction::triggered, this, slot);
+    };
+    item("mnuWindowRefresh", "&Refresh", [this] { Refresh(); });
+    item("mnuWindowSave", "&Save as BMP", [this] { SaveAsBmp(); });
+    item("mnuWindowPrint", "&Print", [this] { Print(); });
+    item("mnuWindowClose", "&Close", [this] { close(); });
+
+    askName_ = [this](const QString& title, const QString& prompt,
+                      const QString& suggested) -> std::optional<QString> {
+        bool ok = false;
+        const QString answer = AskWithInputBox(this, title, prompt, suggested, &ok);
+        if (!ok) return std::nullopt;
+        return answer;
+    };
+    TakeSnapshot();
+    adjustSize();
+}
+
+void HintWindow::TakeSnapshot() {
+    snapshot_ = SnapshotOf(game_);
+    board_->update();
+}
+
+void HintWindow::ShowHint() {
+    TakeSnapshot();
+    const std::string& caption = game_.HintWindowCaption();
+    setWindowTitle(ToQString(caption.empty() ? kMainDuplicateCaption : caption));
+    if (!isVisible() && parentWidget()) {
+        // Over the middle of the game window, the first time and after a close.
+        const QRect main = parentWidget()->window()->frameGeometry();
+        move(main.center() - QPoint(width() / 2, height() / 2));
+    }
+    show();
+    raise();
+}
+
+void HintWindow::Refresh() {
+    TakeSnapshot();
+    setWindowTitle(ToQString(kMainDuplicateCaption));
+}
+
+QImage HintWindow::Picture() {
+    // Let pending paints land first, so the picture is what the window shows.
+    QApplication::processEvents();
+    return grab().toImage();
+}
+
+QString ScreenshotsFolder(const LibraryFolders& folders) {
+    for (const auto& base : {folders.AppFolder, folders.DataFolder}) {
+        const QString dir =
+            QDir(QString::fromStdString(base.string())).filePath(QStringLiteral("Screenshots"));
+        if (QDir().mkpath(dir) && QFileInfo(dir).isWritable()) return dir;
+    }
+    return {};
+}
+
+QString PictureFileName(QString answer) {
+    answer = answer.trimmed();
+    if (answer.endsWith(QStringLiteral(".bmp"), Qt::CaseInsensitive)) answer.chop(4);
+    static const QRegularExpression kForbidden(QStringLiteral(R"([/\\:*?"<>|\x00-\x1f])"));
+    answer.replace(kForbidden, QStringLiteral("-"));
+    return answer;
+}
+
+QString SuggestedPictureName(const QString& caption, const QString& folder) {
+    const QString prefix = ToQString(kHintCaptionPrefix);
+    const QString stem =
+        PictureFileName(caption.startsWith(prefix) ? caption.mid(prefix.size()) : caption);
+    for (int n = 1;; ++n) {
+        const QString name = QStringLiteral("%1_%2").arg(stem).arg(n, 4, 10, QLatin1Char('0'));
+        if (folder.isEmpty() || !QFileInfo::exists(QDir(folder).filePath(name + ".bmp")))
+            return name;
+    }
+}
+
+QString HintWindow::SaveAsBmp() {
+    const QString folder = ScreenshotsFolder(folders_);
+    const auto answer =
+        askName_(QString::fromLatin1(kSaveAsTitle), QString::fromLatin1(kSaveAsPrompt),
+                 SuggestedPictureName(windowTitle(), folder));
+    if (!answer || folder.isEmpty()) return {};
+    const QString name = PictureFileName(*answer);
+    if (name.isEmpty()) return {};
+    const QString file = QDir(folder).filePath(name + QStringLiteral(".bmp"));
+    return Picture().save(file, "BMP") ? file : QString();
+}
+
+bool HintWindow::PrintTo(QPrinter& printer) {
+    const QImage picture = Picture();
+    QPainter painter;
+    if (!painter.begin(&printer)) return false;
+    const QRect page = painter.viewport();
+    const QSize size = picture.size().scaled(page.size(), Qt::KeepAspectRatio);
+    painter.drawImage(QRect(page.topLeft(), size), picture);
+    return painter.end();
+}
+
+void HintWindow::Print() {
+    QPrinter printer(QPrinter::HighResolution);
+    QPrintDialog dialog(&printer, this);
+    // A cancel ends the command without a word.
+    if (dialog.exec() != QDialog::Accepted) return;
+    PrintTo(printer);
+}
+
+}  // namespace tavi::ui

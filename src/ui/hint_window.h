@@ -1,0 +1,77 @@
+// FormHint: the small hint window. A frozen copy of the game's board with the
+// hint's colours, captioned with the technique that found the hint, so the
+// person can keep the hint in view while trying things on the board. Its menu
+// takes a new copy, saves the window as a BMP picture, prints it, or closes it.
+#pragma once
+
+#include <QImage>
+#include <QMainWindow>
+#include <functional>
+#include <optional>
+
+#include "game/game.h"
+#include "grid/library_files.h"
+#include "ui/board_snapshot.h"
+
+class QPrinter;
+
+namespace tavi::ui {
+
+inline constexpr char kSaveAsTitle[] = "Save as... Filename[.bmp]";
+inline constexpr char kSaveAsPrompt[] =
+    "Enter a valid filename (without the extension) for the image to save.\n"
+    "The file will be saved as BMP-file in subfolder 'Screenshots' within your application "
+    "folder.";
+
+class HintWindow : public QMainWindow {
+    Q_OBJECT
+
+  public:
+    // Asks for the picture's name; nothing when the person cancels.
+    using NameAsker = std::function<std::optional<QString>(
+        const QString& title, const QString& prompt, const QString& suggested)>;
+
+    HintWindow(const Game& game, LibraryFolders folders, QWidget* parent = nullptr);
+
+    // The hint just shown on the board: a new copy under the game's caption for
+    // the hint window, then the window comes forward without blocking.
+    void ShowHint();
+    // "&Refresh": a new copy of the board as it stands, as "Main Duplicate".
+    void Refresh();
+    // "&Save as BMP": the file written, or empty when the person cancelled or the
+    // picture could not be written (neither is reported).
+    QString SaveAsBmp();
+    // "&Print": the print dialog, then the picture on one page.
+    void Print();
+    // The picture scaled onto the printer's page; false when the printer can't
+    // be opened.
+    bool PrintTo(QPrinter& printer);
+
+    // The window as the person sees it: menu and board.
+    QImage Picture();
+    const HintSnapshot& Snapshot() const { return snapshot_; }
+    void SetNameAsker(NameAsker asker) { askName_ = std::move(asker); }
+
+  private:
+    void TakeSnapshot();
+
+    const Game& game_;
+    LibraryFolders folders_;
+    HintSnapshot snapshot_;
+    NameAsker askName_;
+    QWidget* board_ = nullptr;
+};
+
+// "Screenshots" beside the program, or in the data folder when the program's
+// folder can't be written; made when missing. Empty when neither can be made.
+QString ScreenshotsFolder(const LibraryFolders& folders);
+
+// The name offered for a picture: the caption without its "Hint - " and a
+// number, "_0001" or the first one that names no picture in `folder` yet.
+QString SuggestedPictureName(const QString& caption, const QString& folder);
+
+// The answer made into a plain file name in the folder: path separators and
+// characters no file system takes become "-", a typed ".bmp" is dropped.
+QString PictureFileName(QString answer);
+
+}  // namespace tavi::ui

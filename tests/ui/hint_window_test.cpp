@@ -1,0 +1,157 @@
+// The small hint window: a frozen copy of the board with the hint's colours, its
+// caption, and its menu (Refresh, Save as BMP, Print).
+#include "ui/hint_window.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QImage>
+#include <QPrinter>
+#include <QTemporaryDir>
+#include <QTimer>
+#include <fstream>
+
+#include "support/game_fixture.h"
+#include "ui/qt_convert.h"
+
+namespace tavi::ui {
+namespace {
+
+class HintWindowTest : public tavi::testing::GameFixture {
+  public:
+    // A game of the first level with a technique's hint on the board.
+    HintWindow& WithHint() {
+        options.HintWindow = true;
+        Playing(1);
+        game->CommandHint();
+        window.emplace(*game, folders);
+        window->ShowHint();
+        return *window;
+    }
+    QString Screenshots(const std::filesystem::path& base) const {
+        return QDir(QString::fromStdString(base.string())).filePath("Screenshots");
+    }
+    // Answers the name box with `answer` and keeps what it was offered.
+    void Answer(std::optional<QString> answer) {
+        window->SetNameAsker(
+            [this, answer](const QString& title, const QString& prompt, const QString& suggested) {
+                asked.push_back({title, prompt, suggested});
+                return answer;
+            });
+    }
+    int PixelsOf(const QImage& image, Color color) const {
+        const QRgb want = ToQColor(color).rgb();
+        int n = 0;
+        for (int y = 0; y < image.height(); ++y)
+            for (int x = 0; x < image.width(); ++x)
+                n += image.pixel(x, y) == want;
+        return n;
+    }
+
+    std::optional<HintWindow> window;
+    std::vector<std::array<QString, 3>> asked;
+};
+
+TEST_F(HintWindowTest, TheCopyHoldsTheBoardAsShownWithTheHintsColours) {
+    Game& g = Playing(1);
+    g.CommandHint();
+    g.DigitButtonUp(5, MouseButton::Left, true);  // the filter hides the marks of 5
+    ASSERT_FALSE(g.FilterOn(5));
+    const HintSnapshot s = SnapshotOf(g);
+    int painted = 0;
+    for (int c = 0; c < 81; ++c) {
+        EXPECT_EQ(s.digits[c], g.board().CurrentGrid[c]);
+        EXPECT_EQ(s.clue[c], g.board().CurrentGrid[c] != 0);  // nothing placed yet
+        EXPECT_EQ(s.cellPaint[c], g.CellPaint(c));
+        painted += s.cellPaint[c].has_value();
+        for (int d = 1; d <= 9; ++d) {
+            EXPECT_EQ(s.markPaint[c][d - 1], g.MarkPaint(d, c));
+            const bool shown = !g.board().CurrentGrid[c] && g.MarkVisible(d, c) && d != 5;
+            EXPECT_EQ(s.MarkShown(d, c), shown) << c << " " << d;
+        }
+    }
+    EXPECT_GT(painted, 0);
+}
+
+TEST_F(HintWindowTest, CaptionRefreshAndAFrozenCopy) {
+    HintWindow& w = WithHint();
+    EXPECT_TRUE(w.isVisible());
+    EXPECT_EQ(w.windowTitle().toStdString(), game->HintWindowCaption());
+    EXPECT_TRUE(w.windowTitle().startsWith("Hint - ")) << w.windowTitle().toStdString();
+
+    // The painted colours are what the window draws.
+    const QImage picture = w.Picture();
+    std::optional<Color> paint;
+    for (int c = 0; c < 81 && !paint; ++c)
+        paint = game->CellPaint(c);
+    ASSERT_TRUE(paint);
+    EXPECT_GT(PixelsOf(picture, *paint), 100);
+
+    // A move on the board leaves the copy as it was, until Refresh.
+    const HintSnapshot before = w.Snapshot();
+    PlaceOne();
+    EXPECT_EQ(w.Snapshot(), before);
+    w.findChild<QAction*>("mnuWindowRefresh")->trigger();
+    EXPECT_EQ(w.Snapshot(), SnapshotOf(*game));
+    EXPECT_NE(w.Snapshot(), before);
+    EXPECT_EQ(w.windowTitle(), "Main Duplicate");
+
+    w.findChild<QAction*>("mnuWindowClose")->trigger();
+    EXPECT_FALSE(w.isVisible());
+}
+
+TEST_F(HintWindowTest, SaveAsBmpWritesIntoScreenshotsBesideTheProgram) {
+    HintWindow& w = WithHint();
+    const QString name = w.windowTitle().mid(7);
+    Answer(std::nullopt);
+    EXPECT_TRUE(w.SaveAsBmp().isEmpty());
+    ASSERT_EQ(asked.size(), 1u);
+    EXPECT_EQ(asked[0][0], "Save as... Filename[.bmp]");
+    EXPECT_TRUE(asked[0][1].startsWith("Enter a valid filename (without the extension)"));
+    EXPECT_EQ(asked[0][2], PictureFileName(name) + "_0001");
+
+    Answer(asked[0][2]);
+    const QString file = w.SaveAsBmp();
+    EXPECT_EQ(file, QDir(Screenshots(folders.AppFolder)).filePath(asked[0][2] + ".bmp"));
+    QImage saved(file, "BMP");
+    EXPECT_EQ(saved.size(), w.size());
+    // A typed extension and path signs don't lead out of the folder; the next
+    // offer does not overwrite the picture just saved.
+    Answer(QString("a/b:c.BMP"));
+    EXPECT_TRUE(w.SaveAsBmp().endsWith("/Screenshots/a-b-c.bmp"));
+    EXPECT_EQ(asked.back()[2], PictureFileName(name) + "_0002");
+}
+
+TEST_F(HintWindowTest, PicturesGoToTheDataFolderWhenTheProgramsFolderCantTakeThem) {
+    // A file where the folder should be: no "Screenshots" can be made there.
+    const auto blocked = root / "blocked";
+    std::ofstream(blocked) << "not a folder";
+    LibraryFolders readOnly{blocked, folders.DataFolder};
+    EXPECT_EQ(ScreenshotsFolder(readOnly), Screenshots(folders.DataFolder));
+    EXPECT_TRUE(QFileInfo(Screenshots(folders.DataFolder)).isDir());
+    EXPECT_TRUE(ScreenshotsFolder({blocked, blocked}).isEmpty());
+}
+
+TEST_F(HintWindowTest, PrintingWithoutAPrinterDoesNoHarm) {
+    HintWindow& w = WithHint();
+    QTemporaryDir dir;
+    QPrinter pdf;
+    pdf.setOutputFormat(QPrinter::PdfFormat);
+    pdf.setOutputFileName(dir.filePath("hint.pdf"));
+    EXPECT_TRUE(w.PrintTo(pdf));
+    EXPECT_GT(QFile(dir.filePath("hint.pdf")).size(), 1000);
+
+    // The print dialog opens and is cancelled.
+    bool dialogSeen = false;
+    QTimer::singleShot(0, [&] {
+        if (QWidget* modal = QApplication::activeModalWidget()) {
+            dialogSeen = true;
+            modal->close();
+        }
+    });
+    w.findChild<QAction*>("mnuWindowPrint")->trigger();
+    EXPECT_TRUE(dialogSeen);
+}
+
+}  // namespace
+}  // namespace tavi::ui
