@@ -6,6 +6,13 @@
 //
 // The layouts this file settles for kinds whose record is not spelt out field by
 // field elsewhere:
+//  - Kind 23: HintCells the coloured cells coded as in kind 22 (cell + 81 x
+//    colour 0..3), HintValues[1] and [2] the two plain cells whose common peers
+//    lose the digit.
+//  - Kinds 35 and 36, as their sentences read them: in 35 HintCell is the cell
+//    whose candidates are tried and HintCellCount the cell decided; in 36
+//    HintCellCount is the digit tried through the unit and HintValueCount 0 when
+//    the decided digit is always false.
 //  - Kind 29, type 3: HintCells[1..4] the corners, [3] and [4] the roof, [5] the
 //    cell that makes the naked pair with the roof, HintCellCount 5; the house is
 //    the one those three cells share (a line before the box).
