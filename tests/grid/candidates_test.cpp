@@ -102,23 +102,8 @@ TEST(EmptyCell, FindsAnOpenCellWithoutCandidatesAndIgnoresFilledCells) {
     EXPECT_TRUE(EmptyCell(b));
 }
 
-TEST(Exclude, AsksTheOtherCellsOfTheThreeUnits) {
-    Board b = OpenBoard();
-    for (int c = 0; c < 81; ++c)
-        b.Candidates[c] &= CandidateMask(~DigitBit(6));
-    b.Candidates[40] = kAllCandidates;
-    EXPECT_FALSE(Exclude(b, 6, 40)) << "the cell itself does not count";
-    for (int peer : {36, 4, 50}) {
-        Board p = b;
-        p.Candidates[peer] |= DigitBit(6);
-        EXPECT_TRUE(Exclude(p, 6, 40)) << CellName(peer);
-    }
-    b.Candidates[0] |= DigitBit(6);
-    EXPECT_FALSE(Exclude(b, 6, 40)) << "A1 is no peer of E5";
-}
-
 TEST(SetupCandidates, BuildsTheCandidatesFromThePuzzleAlone) {
-    for (const auto& p : testing::GeneratedPuzzles(20)) {
+    for (const auto& p : testing::GeneratedPuzzles(3)) {
         Board b;
         b.Puzzle = p.puzzle;
         b.CurrentGrid.fill(9);  // stale state that must not survive

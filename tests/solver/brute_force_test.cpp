@@ -91,24 +91,6 @@ TEST(SearchLog, RemoveCandidatesAndUndoRestoreExactly) {
     EXPECT_GE(steps, 150u);
 }
 
-// Cells above the pointer are on the search path: a trial never touches them.
-TEST(SearchLog, RemoveCandidatesLeavesCellsAboveThePointerAlone) {
-    Board b = testing::OpenBoard();
-    BruteForceSearch s;
-    const int open = s.ListOpenCells(b);
-    ASSERT_EQ(open, 81);
-    // Entries 0..40 are cells 0..40; E5 (40) is the last in range, E6 (41) is not.
-    b.CurrentGrid[0] = 5;
-    s.RemoveCandidates(b, 0, 5, 40);
-    for (int c : {1, 8, 9, 10, 20, 36})
-        EXPECT_FALSE(b.Has(5, c)) << CellName(c);
-    for (int c : {45, 72, 40, 41})
-        EXPECT_TRUE(b.Has(5, c)) << CellName(c);
-    EXPECT_EQ(s.LogRowPeers[1], 0b111111110);
-    EXPECT_EQ(s.LogColumnPeers[1], 0b11110);   // rows 1..4; row 5 onwards lies above the pointer
-    EXPECT_EQ(s.LogBoxPeers[1], 0b110110000);  // B2, B3, C2, C3: positions 4, 5, 7, 8
-}
-
 TEST(BruteForce, CountsNoneOneOrMany) {
     const auto& p = testing::GeneratedPuzzles(1)[0];
     Digits oneClueLess = p.puzzle;
