@@ -32,7 +32,7 @@ int main(int argc, char** argv) {
     tavi::Game game(tavi::GameServices{prompter, store, clock, &sounds, &pages, breathe}, folders,
                     options);
 
-    tavi::ui::MainWindow window(game, folders.AppFolder);
+    tavi::ui::MainWindow window(game, options, folders);
     shown = &window;
     if (!game.Start()) return 1;
     prompter.SetParent(&window);

@@ -17,6 +17,17 @@ const QColor kDisabledMark(206, 210, 217);
 const QColor kSelectedHeader(255, 0, 0);  // the colour value 255 of a picked header
 const QColor kHeaderText(70, 76, 92);
 
+// Ink that stays readable on a dark paint (a hint's pattern colour, say): on a
+// dark background the digit is drawn in a light tint of its own colour, so a
+// clue still reads blue and the player's digit white.
+QColor ReadableOn(const QColor& ink, const std::optional<Color>& paint) {
+    if (!paint) return ink;
+    const QColor back = ToQColor(*paint);
+    if (qGray(back.rgb()) >= 110 || qGray(ink.rgb()) >= 110) return ink;
+    return QColor(255 - (255 - ink.red()) / 4, 255 - (255 - ink.green()) / 4,
+                  255 - (255 - ink.blue()) / 4);
+}
+
 }  // namespace
 
 BoardWidget::BoardWidget(Game& game, QWidget* parent) : QWidget(parent), game_(game) {
@@ -123,8 +134,9 @@ void BoardWidget::PaintDigitsAndMarks(QPainter& p) {
     for (int c = 0; c < 81; ++c) {
         if (const int d = board.CurrentGrid[c]) {
             const bool clue = game_.IsClue(c);
-            glyphs_.Draw(p, layout_.CellRect(c), d, digitSize,
-                         clue ? ToQColor(kClueColor) : userDigit, clue);
+            const QColor ink = clue ? ToQColor(kClueColor) : userDigit;
+            glyphs_.Draw(p, layout_.CellRect(c), d, digitSize, ReadableOn(ink, game_.CellPaint(c)),
+                         clue);
             continue;
         }
         if (!captions) continue;
@@ -133,7 +145,8 @@ void BoardWidget::PaintDigitsAndMarks(QPainter& p) {
             const QColor color = !enabled                 ? kDisabledMark
                                  : game_.MarkDimmed(m, c) ? ToQColor(kDimmedMarkColor)
                                                           : kMarkColor;
-            glyphs_.Draw(p, layout_.MarkRect(m, c), m, markSize, color, false);
+            const auto paint = game_.MarkPaint(m, c) ? game_.MarkPaint(m, c) : game_.CellPaint(c);
+            glyphs_.Draw(p, layout_.MarkRect(m, c), m, markSize, ReadableOn(color, paint), false);
         }
     }
 }

@@ -17,6 +17,8 @@
 #include <cmath>
 
 #include "ui/board_area.h"
+#include "ui/hint_window.h"
+#include "ui/options_dialog.h"
 #include "ui/painted_pictures.h"
 #include "ui/qt_convert.h"
 #include "ui/release_controls.h"
@@ -47,8 +49,12 @@ class PuzzleLine : public QLineEdit {
 
 }  // namespace
 
-MainWindow::MainWindow(Game& game, const std::filesystem::path& appFolder, QWidget* parent)
-    : QMainWindow(parent), game_(game), brushCursor_(BrushCursor(appFolder)) {
+MainWindow::MainWindow(Game& game, Options& options, const LibraryFolders& folders, QWidget* parent)
+    : QMainWindow(parent),
+      game_(game),
+      options_(options),
+      folders_(folders),
+      brushCursor_(BrushCursor(folders.AppFolder)) {
     setObjectName(QStringLiteral("Main"));
     auto* central = new QWidget(this);
     auto* outer = new QHBoxLayout(central);
@@ -68,6 +74,7 @@ MainWindow::MainWindow(Game& game, const std::filesystem::path& appFolder, QWidg
     outer->addWidget(side_);
     setCentralWidget(central);
     ConnectBoard();
+    textHint_->viewport()->installEventFilter(this);
 
     // The clock ticks once a second; the game decides whether it runs.
     timer_ = new QTimer(this);
@@ -132,6 +139,11 @@ void MainWindow::Refresh() {
         sudTekst_->setCursorPosition(0);
     }
     RefreshPalette();
+    // A hint shown while the option asks for the small window.
+    if (game_.HintWindowShows() != hintShows_) {
+        hintShows_ = game_.HintWindowShows();
+        Hints()->ShowHint();
+    }
     if (game_.brush().BrushActive)
         setCursor(brushCursor_);
     else
@@ -230,6 +242,33 @@ void MainWindow::ScaleControls() {
 void MainWindow::NotAvailable(const QString& what) {
     QMessageBox::information(this, QStringLiteral("Tavi Sudoku 1"),
                              what + QStringLiteral(" is not available yet."));
+}
+
+bool MainWindow::eventFilter(QObject* watched, QEvent* e) {
+    // A double click on the hint box pops up the small hint window.
+    if (watched == textHint_->viewport() && e->type() == QEvent::MouseButtonDblClick) {
+        HintWindow* hints = Hints();
+        hints->show();
+        hints->raise();
+        return true;
+    }
+    return QMainWindow::eventFilter(watched, e);
+}
+
+HintWindow* MainWindow::Hints() {
+    if (!hints_) {
+        hints_ = new HintWindow(game_, folders_, this);
+        hints_->setWindowFlag(Qt::Window);
+        hints_->Refresh();
+    }
+    return hints_;
+}
+
+void MainWindow::ShowOptions() {
+    if (game_.Busy()) return;
+    const Options before = options_;
+    if (RunOptionsDialog(this, options_, game_.SoundAvailable())) game_.CommandOptions(before);
+    Refresh();
 }
 
 void MainWindow::ShowRevisions() {

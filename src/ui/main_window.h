@@ -24,14 +24,17 @@ namespace tavi::ui {
 
 class BoardArea;
 class ClickLabel;
+class HintWindow;
 class RevisionWindow;
 
 class MainWindow : public QMainWindow {
     Q_OBJECT
 
   public:
-    // `appFolder` holds the program's pictures ("Brush.ico").
-    MainWindow(Game& game, const std::filesystem::path& appFolder, QWidget* parent = nullptr);
+    // `options` are the game's, changed by the options window; the program's
+    // folder holds its pictures ("Brush.ico").
+    MainWindow(Game& game, Options& options, const LibraryFolders& folders,
+               QWidget* parent = nullptr);
 
     // Draws the window again from the game.
     void Refresh();
@@ -42,6 +45,7 @@ class MainWindow : public QMainWindow {
     BoardArea* Area() const { return area_; }
 
   protected:
+    bool eventFilter(QObject* watched, QEvent* e) override;
     void closeEvent(QCloseEvent*) override;
     void changeEvent(QEvent*) override;
     void resizeEvent(QResizeEvent*) override;
@@ -81,12 +85,17 @@ class MainWindow : public QMainWindow {
     void Exit();
     void NotAvailable(const QString& what);
     void ShowRevisions();
+    void ShowOptions();
+    // FormHint, made when first wanted.
+    HintWindow* Hints();
     void RefreshCommands();
     void RefreshPalette();
     // The controls beside the board grow with the window, as the board does.
     void ScaleControls();
 
     Game& game_;
+    Options& options_;
+    LibraryFolders folders_;
     QCursor brushCursor_;
     BoardArea* area_ = nullptr;
     QWidget* side_ = nullptr;
@@ -100,6 +109,8 @@ class MainWindow : public QMainWindow {
     QLineEdit* sudTekst_ = nullptr;
     QTimer* timer_ = nullptr;
     RevisionWindow* revisions_ = nullptr;
+    HintWindow* hints_ = nullptr;
+    int hintShows_ = 0;       // the hint window's showings the game asked for and got
     bool exiting_ = false;    // Exit has asked already: the close goes through
     bool minimised_ = false;  // the clock is paused
 };

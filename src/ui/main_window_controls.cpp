@@ -113,7 +113,8 @@ QWidget* MainWindow::BuildCommands() {
         game_.CommandScan();
         Refresh();
     });
-    for (CommandId id : {kPrint, kMake, kOptions}) {
+    connect(commands_[kOptions], &QPushButton::clicked, this, &MainWindow::ShowOptions);
+    for (CommandId id : {kPrint, kMake}) {
         connect(commands_[id], &QPushButton::clicked, this,
                 [this, id] { NotAvailable(commands_[id]->text()); });
     }

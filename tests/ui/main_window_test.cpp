@@ -1,9 +1,12 @@
 // The game window over a real game: buttons and the board reach the game, and
 // what the game then holds is what the window shows.
+#include <QCheckBox>
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QRadioButton>
+#include <QTimer>
 
+#include "ui/hint_window.h"
 #include "window_fixture.h"
 
 namespace tavi::ui {
@@ -228,6 +231,44 @@ TEST_F(MainWindowTest, TheFootLabelsOpenTheSiteAndTheRevisionHistory) {
     auto* revisions = window->findChild<QDialog*>("FormRevision");
     ASSERT_NE(revisions, nullptr);
     EXPECT_TRUE(revisions->isVisible());
+}
+
+TEST_F(MainWindowTest, TheOptionsWindowChangesTheOptionsAndTheBoardFollows) {
+    Open();
+    Press("CommandNew");
+    EXPECT_FALSE(window->Area()->Wells()->isHidden());
+    QTimer::singleShot(0, [] {
+        auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        ASSERT_NE(dialog, nullptr);
+        auto* wells = dialog->findChild<QCheckBox*>("Check3");
+        ASSERT_NE(wells, nullptr);
+        ASSERT_TRUE(wells->isChecked());
+        wells->click();
+        dialog->accept();
+    });
+    Press("CommandOptions");
+    EXPECT_FALSE(options.Wells);
+    EXPECT_TRUE(window->Area()->Wells()->isHidden());
+}
+
+TEST_F(MainWindowTest, AHintShowsInTheSmallWindowWhenAskedForAndOnADoubleClick) {
+    Open();
+    Press("CommandNew");
+    Press("CommandHint");
+    EXPECT_EQ(window->findChild<HintWindow*>(), nullptr);  // the option is off
+    auto* text = Find<QPlainTextEdit>("TextHint");
+    EXPECT_EQ(text->toPlainText().toStdString(), game->TextHint());
+    QTest::mouseDClick(text->viewport(), Qt::LeftButton);
+    auto* hints = window->findChild<HintWindow*>();
+    ASSERT_NE(hints, nullptr);
+    EXPECT_TRUE(hints->isVisible());
+    hints->close();
+
+    options.HintWindow = true;
+    Press("CommandHint");
+    EXPECT_TRUE(hints->isVisible());
+    EXPECT_EQ(hints->windowTitle().toStdString(), game->HintWindowCaption());
+    EXPECT_EQ(hints->windowTitle().left(7), "Hint - ");
 }
 
 }  // namespace

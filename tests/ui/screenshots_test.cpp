@@ -1,5 +1,5 @@
 // Pictures of the window for a person to look at: at start, in play (marks, a
-// painted cell, a picked row) and at the end of a game, at 800 x 600 and at
+// painted cell, a picked row), with a hint and at the end of a game, at 800 x 600 and at
 // 1600 x 1200. Written only when TAVI_SHOTS_DIR names a folder; without it the
 // same run still has to paint every state at both sizes.
 #include <QDir>
@@ -25,7 +25,7 @@ class Screenshots : public WindowFixture, public ::testing::WithParamInterface<Q
     }
 };
 
-TEST_P(Screenshots, AtStartInPlayAndAtTheEnd) {
+TEST_P(Screenshots, AtStartInPlayWithAHintAndAtTheEnd) {
     Open(GetParam());
     Shot("start");
 
@@ -49,7 +49,11 @@ TEST_P(Screenshots, AtStartInPlayAndAtTheEnd) {
     window->Refresh();
     Shot("play");
 
+    // A hint: its text in the hint box, its colours on the board.
     QTest::mouseClick(Find<ReleaseButton>("Command1_5"), Qt::LeftButton);
+    Press("CommandHint");
+    Shot("hint");
+
     for (auto [cell, digit] = FirstOpenCell(); cell >= 0; std::tie(cell, digit) = FirstOpenCell())
         ClickMark(digit, cell);
     ASSERT_TRUE(game->position().SudokuSolved);

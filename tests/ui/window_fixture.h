@@ -22,7 +22,7 @@ class WindowFixture : public tavi::testing::GameFixture {
     // Starts the game and shows the window over it.
     MainWindow& Open(QSize size = {800, 600}) {
         Started();
-        window.emplace(*game, folders.AppFolder);
+        window.emplace(*game, options, folders);
         window->resize(size);
         window->show();
         QApplication::processEvents();
