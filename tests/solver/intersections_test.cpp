@@ -62,6 +62,12 @@ TEST(PointingPair, ClearsTheRestOfTheLineAndFillsKindThree) {
          60,
          2,
          {72, 73, 74, 75, 76, 77}},
+        {"the lower box first",
+         {{1, kBoxes + 6, {54, 55}}, {1, kBoxes + 2, {6, 7}}},
+         1,
+         6,
+         0,
+         {0, 1, 2, 3, 4, 5}},
         {"nothing live", {{4, kBoxes + 0, {0, 1}}, {4, kRows + 0, {0, 1}}}, 0, 0, 0, {}},
     };
     for (const Case& k : cases) {
@@ -102,6 +108,13 @@ TEST(BoxLine, ClearsTheRestOfTheBoxAndFillsKindFour) {
          60,
          2,
          {60, 61, 69, 70, 78, 79},
+         8},
+        {"every row for a digit before the next digit",
+         {{2, kRows + 0, {0, 1}}, {1, kRows + 8, {79, 80}}},
+         1,
+         60,
+         1,
+         {60, 61, 62, 69, 70, 71},
          8},
         {"nothing live", {{5, kRows + 0, {0, 1}}, {5, kBoxes + 0, {0, 1}}}, 0, 0, 0, {}},
     };
