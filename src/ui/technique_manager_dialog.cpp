@@ -29,6 +29,12 @@ QCheckBox* TechniqueBox(int box, const TechniqueRow& row, int width) {
     return check;
 }
 
+QColor Blend(const QColor& a, const QColor& b, double t) {
+    return QColor::fromRgbF(float(a.redF() + (b.redF() - a.redF()) * t),
+                            float(a.greenF() + (b.greenF() - a.greenF()) * t),
+                            float(a.blueF() + (b.blueF() - a.blueF()) * t));
+}
+
 QLabel* Heading(const QString& text, int width) {
     auto* label = new QLabel(text);
     QFont font = label->font();
@@ -112,8 +118,10 @@ QWidget* TechniqueManagerDialog::MakeRow(int technique) {
     pick->setFixedWidth(kPickWidth);
     pick->setToolTip(QStringLiteral("Pick this row to move it with Up and Down"));
     pickGroup_->addButton(pick, technique);
-    connect(pick, &QRadioButton::clicked, this,
-            [this, technique] { manager_.SelectRow(technique); });
+    connect(pick, &QRadioButton::clicked, this, [this, technique] {
+        manager_.SelectRow(technique);
+        ShowBoxes();
+    });
     picks_[technique] = pick;
     line->addWidget(pick);
 
@@ -190,8 +198,6 @@ void TechniqueManagerDialog::Place() {
         const int t = manager_.TechniqueAt(position);
         if (t < 0) continue;
         rowLayout_->addWidget(rows_[t]);
-        // Alternate shades, by position, so the eye can follow a row across.
-        rows_[t]->setBackgroundRole(position % 2 ? QPalette::AlternateBase : QPalette::Base);
     }
     ShowBoxes();
 }
@@ -201,8 +207,24 @@ void TechniqueManagerDialog::ShowBoxes() {
         boxes_[box]->setChecked(manager_.Checked(box));
         boxes_[box]->setEnabled(manager_.Enabled(box));
     }
-    if (const int t = manager_.TechniqueAt(manager_.SelectedPosition); t >= 0)
-        picks_[t]->setChecked(true);
+    const int picked = manager_.TechniqueAt(manager_.SelectedPosition);
+    if (picked >= 0) picks_[picked]->setChecked(true);
+    const QColor base = palette().color(QPalette::Base);
+    const QColor text = palette().color(QPalette::Text);
+    const QColor highlight = palette().color(QPalette::Highlight);
+    for (int t = 0; t < kTechniqueCount; ++t) {
+        const int position = manager_.RowOf(t);
+        // Only the rows the order buttons can move can be picked for them.
+        picks_[t]->setEnabled(position >= TechniqueTables::kFirstMovable &&
+                              position <= TechniqueTables::kLastMovable);
+        // Alternate shades so the eye can follow a row across; the picked row
+        // stands out, so it is plain which row Up and Down will move.
+        QPalette shade = rows_[t]->palette();
+        shade.setColor(QPalette::Window, t == picked    ? Blend(base, highlight, 0.22)
+                                         : position % 2 ? Blend(base, text, 0.05)
+                                                        : base);
+        rows_[t]->setPalette(shade);
+    }
 }
 
 // All rows when the screen has room, else as many as fit, with the scroll bar;
@@ -214,7 +236,13 @@ void TechniqueManagerDialog::FitToScreen() {
     if (const QScreen* s = parentWidget() ? parentWidget()->screen() : screen())
         room = s->availableGeometry().height();
     const int chrome = sizeHint().height() - scroll_->sizeHint().height();
-    scroll_->setFixedHeight(std::max(200, std::min(content, room - 90 - chrome)));
+    int height = std::min(content, room - 90 - chrome);
+    if (height < content) {
+        // Whole rows only, so the last one in view isn't cut through.
+        const int row = rows_[0]->sizeHint().height();
+        height = (height - 2 * scroll_->frameWidth()) / row * row + 2 * scroll_->frameWidth();
+    }
+    scroll_->setFixedHeight(std::max(200, height));
     scroll_->setMinimumWidth(rows->sizeHint().width() +
                              scroll_->verticalScrollBar()->sizeHint().width() +
                              2 * scroll_->frameWidth());

@@ -5,7 +5,10 @@
 
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QCheckBox>
+#include <QDir>
+#include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScreen>
@@ -25,9 +28,12 @@ class TechniqueDialog : public ::testing::Test {
         ASSERT_NE(b, nullptr) << name;
         b->click();
     }
-    void Pick(int technique) {
-        dialog.findChild<QRadioButton*>(QStringLiteral("OptionOrder_%1").arg(technique))->click();
+    QRadioButton* PickButton(int technique) const {
+        auto* b = dialog.findChild<QRadioButton*>(QStringLiteral("OptionOrder_%1").arg(technique));
+        EXPECT_NE(b, nullptr) << technique;
+        return b;
     }
+    void Pick(int technique) { PickButton(technique)->click(); }
 
     TechniqueTables tables;
     TechniqueManagerDialog dialog{tables};
@@ -91,10 +97,15 @@ TEST_F(TechniqueDialog, UpAndDownMoveThePickedRowWithinEightToThirtyEight) {
     Press("KnopUp");
     EXPECT_EQ(dialog.TechniqueShownAt(37), 38);
 
-    Pick(39);  // Bifurcation never moves
+    // The head of the ladder and Bifurcation can't be picked, so never move.
+    for (int t : {0, 7, 39})
+        EXPECT_FALSE(PickButton(t)->isEnabled()) << t;
+    EXPECT_TRUE(PickButton(8)->isEnabled());
+    Pick(39);
+    EXPECT_TRUE(PickButton(38)->isChecked());
     Press("KnopUp");
     EXPECT_EQ(dialog.TechniqueShownAt(39), 39);
-    EXPECT_EQ(tables.Order[39], 39);
+    EXPECT_EQ(dialog.TechniqueShownAt(36), 38);
 
     // The default order comes back and the ticks stay as they are.
     Box(12)->click();
@@ -106,11 +117,27 @@ TEST_F(TechniqueDialog, UpAndDownMoveThePickedRowWithinEightToThirtyEight) {
     EXPECT_FALSE(Box(12)->isChecked());
 }
 
-TEST_F(TechniqueDialog, TheWindowFitsOnTheScreen) {
+// The window fits on the screen and every caption has its room. With
+// TAVI_SHOTS_DIR set it is written there as techniques.png, with a few changes
+// made, for a person to look at.
+TEST_F(TechniqueDialog, TheWindowFitsOnTheScreenWithNoCaptionClipped) {
+    Box(9)->click();
+    Box(52)->click();
+    Pick(12);
+    Press("KnopUp");
     dialog.show();
+    QApplication::processEvents();
     const QRect room = dialog.screen()->availableGeometry();
     EXPECT_LE(dialog.frameGeometry().height(), room.height());
     EXPECT_LE(dialog.frameGeometry().width(), room.width());
+    for (auto* w : dialog.findChildren<QWidget*>()) {
+        if (!qobject_cast<QAbstractButton*>(w) && !qobject_cast<QLabel*>(w)) continue;
+        EXPECT_GE(w->width(), w->sizeHint().width()) << w->objectName().toStdString();
+    }
+    const QString dir = qEnvironmentVariable("TAVI_SHOTS_DIR");
+    if (!dir.isEmpty()) {
+        EXPECT_TRUE(dialog.grab().save(QDir(dir).filePath("techniques.png")));
+    }
 }
 
 }  // namespace
