@@ -22,11 +22,10 @@ OptionsDialog::OptionsDialog(Options& options, bool soundAvailable, QWidget* par
     frames->setSpacing(10);
     frames->addWidget(MakeTimeFrame());
     frames->addWidget(MakeProgressFrame());
-    frames->addStretch();
 
     auto* top = new QHBoxLayout;
     top->setSpacing(18);
-    top->addWidget(MakeChecks(), 0, Qt::AlignTop);
+    top->addWidget(MakeChecks());
     top->addLayout(frames);
 
     auto* layout = new QVBoxLayout(this);
@@ -52,9 +51,10 @@ QCheckBox* OptionsDialog::Check(const char* name, const char* caption, bool Opti
 }
 
 QWidget* OptionsDialog::MakeChecks() {
-    auto* panel = new QWidget;
+    // A frame with an empty heading, so that it lines up with the two beside it.
+    auto* panel = new QGroupBox(QStringLiteral(" "));
+    panel->setObjectName(QStringLiteral("FrameBoard"));
     auto* column = new QVBoxLayout(panel);
-    column->setContentsMargins(0, 8, 0, 0);
     column->setSpacing(8);
     column->addWidget(Check("Check1", "Automatic pencilmarks update", &OptionsForm::Pencilmarks));
     column->addWidget(
@@ -64,6 +64,11 @@ QWidget* OptionsDialog::MakeChecks() {
     column->addWidget(Check("Check3", "Fill Wells", &OptionsForm::Wells));
     column->addWidget(Check("Check4", "Sounds", &OptionsForm::Sounds));
     column->addWidget(Check("Check5", "Additional Small Hint Window", &OptionsForm::HintWindow));
+    column->addStretch();
+    auto* version = new QLabel(QStringLiteral("Version 1.6"));
+    version->setObjectName(QStringLiteral("Label2"));
+    version->setEnabled(false);  // drawn in the palette's quiet text colour
+    column->addWidget(version, 0, Qt::AlignRight);
     return panel;
 }
 
@@ -144,14 +149,8 @@ QWidget* OptionsDialog::MakeButtons() {
         b->setAutoDefault(false);
     ok->setDefault(true);
 
-    auto* version = new QLabel(QStringLiteral("Version 1.6"));
-    version->setObjectName(QStringLiteral("Label2"));
-    version->setEnabled(false);  // drawn in the palette's quiet text colour
-
     row->addWidget(colors_);
     row->addWidget(techniques);
-    row->addSpacing(12);
-    row->addWidget(version);
     row->addStretch();
     row->addWidget(cancel);
     row->addWidget(ok);
