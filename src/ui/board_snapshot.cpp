@@ -104,22 +104,32 @@ void PaintHeaders(QPainter& p, const SnapshotLayout& l) {
     }
 }
 
+// Ink that stays readable on the paint under it: a dark hint colour (the
+// pattern cell's teal, say) takes light ink instead of the usual dark one.
+QColor InkOn(const QColor& ink, const std::optional<Color>& paint) {
+    if (!paint) return ink;
+    const QColor back = ToQColor(*paint);
+    const double light = 0.299 * back.redF() + 0.587 * back.greenF() + 0.114 * back.blueF();
+    return light < 0.45 ? QColor(255, 255, 255) : ink;
+}
+
 void PaintDigitsAndMarks(QPainter& p, const SnapshotLayout& l, const HintSnapshot& s,
                          const QPalette& palette) {
     const int digitSize = l.cell * 62 / 100;
     const int markSize = std::max(6, l.cell * 28 / 100);
     for (int c = 0; c < 81; ++c) {
         if (const int d = s.digits[c]) {
-            DrawDigit(p, l.Cell(c), d, digitSize,
-                      s.clue[c] ? ToQColor(kClueColor) : palette.color(QPalette::Text), s.clue[c]);
+            const QColor ink = s.clue[c] ? ToQColor(kClueColor) : palette.color(QPalette::Text);
+            DrawDigit(p, l.Cell(c), d, digitSize, InkOn(ink, s.cellPaint[c]), s.clue[c]);
             continue;
         }
         if (!s.markCaptions) continue;
         for (int m = 1; m <= 9; ++m) {
             if (!s.MarkShown(m, c)) continue;
             const bool dim = s.dimmed[c] & (1u << (m - 1));
-            DrawDigit(p, l.Mark(m, c), m, markSize, dim ? ToQColor(kDimmedMarkColor) : kMarkColor,
-                      false);
+            const auto& under = s.markPaint[c][m - 1] ? s.markPaint[c][m - 1] : s.cellPaint[c];
+            DrawDigit(p, l.Mark(m, c), m, markSize,
+                      InkOn(dim ? ToQColor(kDimmedMarkColor) : kMarkColor, under), false);
         }
     }
 }

@@ -26,7 +26,7 @@ class SnapshotView : public QWidget {
         setAttribute(Qt::WA_OpaquePaintEvent);
         setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     }
-    QSize sizeHint() const override { return {340, 340}; }
+    QSize sizeHint() const override { return {400, 400}; }
     QSize minimumSizeHint() const override { return {190, 190}; }
 
   protected:

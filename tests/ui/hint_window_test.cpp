@@ -100,7 +100,7 @@ TEST_F(HintWindowTest, CaptionRefreshAndAFrozenCopy) {
     EXPECT_FALSE(w.isVisible());
 }
 
-TEST_F(HintWindowTest, SaveAsBmpWritesIntoScreenshotsBesideTheProgram) {
+TEST_F(HintWindowTest, SaveAsBmpWritesIntoScreenshotsBesideTheProgramOrInTheDataFolder) {
     HintWindow& w = WithHint();
     const QString name = w.windowTitle().mid(7);
     Answer(std::nullopt);
@@ -120,15 +120,11 @@ TEST_F(HintWindowTest, SaveAsBmpWritesIntoScreenshotsBesideTheProgram) {
     Answer(QString("a/b:c.BMP"));
     EXPECT_TRUE(w.SaveAsBmp().endsWith("/Screenshots/a-b-c.bmp"));
     EXPECT_EQ(asked.back()[2], PictureFileName(name) + "_0002");
-}
 
-TEST_F(HintWindowTest, PicturesGoToTheDataFolderWhenTheProgramsFolderCantTakeThem) {
-    // A file where the folder should be: no "Screenshots" can be made there.
+    // A file where the folder should be: the pictures go to the data folder.
     const auto blocked = root / "blocked";
     std::ofstream(blocked) << "not a folder";
-    LibraryFolders readOnly{blocked, folders.DataFolder};
-    EXPECT_EQ(ScreenshotsFolder(readOnly), Screenshots(folders.DataFolder));
-    EXPECT_TRUE(QFileInfo(Screenshots(folders.DataFolder)).isDir());
+    EXPECT_EQ(ScreenshotsFolder({blocked, folders.DataFolder}), Screenshots(folders.DataFolder));
     EXPECT_TRUE(ScreenshotsFolder({blocked, blocked}).isEmpty());
 }
 
@@ -151,6 +147,34 @@ TEST_F(HintWindowTest, PrintingWithoutAPrinterDoesNoHarm) {
     });
     w.findChild<QAction*>("mnuWindowPrint")->trigger();
     EXPECT_TRUE(dialogSeen);
+}
+
+// With TAVI_SHOTS_DIR set: the window over the first intersection or subset found
+// past the singles, as
+// hint-window.png, for a person to look at.
+TEST_F(HintWindowTest, Picture) {
+    const QString dir = qEnvironmentVariable("TAVI_SHOTS_DIR");
+    if (dir.isEmpty()) GTEST_SKIP() << "no TAVI_SHOTS_DIR";
+    options.HintWindow = true;
+    // Follow the singles until a puzzle needs more.
+    const auto pastSingles = [&] {
+        for (int i = 0; i < 81; ++i) {
+            game->CommandHint();
+            const HintRecord& hint = game->LastHint();
+            // An intersection or a subset: a pattern with all its roles painted.
+            if (hint.HintKind >= 3 && hint.HintKind <= 5) return true;
+            if (hint.HintKind < 1 || hint.HintKind > 2) return false;
+            game->MarkMouseUp(hint.HintNumber, 9 * hint.HintRow + hint.HintColumn,
+                              MouseButton::Left, true);
+        }
+        return false;
+    };
+    for (int level = 9; level >= 1; --level)
+        if (Playing(level), pastSingles()) break;
+    window.emplace(*game, folders);
+    window->ShowHint();
+    EXPECT_TRUE(window->windowTitle().startsWith("Hint - ")) << game->TextHint();
+    EXPECT_TRUE(window->Picture().save(QDir(dir).filePath("hint-window.png")));
 }
 
 }  // namespace
