@@ -61,9 +61,9 @@ TEST_P(Screenshots, AtStartInPlayWithAHintAndAtTheEnd) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Sizes, Screenshots, ::testing::Values(QSize(800, 600), QSize(1600, 1200)),
-                         [](const auto& info) {
-                             return std::to_string(info.param.width()) + "x" +
-                                    std::to_string(info.param.height());
+                         [](const ::testing::TestParamInfo<QSize>& size) {
+                             return std::to_string(size.param.width()) + "x" +
+                                    std::to_string(size.param.height());
                          });
 
 }  // namespace
