@@ -304,7 +304,7 @@ private:
     bool gridEnabled_ = false;
     std::string textHint_{kStandingHintText};
     std::string labelStap_;
-    std::string labelTijd_;
+    std::string labelTijd_{"00:00"};
     std::string caption_;
     std::string sudTekst_;
     HintRecord lastHint_;

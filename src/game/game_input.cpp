@@ -50,7 +50,7 @@ void Game::EndTest() {
 }
 
 void Game::MarkMouseUp(int digit, int cell, MouseButton button, bool inside) {
-    if (!gridEnabled_ || digit < 1 || digit > 9 || cell < 0 || cell > 80) return;
+    if (busy_ || !gridEnabled_ || digit < 1 || digit > 9 || cell < 0 || cell > 80) return;
     if (!inside) return EndTest();
     if (brush_.BrushActive) {
         const bool left = button == MouseButton::Left;
@@ -222,6 +222,7 @@ void Game::PaletteUp(int index, MouseButton button, bool inside) {
 }
 
 void Game::CommandResetCell() {
+    if (busy_) return;  // a search is running
     if (SelectedRow == kNoLine || SelectedColumn == kNoLine) return;
     ResetHintStage();
     const int cell = SelectedRow * 9 + SelectedColumn;

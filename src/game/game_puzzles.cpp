@@ -51,6 +51,7 @@ void Game::LeaveBoard() {
 }
 
 void Game::CommandNew() {
+    if (busy_) return;  // a search is running
     ResetHintStage();
     LeaveBoard();
     const int level = position_.ChosenLevel;
@@ -62,6 +63,7 @@ void Game::CommandNew() {
 }
 
 void Game::CommandOpen() {
+    if (busy_) return;  // a search is running
     ResetHintStage();
     LeaveBoard();
     const int level = position_.ChosenLevel;
@@ -215,6 +217,7 @@ bool Game::OpenLastSudoku() {
 }
 
 void Game::CommandSave() {
+    if (busy_) return;  // a search is running
     Prompter& say = services_.prompter;
     if (position_.SudokuSolved && !position_.SudokuAutosolved)
         return say.Message("Sudoku solved",
@@ -255,6 +258,7 @@ void Game::CommandSave() {
 }
 
 void Game::CommandSolution() {
+    if (busy_) return;  // a search is running
     timerRunning_ = false;
     Speel(kSoundSolution);
     HintStage = 0;

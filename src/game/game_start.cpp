@@ -119,6 +119,7 @@ void Game::WriteSettingsOnExit() {
 }
 
 bool Game::CommandExit() {
+    if (busy_) return false;  // not while a search is running
     Prompter& ask = services_.prompter;
     auto plainYes = [&] {
         return ask.Ask(kQuitTitle, kQuitText, Buttons::YesNo, Icon::Question) == Answer::Yes;
@@ -150,6 +151,7 @@ bool Game::CommandExit() {
 }
 
 bool Game::QueryUnload() {
+    if (busy_) return false;  // not while a search is running
     Prompter& ask = services_.prompter;
     auto plainYes = [&] {
         return ask.Ask(kQuitTitle, kQuitText, Buttons::YesNo, Icon::Question) == Answer::Yes;

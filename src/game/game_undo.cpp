@@ -23,6 +23,7 @@ void ForEachLoggedPeer(const MoveStep& step, F f) {
 }  // namespace
 
 void Game::CommandUndo() {
+    if (busy_) return;  // a search is running
     if (position_.CurrentStep <= 0 || position_.CurrentStep > LastStep()) return;
     ResetHintStage();
     Speel(kSoundUndoRedo);
@@ -47,6 +48,7 @@ void Game::CommandUndo() {
 }
 
 void Game::CommandRedo() {
+    if (busy_) return;  // a search is running
     if (position_.CurrentStep >= LastStep()) return;
     ResetHintStage();
     Speel(kSoundUndoRedo);

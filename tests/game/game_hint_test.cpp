@@ -44,6 +44,27 @@ TEST_F(Hints, ATechniqueHintChangesNothingAndCostsFifteenSeconds) {
     EXPECT_TRUE(painted);
 }
 
+TEST_F(Hints, NothingElseAnswersWhileASearchRuns) {
+    Game& g = Playing(2);
+    const int record = g.position().OpenRecord;
+    int breaths = 0;
+    yield = [&] {
+        ++breaths;
+        EXPECT_TRUE(g.Busy());
+        EXPECT_FALSE(g.CommandExit());
+        EXPECT_FALSE(g.QueryUnload());
+        g.CommandNew();
+        PlaceOne();
+        g.CommandUndo();
+    };
+    g.CommandHint();
+    yield = nullptr;
+    EXPECT_GT(breaths, 0);
+    EXPECT_FALSE(g.Busy());
+    EXPECT_EQ(g.position().OpenRecord, record);
+    EXPECT_EQ(g.CurrentStep(), 0);
+}
+
 TEST_F(Hints, AWrongDigitIsReportedFirst) {
     Game& g = Playing(2);
     auto [cell, digit] = WrongCandidate();

@@ -109,7 +109,10 @@ public:
 
     // A new game over the same folders and store, as at the next start.
     Game& NewGame() {
-        game.emplace(GameServices{prompter, store, clock, &sounds, &pages}, folders, options);
+        game.emplace(GameServices{prompter, store, clock, &sounds, &pages, [this] {
+                         if (yield) yield();
+                     }},
+                     folders, options);
         return *game;
     }
     // A started game with the first run answered (it only informs).
@@ -158,6 +161,7 @@ public:
     FakePages pages;
     Options options;
     std::optional<Game> game;
+    std::function<void()> yield;  // what the window does while a search breathes
 };
 
 }  // namespace tavi::testing
