@@ -76,18 +76,27 @@ TEST(VerwijderKnop, HonoursHintOnlyAndForceZet) {
 
 TEST(Exclusief, LooksOnlyAtWhatLiesOutsideTheSet) {
     const int set[5] = {1, 2, 3, 4, 5};
+    using testing::MaskOf;
     struct Case {
-        std::initializer_list<int> candidates;
+        CandidateMask candidates;
         int count;
         bool answer;
     } cases[] = {
-        {{1, 2}, 2, true},  {{1, 2, 3}, 2, false},      {{1}, 2, true},     {{}, 2, true},
-        {{2, 9}, 2, false}, {{1, 2, 3, 4, 5}, 5, true}, {{5, 6}, 5, false}, {{3, 4}, 4, true},
-        {{8, 9}, 1, true},  {{8, 9}, 6, true},          {{8, 9}, 0, true},
+        {MaskOf({1, 2}), 2, true},
+        {MaskOf({1, 2, 3}), 2, false},
+        {MaskOf({1}), 2, true},
+        {0, 2, true},
+        {MaskOf({2, 9}), 2, false},
+        {MaskOf({3, 4}), 4, true},
+        {MaskOf({1, 2, 3, 4, 5}), 5, true},
+        {MaskOf({5, 6}), 5, false},
+        {MaskOf({8, 9}), 1, true},
+        {MaskOf({8, 9}), 6, true},
+        {MaskOf({8, 9}), 0, true},
     };
     for (const Case& k : cases) {
         Board b = OpenBoard();
-        SetCandidates(b, 30, k.candidates);
+        b.Candidates[30] = k.candidates;
         EXPECT_EQ(Exclusief(b, set, k.count, 30), k.answer)
             << "count " << k.count << ", mask " << b.Candidates[30];
     }

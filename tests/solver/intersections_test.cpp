@@ -13,7 +13,7 @@ using testing::Only;
 
 struct Case {
     const char* name;
-    std::initializer_list<Only> shape;
+    std::vector<Only> shape;
     int digit, leftTop, variant;  // variant: the segment 0..5 (kind 3); 1 row, 2 column (kind 4)
     std::vector<int> loses;       // the cells that lose the digit; none: no hit
     int line = 0;                 // kind 4: the row or column

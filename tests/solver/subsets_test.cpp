@@ -56,8 +56,8 @@ std::vector<Removal> Each(std::vector<int> cells, std::initializer_list<int> dig
 
 struct Case {
     const char* name;
-    std::vector<std::pair<std::vector<int>, std::initializer_list<int>>> cells;  // their candidates
-    std::initializer_list<testing::Only> only;
+    std::vector<std::pair<std::vector<int>, std::vector<int>>> cells;  // their candidates
+    std::vector<testing::Only> only;
     bool naked;
     int size;
     Subset expected;  // variant 0: no hit
@@ -118,8 +118,11 @@ TEST(NakedHidden, FindsTheFirstLiveSetAndFillsKindFive) {
         SCOPED_TRACE(k.name);
         Board b = testing::OpenBoardWith(k.only);
         for (const auto& [cells, digits] : k.cells)
-            for (int c : cells)
-                testing::SetCandidates(b, c, digits);
+            for (int c : cells) {
+                b.Candidates[c] = 0;
+                for (int d : digits)
+                    b.Candidates[c] |= DigitBit(d);
+            }
         const auto [found, h, removed] = testing::RunAsHintAndForReal(
             b, 3, [&](SolveContext& ctx) { return NakedHidden(ctx, k.naked, k.size); });
         EXPECT_EQ(found, k.expected.variant != 0);

@@ -66,7 +66,7 @@ struct Only {
     int digit, unit;
     std::vector<int> cells;
 };
-inline Board OpenBoardWith(std::initializer_list<Only> shapes) {
+inline Board OpenBoardWith(const std::vector<Only>& shapes) {
     Board b = OpenBoard();
     for (const Only& s : shapes)
         for (int c : UnitCells[s.unit])
