@@ -64,8 +64,9 @@ private:
 
 // The number of solutions of Puzzle: 0, 1, or 2 for "two or more". The logic
 // of the ladder's head goes first; the search does the rest. With exactly one,
-// the solution stands in CurrentGrid. `noSolutionFound` is set when a cell runs
-// out of candidates before the search begins.
+// the solution stands in CurrentGrid. `noSolutionFound` is set for a puzzle
+// with an obvious contradiction: givens that clash, or a cell that runs out of
+// candidates before the search begins.
 int BruteForceSolutions(SolveContext& ctx, bool& noSolutionFound);
 
 // The workbench's uniqueness answer for Puzzle. True if it has exactly one
