@@ -6,7 +6,7 @@
 #include "hints/hint_kinds.h"
 #include "hints/hint_search.h"
 #include "hints/schrijf_hint.h"
-#include "hints/special_hint.h"
+#include "hints/no_marks_hint.h"
 
 namespace tavi {
 

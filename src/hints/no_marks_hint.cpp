@@ -1,4 +1,4 @@
-#include "hints/special_hint.h"
+#include "hints/no_marks_hint.h"
 
 #include "grid/candidates.h"
 #include "solver/techniques.h"
