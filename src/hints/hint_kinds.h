@@ -77,6 +77,26 @@ inline constexpr std::array<HintKindInfo, kHintKindCount + 1> kHintKinds = {{
     {{"MultiFish"}, {"MultiFish with candidates "}},
 }};
 
+// The families of kinds that share a sentence writer and a painter.
+enum class HintFamily { None, Basic, Fish, Pattern, Chain, Set };
+
+constexpr HintFamily FamilyOf(int kind) {
+    switch (kind) {
+        case 1: case 2: case 3: case 4: case 5: case 20: case 24:
+            return HintFamily::Basic;
+        case 6: case 7: case 8: case 9: case 13: case 15: case 25: case 26:
+            return HintFamily::Fish;
+        case 10: case 11: case 14: case 16: case 17: case 27: case 29: case 30:
+            return HintFamily::Pattern;
+        case 12: case 18: case 19: case 21: case 22: case 23: case 28: case 31:
+            return HintFamily::Chain;
+        case 32: case 33: case 34: case 35: case 36: case 37:
+            return HintFamily::Set;
+        default:
+            return HintFamily::None;
+    }
+}
+
 inline constexpr std::string_view kHintCaptionPrefix = "Hint - ";
 // The caption of the hint window whenever it shows anything but a fresh hint.
 inline constexpr std::string_view kMainDuplicateCaption = "Main Duplicate";

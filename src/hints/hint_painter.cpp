@@ -1,6 +1,7 @@
 #include "hints/hint_paint.h"
 
 #include "grid/tables.h"
+#include "hints/hint_kinds.h"
 #include "hints/paints.h"
 
 namespace tavi {
@@ -51,52 +52,17 @@ void HintPainter::ZetAttackedCell(int cell, int digit) {
 }
 
 std::vector<HintPaint> PaintHint(const HintRecord& hint, const Board& board) {
-    if (hint.HintKind < 1 || hint.HintKind > 37) return {};
+    const HintFamily family = FamilyOf(hint.HintKind);
+    if (family == HintFamily::None) return {};
     HintPainter p(board);
     p.WisKleuren();
-    switch (hint.HintKind) {
-        case 1:
-        case 2:
-        case 3:
-        case 4:
-        case 5:
-        case 20:
-        case 24:
-            hints::PaintBasic(p, hint);
-            break;
-        case 6:
-        case 7:
-        case 8:
-        case 9:
-        case 13:
-        case 15:
-        case 25:
-        case 26:
-            hints::PaintFish(p, hint);
-            break;
-        case 10:
-        case 11:
-        case 14:
-        case 16:
-        case 17:
-        case 27:
-        case 29:
-        case 30:
-            hints::PaintPattern(p, hint);
-            break;
-        case 12:
-        case 18:
-        case 19:
-        case 21:
-        case 22:
-        case 23:
-        case 28:
-        case 31:
-            hints::PaintChain(p, hint);
-            break;
-        default:
-            hints::PaintSet(p, hint);
-            break;
+    switch (family) {
+        case HintFamily::Basic: hints::PaintBasic(p, hint); break;
+        case HintFamily::Fish: hints::PaintFish(p, hint); break;
+        case HintFamily::Pattern: hints::PaintPattern(p, hint); break;
+        case HintFamily::Chain: hints::PaintChain(p, hint); break;
+        case HintFamily::Set: hints::PaintSet(p, hint); break;
+        case HintFamily::None: break;
     }
     return p.paints();
 }
