@@ -40,7 +40,9 @@ void BM_HintPress(benchmark::State& state) {
             ctx.board = b;
             const auto start = std::chrono::steady_clock::now();
             benchmark::DoNotOptimize(FindHint(ctx, tables));
-            ms.push_back(std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start).count());
+            ms.push_back(
+                std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start)
+                    .count());
         }
     }
     std::sort(ms.begin(), ms.end());

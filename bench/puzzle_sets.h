@@ -27,7 +27,8 @@ inline std::vector<Digits> ReadPuzzleFile(const std::string& name, size_t limit 
 inline std::vector<GeneratedPuzzle> Generated(int count, std::uint64_t seed = 99) {
     PuzzleGenerator g(seed);
     std::vector<GeneratedPuzzle> out;
-    for (int i = 0; i < count; ++i) out.push_back(g.Next());
+    for (int i = 0; i < count; ++i)
+        out.push_back(g.Next());
     return out;
 }
 

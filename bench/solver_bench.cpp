@@ -107,7 +107,8 @@ BENCHMARK(BM_BruteForceForumHardest);
 
 void BM_GenerateMinimal(benchmark::State& state) {
     PuzzleGenerator g(1);
-    for (auto _ : state) benchmark::DoNotOptimize(g.Next());
+    for (auto _ : state)
+        benchmark::DoNotOptimize(g.Next());
     state.SetItemsProcessed(state.iterations());
 }
 BENCHMARK(BM_GenerateMinimal);
@@ -120,7 +121,8 @@ namespace {
 
 void CountAll(benchmark::State& state, const std::vector<Digits>& puzzles) {
     size_t i = 0;
-    for (auto _ : state) benchmark::DoNotOptimize(CountSolutions(puzzles[i++ % puzzles.size()], 2));
+    for (auto _ : state)
+        benchmark::DoNotOptimize(CountSolutions(puzzles[i++ % puzzles.size()], 2));
     state.SetItemsProcessed(state.iterations());
 }
 void BM_CountSolutions17Clue(benchmark::State& state) {

@@ -49,7 +49,8 @@ void Append(Samples& to, const Samples& more) { to.insert(to.end(), more.begin()
 void Mix(Samples& into, const Samples& more, double at) {
     const std::size_t start = std::size_t(at * kRate);
     if (into.size() < start + more.size()) into.resize(start + more.size(), 0.0);
-    for (std::size_t i = 0; i < more.size(); ++i) into[start + i] += more[i];
+    for (std::size_t i = 0; i < more.size(); ++i)
+        into[start + i] += more[i];
 }
 
 Samples Applause() {
@@ -68,18 +69,27 @@ Samples Applause() {
 
 Samples Blaster() {
     Noise noise;
-    Samples s = Tone(0.45, [](double t) { return 1400 * std::pow(0.12, t); },
-                     [](double t) { return 0.7 * Decay(t, 3); }, true);
-    for (std::size_t i = 0; i < s.size(); ++i) s[i] += 0.25 * noise.Next() * Decay(double(i) / s.size(), 8);
+    Samples s = Tone(
+        0.45, [](double t) { return 1400 * std::pow(0.12, t); },
+        [](double t) { return 0.7 * Decay(t, 3); }, true);
+    for (std::size_t i = 0; i < s.size(); ++i)
+        s[i] += 0.25 * noise.Next() * Decay(double(i) / s.size(), 8);
     return s;
 }
 
 Samples CashRegister() {
     Noise noise;
     Samples s;
-    for (std::size_t i = 0; i < 700; ++i) s.push_back(noise.Next() * 0.5 * Decay(i / 700.0, 5));
-    Mix(s, Tone(0.5, [](double) { return 2093.0; }, [](double t) { return 0.45 * Pluck(t); }), 0.05);
-    Mix(s, Tone(0.5, [](double) { return 2637.0; }, [](double t) { return 0.35 * Pluck(t); }), 0.08);
+    for (std::size_t i = 0; i < 700; ++i)
+        s.push_back(noise.Next() * 0.5 * Decay(i / 700.0, 5));
+    Mix(s,
+        Tone(
+            0.5, [](double) { return 2093.0; }, [](double t) { return 0.45 * Pluck(t); }),
+        0.05);
+    Mix(s,
+        Tone(
+            0.5, [](double) { return 2637.0; }, [](double t) { return 0.35 * Pluck(t); }),
+        0.08);
     return s;
 }
 
@@ -87,22 +97,25 @@ Samples Giggle() {
     Samples s;
     for (int i = 0; i < 6; ++i) {
         const double base = 700 + 60 * i;
-        Append(s, Tone(0.07, [=](double t) { return base + 500 * t; },
-                       [](double t) { return 0.5 * std::sin(kPi * t); }));
+        Append(s, Tone(
+                      0.07, [=](double t) { return base + 500 * t; },
+                      [](double t) { return 0.5 * std::sin(kPi * t); }));
         Append(s, Silence(0.03));
     }
     return s;
 }
 
 Samples Boink() {
-    return Tone(0.35, [](double t) { return 320 * std::pow(0.4, t) * (1 + 0.08 * std::sin(60 * t)); },
-                [](double t) { return 0.7 * Pluck(t); });
+    return Tone(
+        0.35, [](double t) { return 320 * std::pow(0.4, t) * (1 + 0.08 * std::sin(60 * t)); },
+        [](double t) { return 0.7 * Pluck(t); });
 }
 
 bool WriteWav(const std::string& path, const Samples& samples) {
     std::ofstream out(path, std::ios::binary);
     auto u32 = [&](std::uint32_t v) {
-        for (int i = 0; i < 4; ++i) out.put(char(v >> (8 * i) & 0xFF));
+        for (int i = 0; i < 4; ++i)
+            out.put(char(v >> (8 * i) & 0xFF));
     };
     auto u16 = [&](std::uint16_t v) {
         out.put(char(v & 0xFF));
@@ -137,21 +150,24 @@ int main(int argc, char** argv) {
     }
     const std::string folder = argv[1];
     auto beep = [](double hz, double seconds) {
-        return Tone(seconds, [=](double) { return hz; },
-                    [](double t) { return 0.5 * std::min(1.0, t * 30) * Decay(t, 4); });
+        return Tone(
+            seconds, [=](double) { return hz; },
+            [](double t) { return 0.5 * std::min(1.0, t * 30) * Decay(t, 4); });
     };
     const std::pair<const char*, Samples> sounds[] = {
         {"applause.wav", Applause()},
-        {"Patch54p.wav", Tone(0.12, [](double t) { return 900 - 400 * t; },
-                              [](double t) { return 0.45 * Decay(t, 5); })},
+        {"Patch54p.wav", Tone(
+                             0.12, [](double t) { return 900 - 400 * t; },
+                             [](double t) { return 0.45 * Decay(t, 5); })},
         {"Beep2.wav", beep(880, 0.09)},
         {"Boink4.wav", Boink()},
         {"Blaster_1.wav", Blaster()},
         {"Beep5.wav", beep(660, 0.07)},
         {"Beep1.wav", beep(520, 0.07)},
         {"Cashreg.wav", CashRegister()},
-        {"Error.wav", Tone(0.28, [](double) { return 180.0; },
-                           [](double t) { return 0.5 * (t < 0.9 ? 1.0 : (1 - t) * 10); }, true)},
+        {"Error.wav", Tone(
+                          0.28, [](double) { return 180.0; },
+                          [](double t) { return 0.5 * (t < 0.9 ? 1.0 : (1 - t) * 10); }, true)},
         {"Giggle.wav", Giggle()},
     };
     for (const auto& [name, samples] : sounds) {

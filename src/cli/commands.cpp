@@ -70,8 +70,11 @@ int Solve(std::istream& in, std::ostream& out, std::ostream& err) {
         ctx.board.Puzzle = p.digits;
         bool contradiction = false;
         const int found = BruteForceSolutions(ctx, contradiction);
-        out << p.text << '\t' << (found == 0 ? "none" : found == 1 ? "unique" : "multiple") << '\t'
-            << (found == 1 ? FormatDigits(ctx.board.CurrentGrid) : "-") << '\n';
+        out << p.text << '\t'
+            << (found == 0   ? "none"
+                : found == 1 ? "unique"
+                             : "multiple")
+            << '\t' << (found == 1 ? FormatDigits(ctx.board.CurrentGrid) : "-") << '\n';
     });
     return bad ? 1 : 0;
 }
@@ -116,7 +119,8 @@ int Signature(std::istream& in, std::ostream& out, std::ostream& err) {
         const int level = RatePuzzle(ctx, p.digits, run);
         ctx.trace = nullptr;
         int placed = 0;
-        for (const BoardChange& c : changes) placed += c.kind == BoardChange::Placed;
+        for (const BoardChange& c : changes)
+            placed += c.kind == BoardChange::Placed;
         out << p.text << '\t' << level << '\t' << steps << '\t' << placed << '\t'
             << changes.size() - placed << '\n';
     });
@@ -130,8 +134,8 @@ int Hint(std::istream& in, std::ostream& out, std::ostream& err, bool paint) {
         ctx.board = BoardFromPuzzle(p.digits);
         const bool clash = GivensClash(p.digits);
         const Rung* hit = clash ? nullptr : FindHint(ctx, defaults);
-        out << p.text << '\t' << (hit ? SchrijfHint(ctx.hint, ctx.board) : std::string(kNoLogicalHints))
-            << '\n';
+        out << p.text << '\t'
+            << (hit ? SchrijfHint(ctx.hint, ctx.board) : std::string(kNoLogicalHints)) << '\n';
         if (paint && hit)
             for (const HintPaint& each : PaintHint(ctx.hint, ctx.board))
                 out << '\t' << DescribePaint(each) << '\n';

@@ -15,9 +15,9 @@
 
 #include "game/library_position.h"
 #include "game/platform.h"
-#include "hints/hint_paint.h"
 #include "grid/library_files.h"
 #include "grid/records.h"
+#include "hints/hint_paint.h"
 #include "settings/options.h"
 #include "settings/settings_store.h"
 #include "solver/solve_context.h"
@@ -26,16 +26,16 @@ namespace tavi {
 
 // Sound ids of the game.
 enum Sound : int {
-    kSoundSolved = 0,      // "applause.wav"
-    kSoundMarkRemoved = 1, // "Patch54p.wav"
-    kSoundPlaced = 2,      // "Beep2.wav"
-    kSoundResetCell = 3,   // "Boink4.wav"
-    kSoundSolution = 4,    // "Blaster_1.wav"
-    kSoundHeader = 5,      // "Beep5.wav"
-    kSoundUndoRedo = 6,    // "Beep1.wav"
-    kSoundPenalty = 7,     // "Cashreg.wav"
-    kSoundWrongNumber = 8, // "Error.wav"
-    kSoundStillMarked = 9, // "Giggle.wav"
+    kSoundSolved = 0,       // "applause.wav"
+    kSoundMarkRemoved = 1,  // "Patch54p.wav"
+    kSoundPlaced = 2,       // "Beep2.wav"
+    kSoundResetCell = 3,    // "Boink4.wav"
+    kSoundSolution = 4,     // "Blaster_1.wav"
+    kSoundHeader = 5,       // "Beep5.wav"
+    kSoundUndoRedo = 6,     // "Beep1.wav"
+    kSoundPenalty = 7,      // "Cashreg.wav"
+    kSoundWrongNumber = 8,  // "Error.wav"
+    kSoundStillMarked = 9,  // "Giggle.wav"
 };
 
 enum class MouseButton { Left, Right, Middle };
@@ -93,7 +93,7 @@ inline constexpr Color kClueColor = 0x00800000;  // dark blue
 inline constexpr Color kDimmedMarkColor = 0x00D0D010;
 
 class Game : private MoveListener {
-public:
+  public:
     Game(GameServices services, LibraryFolders folders, Options& options);
     Game(const Game&) = delete;  // the solver context points back at the game
     Game& operator=(const Game&) = delete;
@@ -119,7 +119,7 @@ public:
     void RowHeaderUp(int row, MouseButton button, bool inside);
     void ColumnHeaderUp(int column, MouseButton button, bool inside);
     void DigitButtonUp(int digit, MouseButton button, bool inside);  // Command1: digit filter
-    void PaletteUp(int index, MouseButton button, bool inside);       // LabelColor
+    void PaletteUp(int index, MouseButton button, bool inside);      // LabelColor
     void CommandResetCell();
     // Shows the marks of `digit` again over the whole board (filter "On").
     void ToonPencilmarks(int digit);
@@ -169,9 +169,9 @@ public:
     // --- Clock and wells ----------------------------------------------------
     // Puts `seconds` on the running clock at once (a hint's price).
     void Penalty(int seconds);
-    void Tick();              // the timer
-    void WindowMinimised();   // pause
-    void WindowRestored();    // go on
+    void Tick();             // the timer
+    void WindowMinimised();  // pause
+    void WindowRestored();   // go on
     void SetupWells();
 
     // --- State for the window -----------------------------------------------
@@ -191,7 +191,9 @@ public:
         return !(position_.ChosenLevel < 4 && options_.PencilmarksOff);
     }
     std::optional<Color> CellPaint(int cell) const { return cellPaint_[cell]; }
-    std::optional<Color> MarkPaint(int digit, int cell) const { return markPaint_[cell][digit - 1]; }
+    std::optional<Color> MarkPaint(int digit, int cell) const {
+        return markPaint_[cell][digit - 1];
+    }
     bool MarkDimmed(int digit, int cell) const {
         return options_.Dimmed && HoverCell != (digit - 1) * 81 + cell;
     }
@@ -226,7 +228,7 @@ public:
     // keep "Busy" for a game still in progress on disk, write the position.
     void CloseGameRecord();
 
-private:
+  private:
     // MoveListener: the solver's placements and removals become steps.
     void ZetAuto(Board& board, int digit, int cell) override;
     void CandidateRemoved(int digit, int cell) override;

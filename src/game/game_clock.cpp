@@ -59,7 +59,8 @@ void Game::WindowRestored() {
 }
 
 void Game::SetupWells() {
-    for (auto& digit : wells_) digit.fill(false);
+    for (auto& digit : wells_)
+        digit.fill(false);
     for (int c = 0; c < 81; ++c)
         if (const int d = ctx_.board.CurrentGrid[c]) wells_[d][Global::BoxOfCell[c]] = true;
 }

@@ -5,8 +5,8 @@
 #include "grid/candidates.h"
 #include "hints/hint_kinds.h"
 #include "hints/hint_search.h"
-#include "hints/schrijf_hint.h"
 #include "hints/no_marks_hint.h"
+#include "hints/schrijf_hint.h"
 
 namespace tavi {
 
@@ -33,7 +33,8 @@ void Game::ApplyPaints(const std::vector<HintPaint>& paints) {
 
 bool Game::HiddenMarksShownFor(std::string_view question) {
     bool hidden = false;
-    for (int d = 1; d <= 9; ++d) hidden |= !filterOn_[d];
+    for (int d = 1; d <= 9; ++d)
+        hidden |= !filterOn_[d];
     if (!hidden) return true;
     if (services_.prompter.Ask("Hidden pencilmarks detected", question, Buttons::YesNo,
                                Icon::Question) != Answer::Yes)
@@ -99,7 +100,8 @@ bool Game::ReportStillMarked(bool penalty) {
         painter.ZetHintBlok(Global::BoxLeftTopOfCell[c], kPatternCell);
         painter.ZetHintVak(c, kAttackingCell);
         painter.ZetHintNummer(c, d, kAttackingCandidates);
-        for (int peer : Peers[c]) painter.ZetAttackedCell(peer, d);
+        for (int peer : Peers[c])
+            painter.ZetAttackedCell(peer, d);
         ApplyPaints(painter.paints());
         hintWindowCaption_ = kMainDuplicateCaption;
         if (penalty) Penalty(20);
@@ -249,15 +251,16 @@ void Game::CommandScan() {
     const int level = position_.ChosenLevel;
     const auto file = PuzzleFile(folders_.DataFolder, LevelStem(level));
     if (!FileExists(file)) {
-        services_.prompter.Message("File Error", "Source file: " + file.filename().string() +
-                                                     " not found!");
+        services_.prompter.Message("File Error",
+                                   "Source file: " + file.filename().string() + " not found!");
         return;
     }
     const long count = WholeRecords(file, kSudokuRecordSize);
     auto ask = [&](const std::string& title, long low, std::string_view def) -> long {
         while (true) {
             const auto answer = services_.prompter.Input(
-                title, "Enter a value between " + std::to_string(low) + " and " + std::to_string(count),
+                title,
+                "Enter a value between " + std::to_string(low) + " and " + std::to_string(count),
                 def);
             if (!answer || answer->empty()) return 0;
             const long n = std::atol(answer->c_str());

@@ -28,10 +28,13 @@ void Game::TakePeerMarks(int digit, int cell, MoveStep& step) {
         field |= 1 << index;
     };
     const int row = cell / 9, col = cell % 9, leftTop = Global::BoxLeftTopOfCell[cell];
-    for (int i = 0; i < 9; ++i) take(col + 9 * i, step.LogColumnMarks, i);
-    for (int i = 0; i < 9; ++i) take(9 * row + i, step.LogRowMarks, i);
+    for (int i = 0; i < 9; ++i)
+        take(col + 9 * i, step.LogColumnMarks, i);
+    for (int i = 0; i < 9; ++i)
+        take(9 * row + i, step.LogRowMarks, i);
     for (int x = 0; x < 3; ++x)
-        for (int y = 0; y < 3; ++y) take(leftTop + 9 * y + x, step.LogBoxMarks, y + 3 * x);
+        for (int y = 0; y < 3; ++y)
+            take(leftTop + 9 * y + x, step.LogBoxMarks, y + 3 * x);
 }
 
 bool Game::BoardSolved() const {
@@ -129,7 +132,8 @@ void Game::RowHeaderUp(int row, MouseButton button, bool inside) {
     if (brush_.BrushActive) {
         const bool left = button == MouseButton::Left;
         if (button != MouseButton::Middle && (left ? brush_.LeftCellBrush : brush_.RightCellBrush))
-            for (int i = 0; i < 9; ++i) SetCellPaint(9 * row + i, left ? brush_.LeftColor : brush_.RightColor);
+            for (int i = 0; i < 9; ++i)
+                SetCellPaint(9 * row + i, left ? brush_.LeftColor : brush_.RightColor);
         return;
     }
     if (button != MouseButton::Left) return;
@@ -168,9 +172,11 @@ void Game::DigitButtonUp(int digit, MouseButton button, bool inside) {
         if (left ? brush_.LeftCellBrush : brush_.RightCellBrush) {
             // The button read as a box: the boxes are numbered from the first button.
             const int leftTop = Global::BoxLeftTop[digit - 1];
-            for (int p = 0; p < 9; ++p) SetCellPaint(leftTop + 9 * (p / 3) + p % 3, color);
+            for (int p = 0; p < 9; ++p)
+                SetCellPaint(leftTop + 9 * (p / 3) + p % 3, color);
         } else if (filterOn_[digit]) {
-            for (int c = 0; c < 81; ++c) markPaint_[c][digit - 1] = color;
+            for (int c = 0; c < 81; ++c)
+                markPaint_[c][digit - 1] = color;
         }
         return;
     }
@@ -183,7 +189,8 @@ void Game::DigitButtonUp(int digit, MouseButton button, bool inside) {
 
 void Game::ToonPencilmarks(int digit) {
     filterOn_[digit] = true;
-    for (int c = 0; c < 81; ++c) markPaint_[c][digit - 1].reset();
+    for (int c = 0; c < 81; ++c)
+        markPaint_[c][digit - 1].reset();
 }
 
 void Game::PaletteUp(int index, MouseButton button, bool inside) {
@@ -241,13 +248,15 @@ void Game::CommandResetCell() {
 
 void Game::WisKleuren() {
     cellPaint_.fill(std::nullopt);
-    for (auto& marks : markPaint_) marks.fill(std::nullopt);
+    for (auto& marks : markPaint_)
+        marks.fill(std::nullopt);
 }
 
 void Game::ToggleCellPaint(int cell, Color color) {
     const bool had = cellPaint_[cell] == color;
     cellPaint_[cell] = had ? std::nullopt : std::optional<Color>(color);
-    for (auto& mark : markPaint_[cell]) mark = cellPaint_[cell];
+    for (auto& mark : markPaint_[cell])
+        mark = cellPaint_[cell];
 }
 
 void Game::SetCellPaint(int cell, Color color) { cellPaint_[cell] = color; }

@@ -9,7 +9,8 @@ void Game::RebuildMarks() {
         if (ctx_.board.CurrentGrid[c]) continue;
         CandidateMask m = kAllCandidates;
         for (int peer : Peers[c])
-            if (ctx_.board.CurrentGrid[peer]) m &= CandidateMask(~DigitBit(ctx_.board.CurrentGrid[peer]));
+            if (ctx_.board.CurrentGrid[peer])
+                m &= CandidateMask(~DigitBit(ctx_.board.CurrentGrid[peer]));
         ctx_.board.Candidates[c] = m;
     }
 }

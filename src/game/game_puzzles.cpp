@@ -23,7 +23,8 @@ std::string TwoDigits(int n) {
 // The number at the head of an answer: its leading digits; 0 when there are none.
 long LeadingNumber(std::string_view text) {
     size_t i = 0;
-    while (i < text.size() && text[i] == ' ') ++i;
+    while (i < text.size() && text[i] == ' ')
+        ++i;
     long n = 0;
     const auto [end, ec] = std::from_chars(text.data() + i, text.data() + text.size(), n);
     (void)end;
@@ -67,8 +68,8 @@ void Game::CommandOpen() {
     ResetHintStage();
     LeaveBoard();
     const int level = position_.ChosenLevel;
-    const long count = WholeRecords(PuzzleFile(folders_.DataFolder, LevelStem(level)),
-                                    kSudokuRecordSize);
+    const long count =
+        WholeRecords(PuzzleFile(folders_.DataFolder, LevelStem(level)), kSudokuRecordSize);
     if (count < 1) {
         services_.prompter.Beep();
         services_.prompter.Ask("Can't open sudoko",
@@ -110,7 +111,8 @@ void Game::LoadPuzzle(bool askToGoOn) {
     sudTekst_ = FormatDigits(sudoku_.Puzzle, '0');
 
     bool goOn = false;
-    for (int c = 0; c < 81 && !goOn; ++c) goOn = sudoku_.Puzzle[c] == 0 && logRecord_.Grid[c] > 0;
+    for (int c = 0; c < 81 && !goOn; ++c)
+        goOn = sudoku_.Puzzle[c] == 0 && logRecord_.Grid[c] > 0;
     if (goOn && askToGoOn)
         goOn = services_.prompter.Ask("Puzzle in progress",
                                       "Puzzle is already worked on. Carry on from its present "
@@ -135,9 +137,9 @@ void Game::RestoreProgress() {
     position_.CurrentStep = steps;
     log_.assign(steps, {});
     for (int i = 0; i < steps; ++i)
-        log_[i] = {logRecord_.LogDigit[i],      logRecord_.LogCell[i],
-                   logRecord_.LogOwnMarks[i],   logRecord_.LogColumnMarks[i],
-                   logRecord_.LogRowMarks[i],   logRecord_.LogBoxMarks[i]};
+        log_[i] = {logRecord_.LogDigit[i],    logRecord_.LogCell[i],
+                   logRecord_.LogOwnMarks[i], logRecord_.LogColumnMarks[i],
+                   logRecord_.LogRowMarks[i], logRecord_.LogBoxMarks[i]};
     ShowStepCount();
     for (int c = 0; c < 81; ++c) {
         const int d = logRecord_.Grid[c] <= 9 ? logRecord_.Grid[c] : 0;
@@ -200,7 +202,8 @@ bool Game::OpenLastSudoku() {
     if (SudokuCount(PuzzleFile(folders_.DataFolder, LevelStem(level))) <= 0) return false;
     SudokuRecord sudoku;
     SudokuLogRecord log;
-    if (!ReadPair(folders_.DataFolder, LevelStem(level), number, sudoku, log, nullptr)) return false;
+    if (!ReadPair(folders_.DataFolder, LevelStem(level), number, sudoku, log, nullptr))
+        return false;
     if (log.StepCount == 0) return false;
     sudoku_ = sudoku;
     logRecord_ = log;

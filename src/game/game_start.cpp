@@ -135,8 +135,8 @@ bool Game::CommandExit() {
         if (!plainYes()) return false;
         CommandSave();
     } else if (options_.AskSave) {
-        const Answer a = ask.Ask(kInProgressTitle, kSaveQuestion, Buttons::YesNoCancel,
-                                 Icon::Question);
+        const Answer a =
+            ask.Ask(kInProgressTitle, kSaveQuestion, Buttons::YesNoCancel, Icon::Question);
         if (a == Answer::Cancel) return false;
         if (a == Answer::Yes)
             CommandSave();
@@ -157,8 +157,8 @@ bool Game::QueryUnload() {
         return ask.Ask(kQuitTitle, kQuitText, Buttons::YesNo, Icon::Question) == Answer::Yes;
     };
     auto saveOrDiscard = [&]() -> bool {
-        const Answer a = ask.Ask(kInProgressTitle, kSaveQuestion, Buttons::YesNoCancel,
-                                 Icon::Question);
+        const Answer a =
+            ask.Ask(kInProgressTitle, kSaveQuestion, Buttons::YesNoCancel, Icon::Question);
         if (a == Answer::Cancel) return false;
         if (a == Answer::Yes) {
             CommandSave();

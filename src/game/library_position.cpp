@@ -10,9 +10,7 @@ namespace tavi {
 
 namespace {
 
-std::string LevelSection(int level) {
-    return "SudokuLevel" + std::to_string(level);
-}
+std::string LevelSection(int level) { return "SudokuLevel" + std::to_string(level); }
 
 // Record numbers are 16-bit in the store; anything else is no number.
 int ReadRecordNumber(const SettingsStore& store, int level) {

@@ -18,7 +18,7 @@ enum class Icon { None, Information, Exclamation, Question, Critical };
 // Message boxes and the input box. A message box with only OK is Notifier's
 // Message, so the core's routines can speak through the same object.
 class Prompter : public Notifier {
-public:
+  public:
     virtual Answer Ask(std::string_view title, std::string_view text, Buttons buttons,
                        Icon icon = Icon::None) = 0;
     // Nothing when the user cancels.
@@ -32,7 +32,7 @@ public:
 
 // The ten sounds of the game, by id; see Speel.
 class SoundPlayer {
-public:
+  public:
     virtual ~SoundPlayer() = default;
     virtual bool Available() const = 0;
     virtual void Play(int id) = 0;
@@ -40,14 +40,14 @@ public:
 
 // The time of day, as the clock reads it.
 class TimeSource {
-public:
+  public:
     virtual ~TimeSource() = default;
     virtual int SecondOfDay() const = 0;  // 0..86399
 };
 
 // Opens a page or a file with the system's default handler.
 class PageOpener {
-public:
+  public:
     virtual ~PageOpener() = default;
     virtual bool Open(const std::string& url) = 0;
 };

@@ -4,13 +4,15 @@ namespace tavi {
 
 int Board::EmptyCount() const {
     int n = 0;
-    for (auto d : CurrentGrid) n += d == 0;
+    for (auto d : CurrentGrid)
+        n += d == 0;
     return n;
 }
 
 std::optional<Digits> ParseDigits(std::string_view line, std::string* error) {
     if (line.size() < 81) {
-        if (error) *error = "a puzzle needs 81 characters, this line has " + std::to_string(line.size());
+        if (error)
+            *error = "a puzzle needs 81 characters, this line has " + std::to_string(line.size());
         return std::nullopt;
     }
     Digits d{};
@@ -23,8 +25,9 @@ std::optional<Digits> ParseDigits(std::string_view line, std::string* error) {
         } else {
             if (error) {
                 const bool printable = ch >= 32 && ch < 127;
-                *error = "bad character " + (printable ? "'" + std::string(1, ch) + "'"
-                                                       : "code " + std::to_string(int((unsigned char)ch))) +
+                *error = "bad character " +
+                         (printable ? "'" + std::string(1, ch) + "'"
+                                    : "code " + std::to_string(int((unsigned char)ch))) +
                          " at position " + std::to_string(i + 1);
             }
             return std::nullopt;

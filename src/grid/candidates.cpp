@@ -5,20 +5,23 @@ namespace tavi {
 void Zet(Board& board, int digit, int cell) {
     const CandidateMask keep = CandidateMask(~DigitBit(digit));
     board.Candidates[cell] = 0;
-    for (int peer : Peers[cell]) board.Candidates[peer] &= keep;
+    for (int peer : Peers[cell])
+        board.Candidates[peer] &= keep;
 }
 
 bool EmptyCell(const Board& board) {
     // Runs before every rung of every pass: one sweep without branches.
     bool empty = false;
-    for (int c = 0; c < 81; ++c) empty |= (board.CurrentGrid[c] == 0) & (board.Candidates[c] == 0);
+    for (int c = 0; c < 81; ++c)
+        empty |= (board.CurrentGrid[c] == 0) & (board.Candidates[c] == 0);
     return empty;
 }
 
 bool Exclusief(const Board& board, const int (&set)[5], int count, int cell) {
     if (count < 2 || count > 5) return true;
     CandidateMask allowed = 0;
-    for (int i = 0; i < count; ++i) allowed |= DigitBit(set[i]);
+    for (int i = 0; i < count; ++i)
+        allowed |= DigitBit(set[i]);
     return (board.Candidates[cell] & ~allowed) == 0;
 }
 

@@ -14,9 +14,7 @@ inline constexpr int kOutlaw = 9;  // what a puzzle gets when the ladder fails
 inline constexpr std::array<std::string_view, 10> kLevelNames = {
     "", "Easy", "Medium", "Hard", "Crazy", "Insane", "Kamikaze", "Extreme", "Mayhem", "Outlaw"};
 
-constexpr bool IsLevel(int level) {
-    return level >= 1 && level <= kLevelCount;
-}
+constexpr bool IsLevel(int level) { return level >= 1 && level <= kLevelCount; }
 
 constexpr std::string_view LevelName(int level) {
     return IsLevel(level) ? kLevelNames[level] : std::string_view{};
@@ -42,11 +40,7 @@ constexpr std::string_view LevelStem(int level) {
     return IsLevel(level) ? kLevelStems[level] : std::string_view{};
 }
 
-inline std::string PuzzleFileName(std::string_view stem) {
-    return std::string(stem) + "s";
-}
-inline std::string LogFileName(std::string_view stem) {
-    return std::string(stem) + "l";
-}
+inline std::string PuzzleFileName(std::string_view stem) { return std::string(stem) + "s"; }
+inline std::string LogFileName(std::string_view stem) { return std::string(stem) + "l"; }
 
 }  // namespace tavi

@@ -13,9 +13,7 @@ void Say(std::string* why, std::string text) {
     if (why) *why = std::move(text);
 }
 
-std::string Name(const fs::path& file) {
-    return file.filename().string();
-}
+std::string Name(const fs::path& file) { return file.filename().string(); }
 
 std::optional<std::uintmax_t> LengthOf(const fs::path& file) {
     std::error_code ec;

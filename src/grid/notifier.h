@@ -7,7 +7,7 @@
 namespace tavi {
 
 class Notifier {
-public:
+  public:
     virtual ~Notifier() = default;
     virtual void Beep() = 0;
     virtual void Message(std::string_view title, std::string_view text) = 0;

@@ -27,14 +27,16 @@ namespace detail {
 template <int N, typename F>
 constexpr std::array<std::int16_t, N> Fill(F f) {
     std::array<std::int16_t, N> a{};
-    for (int i = 0; i < N; ++i) a[i] = std::int16_t(f(i));
+    for (int i = 0; i < N; ++i)
+        a[i] = std::int16_t(f(i));
     return a;
 }
 template <typename F>
 constexpr std::array<std::array<std::int16_t, 9>, 9> Fill9x9(F f) {
     std::array<std::array<std::int16_t, 9>, 9> a{};
     for (int i = 0; i < 9; ++i)
-        for (int j = 0; j < 9; ++j) a[i][j] = std::int16_t(f(i, j));
+        for (int j = 0; j < 9; ++j)
+            a[i][j] = std::int16_t(f(i, j));
     return a;
 }
 }  // namespace detail
@@ -44,7 +46,8 @@ inline constexpr auto RowLetter = detail::Fill<9>([](int r) { return 'A' + r + (
 
 inline constexpr auto RowOfCell = detail::Fill<81>([](int c) { return c / 9; });
 inline constexpr auto ColumnOfCell = detail::Fill<81>([](int c) { return c % 9; });
-inline constexpr auto BoxOfCell = detail::Fill<81>([](int c) { return 3 * (c / 27) + (c % 9) / 3; });
+inline constexpr auto BoxOfCell =
+    detail::Fill<81>([](int c) { return 3 * (c / 27) + (c % 9) / 3; });
 inline constexpr auto BoxLeftTopOfCell =
     detail::Fill<81>([](int c) { return 27 * (c / 27) + 3 * ((c % 9) / 3); });
 inline constexpr auto PositionInBoxOfCell =
@@ -56,38 +59,38 @@ inline constexpr auto BoxOfRowColumn =
 inline constexpr auto BoxLeftTopOfRowColumn =
     detail::Fill9x9([](int r, int c) { return 27 * (r / 3) + 3 * (c / 3); });
 
-inline constexpr auto BoxLeftTop = detail::Fill<9>([](int b) { return 27 * (b / 3) + 3 * (b % 3); });
+inline constexpr auto BoxLeftTop =
+    detail::Fill<9>([](int b) { return 27 * (b / 3) + 3 * (b % 3); });
 inline constexpr auto BoxFirstRow = detail::Fill<9>([](int b) { return 3 * (b / 3); });
 inline constexpr auto BoxFirstColumn = detail::Fill<9>([](int b) { return 3 * (b % 3); });
 
 // Indexed by a top left cell; entries that are no top left cell stay 0.
-inline constexpr auto BoxOfLeftTop = detail::Fill<61>([](int lt) {
-    return (lt % 3 == 0 && (lt / 9) % 3 == 0) ? 3 * (lt / 27) + (lt % 9) / 3 : 0;
-});
-inline constexpr auto FirstRowOfLeftTop = detail::Fill<61>([](int lt) {
-    return (lt % 3 == 0 && (lt / 9) % 3 == 0) ? lt / 9 : 0;
-});
-inline constexpr auto FirstColumnOfLeftTop = detail::Fill<61>([](int lt) {
-    return (lt % 3 == 0 && (lt / 9) % 3 == 0) ? lt % 9 : 0;
-});
+inline constexpr auto BoxOfLeftTop = detail::Fill<61>(
+    [](int lt) { return (lt % 3 == 0 && (lt / 9) % 3 == 0) ? 3 * (lt / 27) + (lt % 9) / 3 : 0; });
+inline constexpr auto FirstRowOfLeftTop =
+    detail::Fill<61>([](int lt) { return (lt % 3 == 0 && (lt / 9) % 3 == 0) ? lt / 9 : 0; });
+inline constexpr auto FirstColumnOfLeftTop =
+    detail::Fill<61>([](int lt) { return (lt % 3 == 0 && (lt / 9) % 3 == 0) ? lt % 9 : 0; });
 
 inline constexpr auto CandidateCount = detail::Fill<512>([](int mask) {
     int n = 0;
-    for (int rest = mask; rest > 0; rest /= 2) n += rest & 1;
+    for (int rest = mask; rest > 0; rest /= 2)
+        n += rest & 1;
     return n;
 });
 
 // (box, position) -> cell, both in reading order.
-inline constexpr auto CellOfBoxPosition = detail::Fill9x9([](int b, int p) {
-    return 27 * (b / 3) + 3 * (b % 3) + 9 * (p / 3) + p % 3;
-});
+inline constexpr auto CellOfBoxPosition =
+    detail::Fill9x9([](int b, int p) { return 27 * (b / 3) + 3 * (b % 3) + 9 * (p / 3) + p % 3; });
 inline constexpr auto BoxOfCellByBand = BoxOfCell;
 
 }  // namespace Global
 
 // The number of digits in a candidate mask. A table rather than std::popcount,
 // which without a hardware instruction is a library call in the hottest loops.
-constexpr int CountDigits(CandidateMask mask) { return Global::CandidateCount[mask & kAllCandidates]; }
+constexpr int CountDigits(CandidateMask mask) {
+    return Global::CandidateCount[mask & kAllCandidates];
+}
 
 // The 27 units: rows 0..8, columns 9..17, boxes 18..26, each with its cells in
 // unit order (left to right, top to bottom, reading order inside a box).

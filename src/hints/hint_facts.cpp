@@ -7,9 +7,7 @@ namespace tavi::hints {
 
 namespace {
 
-bool Valid(int cell) {
-    return cell >= 0 && cell < 81;
-}
+bool Valid(int cell) { return cell >= 0 && cell < 81; }
 
 bool Contains(std::span<const int> cells, int cell) {
     return std::find(cells.begin(), cells.end(), cell) != cells.end();
@@ -105,16 +103,11 @@ int ExclusionBoxLeftTop(const HintRecord& hint) {
     int form = hint.HintVariant;
     if (hint.HintKind == 17) form = form == 1 || form == 3 ? 3 : form == 2 || form == 4 ? 4 : 0;
     switch (form) {
-        case 1:
-            return hint.HintColumn;
-        case 2:
-            return hint.HintRow;
-        case 3:
-            return hint.HintRow / 3 * 27 + hint.HintColumn * 3;
-        case 4:
-            return hint.HintRow * 27 + hint.HintColumn / 3 * 3;
-        default:
-            return -1;
+        case 1: return hint.HintColumn;
+        case 2: return hint.HintRow;
+        case 3: return hint.HintRow / 3 * 27 + hint.HintColumn * 3;
+        case 4: return hint.HintRow * 27 + hint.HintColumn / 3 * 3;
+        default: return -1;
     }
 }
 

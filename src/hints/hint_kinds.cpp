@@ -25,10 +25,8 @@ std::string_view HintName(const HintRecord& hint) {
             return names[hint.HintCellCount + 2];
         case 28:
         case 29:
-        case 31:
-            return Pick(names, hint.HintVariant - 1);
-        default:
-            return names[0];
+        case 31: return Pick(names, hint.HintVariant - 1);
+        default: return names[0];
     }
 }
 

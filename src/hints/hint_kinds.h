@@ -81,6 +81,7 @@ inline constexpr std::array<HintKindInfo, kHintKindCount + 1> kHintKinds = {{
 enum class HintFamily { None, Basic, Fish, Pattern, Chain, Set };
 
 constexpr HintFamily FamilyOf(int kind) {
+    // clang-format off
     switch (kind) {
         case 1: case 2: case 3: case 4: case 5: case 20: case 24:
             return HintFamily::Basic;
@@ -95,6 +96,7 @@ constexpr HintFamily FamilyOf(int kind) {
         default:
             return HintFamily::None;
     }
+    // clang-format on
 }
 
 inline constexpr std::string_view kHintCaptionPrefix = "Hint - ";

@@ -8,15 +8,11 @@ namespace tavi {
 
 namespace {
 
-bool ValidCell(int cell) {
-    return cell >= 0 && cell < 81;
-}
+bool ValidCell(int cell) { return cell >= 0 && cell < 81; }
 
 }  // namespace
 
-void HintPainter::WisKleuren() {
-    paints_.push_back({HintPaint::Erase});
-}
+void HintPainter::WisKleuren() { paints_.push_back({HintPaint::Erase}); }
 
 void HintPainter::ZetHintVak(int cell, HintRole role) {
     if (ValidCell(cell)) paints_.push_back({HintPaint::Cell, cell, 0, role});
@@ -77,8 +73,7 @@ std::string_view RoleName(HintRole role) {
 
 std::string DescribePaint(const HintPaint& paint) {
     switch (paint.what) {
-        case HintPaint::Erase:
-            return "erase";
+        case HintPaint::Erase: return "erase";
         case HintPaint::Cell:
             return "cell " + CellName(paint.cell) + " " + std::string(RoleName(paint.role));
         case HintPaint::Digit:

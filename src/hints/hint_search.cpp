@@ -8,18 +8,48 @@ namespace {
 
 // Hint's names, by rung of the ladder table (the six subsets apart).
 constexpr std::string_view kHintNames[] = {
-    "Hidden Single", "Naked Single", "Pointing Pair", "Box Line Reduction", "Naked Pair",
-    "Naked Triple", "Hidden Pair", "Naked Quad", "Hidden Triple", "Naked Quint",
-    "X-Wing",           // 8
-    "Swordfish", "Multi-value X-Wing", "Empty Rectangle", "XY-Wing", "Two-String Kite",
-    "Skyscraper", "XYZ-Wing", "Simple Colors", "Jellyfish", "WXYZ-Wing",
-    "MultiColor",       // 19
-    "Finned X-Wing", "3D Medusa", "Sue-De-Coq", "(Aligned) Pair Exclusion", "Unique Rectangle",
-    "Avoidable Rectangle", "Extended Aligned Pair Exclusion", "Bivalue Universal Grave",
-    "Nice Loops", "Alternating Inference Chains", "XY-Chain", "Aligned Triple Exclusion",
-    "Nice Loops", "Alternating Inference Chains", "ALS-xz", "MultiFish", "Forcing Chain",
-    "Extended Aligned Triple Exclusion", "Alternating Inference Chains",
-    "Bifurcation",      // 39
+    "Hidden Single",
+    "Naked Single",
+    "Pointing Pair",
+    "Box Line Reduction",
+    "Naked Pair",
+    "Naked Triple",
+    "Hidden Pair",
+    "Naked Quad",
+    "Hidden Triple",
+    "Naked Quint",
+    "X-Wing",  // 8
+    "Swordfish",
+    "Multi-value X-Wing",
+    "Empty Rectangle",
+    "XY-Wing",
+    "Two-String Kite",
+    "Skyscraper",
+    "XYZ-Wing",
+    "Simple Colors",
+    "Jellyfish",
+    "WXYZ-Wing",
+    "MultiColor",  // 19
+    "Finned X-Wing",
+    "3D Medusa",
+    "Sue-De-Coq",
+    "(Aligned) Pair Exclusion",
+    "Unique Rectangle",
+    "Avoidable Rectangle",
+    "Extended Aligned Pair Exclusion",
+    "Bivalue Universal Grave",
+    "Nice Loops",
+    "Alternating Inference Chains",
+    "XY-Chain",
+    "Aligned Triple Exclusion",
+    "Nice Loops",
+    "Alternating Inference Chains",
+    "ALS-xz",
+    "MultiFish",
+    "Forcing Chain",
+    "Extended Aligned Triple Exclusion",
+    "Alternating Inference Chains",
+    "Bifurcation",  // 39
 };
 static_assert(std::size(kHintNames) == 42);
 

@@ -18,8 +18,8 @@ struct SpecialHit {
 
 // The next single that the singles, intersections and subsets lead to from the
 // digits of `grid`, or nothing. `scanning` hears the texts the search writes.
-std::optional<SpecialHit> FindSpecialHint(const Digits& grid,
-                                          const std::function<void(std::string_view)>& scanning = {});
+std::optional<SpecialHit> FindSpecialHint(
+    const Digits& grid, const std::function<void(std::string_view)>& scanning = {});
 
 inline constexpr std::string_view kSpecialHintText =
     "A candidate can savely be assigned to the colored cell";

@@ -8,9 +8,7 @@ namespace tavi::hints {
 
 namespace {
 
-bool InRange(int v, int hi) {
-    return v >= 0 && v <= hi;
-}
+bool InRange(int v, int hi) { return v >= 0 && v <= hi; }
 
 // The cells of a row (1), column (2) or box (3, by top left cell); none when the
 // house is out of range.
@@ -21,9 +19,7 @@ std::span<const std::uint8_t> HouseCells(int kind, int row, int column, int left
     return {};
 }
 
-bool InBox(int cell, int leftTop) {
-    return Global::BoxLeftTopOfCell[cell] == leftTop;
-}
+bool InBox(int cell, int leftTop) { return Global::BoxLeftTopOfCell[cell] == leftTop; }
 
 // The single and the guess look alike: the cell and its digit as the base.
 void PaintPlacement(HintPainter& p, int cell, int digit) {
@@ -109,24 +105,12 @@ void Subset(HintPainter& p, const HintRecord& h) {
 
 void PaintBasic(HintPainter& p, const HintRecord& h) {
     switch (h.HintKind) {
-        case 1:
-            PaintPlacement(p, h.HintCell, h.HintNumber);
-            break;
-        case 2:
-            HiddenSingle(p, h);
-            break;
-        case 3:
-            PointingPair(p, h);
-            break;
-        case 4:
-            BoxLine(p, h);
-            break;
-        case 5:
-            Subset(p, h);
-            break;
-        case 20:
-            PaintPlacement(p, h.HintCell, h.HintNumber);
-            break;
+        case 1: PaintPlacement(p, h.HintCell, h.HintNumber); break;
+        case 2: HiddenSingle(p, h); break;
+        case 3: PointingPair(p, h); break;
+        case 4: BoxLine(p, h); break;
+        case 5: Subset(p, h); break;
+        case 20: PaintPlacement(p, h.HintCell, h.HintNumber); break;
         case 24:
             p.ZetHintVak(h.HintCell, kChainCell);
             for (int d : ListPart(h.HintValues, 1, h.HintValueCount))

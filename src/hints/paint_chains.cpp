@@ -7,9 +7,7 @@ namespace tavi::hints {
 
 namespace {
 
-bool ValidCell(int cell) {
-    return cell >= 0 && cell < 81;
-}
+bool ValidCell(int cell) { return cell >= 0 && cell < 81; }
 bool Contains(const std::vector<int>& cells, int c) {
     return std::find(cells.begin(), cells.end(), c) != cells.end();
 }
@@ -148,23 +146,13 @@ void Loop(HintPainter& p, const HintRecord& h, DigitAt digitAt) {
 void PaintChain(HintPainter& p, const HintRecord& h) {
     switch (h.HintKind) {
         case 12:
-        case 21:
-            SimpleColors(p, h);
-            break;
+        case 21: SimpleColors(p, h); break;
         case 18:
-        case 19:
-            XYChain(p, h);
-            break;
+        case 19: XYChain(p, h); break;
         case 22:
-        case 23:
-            MultiColors(p, h);
-            break;
-        case 28:
-            Loop(p, h, [&](int) { return h.HintNumber; });
-            break;
-        case 31:
-            Loop(p, h, [&](int i) { return h.HintValues[i]; });
-            break;
+        case 23: MultiColors(p, h); break;
+        case 28: Loop(p, h, [&](int) { return h.HintNumber; }); break;
+        case 31: Loop(p, h, [&](int i) { return h.HintValues[i]; }); break;
     }
 }
 

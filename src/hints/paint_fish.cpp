@@ -7,15 +7,9 @@ namespace tavi::hints {
 
 namespace {
 
-int RowOf(int cell) {
-    return cell / 9;
-}
-int ColumnOf(int cell) {
-    return cell % 9;
-}
-bool ValidCell(int cell) {
-    return cell >= 0 && cell < 81;
-}
+int RowOf(int cell) { return cell / 9; }
+int ColumnOf(int cell) { return cell % 9; }
+bool ValidCell(int cell) { return cell >= 0 && cell < 81; }
 
 // The cells of a row (1), column (2) or box (3, by number) but `a` and `b`.
 std::vector<int> UnitBut(int kind, int index, int a, int b) {
@@ -75,12 +69,8 @@ void MultiValueXWing(HintPainter& p, const HintRecord& h) {
             xUnit = UnitBut(2, ColumnOf(pc), pc, s), yUnit = UnitBut(2, ColumnOf(q), q, t);
             break;
         case 2:
-        case 4:
-            xUnit = UnitBut(3, h.HintRow, pc, s), yUnit = UnitBut(3, h.HintColumn, q, t);
-            break;
-        default:
-            xUnit = UnitBut(1, RowOf(pc), pc, s), yUnit = UnitBut(1, RowOf(q), q, t);
-            break;
+        case 4: xUnit = UnitBut(3, h.HintRow, pc, s), yUnit = UnitBut(3, h.HintColumn, q, t); break;
+        default: xUnit = UnitBut(1, RowOf(pc), pc, s), yUnit = UnitBut(1, RowOf(q), q, t); break;
     }
     for (int c : xUnit)
         p.ZetAttackedCell(c, x);
@@ -197,24 +187,12 @@ void PaintFish(HintPainter& p, const HintRecord& h) {
     switch (h.HintKind) {
         case 6:
         case 7:
-        case 13:
-            Fish(p, h);
-            break;
-        case 8:
-            MultiValueXWing(p, h);
-            break;
-        case 9:
-            EmptyRectangle(p, h);
-            break;
-        case 15:
-            FinnedXWing(p, h);
-            break;
-        case 25:
-            TwoStringKite(p, h);
-            break;
-        case 26:
-            Skyscraper(p, h);
-            break;
+        case 13: Fish(p, h); break;
+        case 8: MultiValueXWing(p, h); break;
+        case 9: EmptyRectangle(p, h); break;
+        case 15: FinnedXWing(p, h); break;
+        case 25: TwoStringKite(p, h); break;
+        case 26: Skyscraper(p, h); break;
     }
 }
 

@@ -8,9 +8,7 @@ namespace tavi::hints {
 
 namespace {
 
-bool ValidCell(int cell) {
-    return cell >= 0 && cell < 81;
-}
+bool ValidCell(int cell) { return cell >= 0 && cell < 81; }
 bool Contains(const std::vector<int>& cells, int c) {
     return std::find(cells.begin(), cells.end(), c) != cells.end();
 }
@@ -152,9 +150,7 @@ void Rectangle(HintPainter& p, const HintRecord& h) {
             p.ZetAttackedCell(corners[3], h.HintValues[1]);
             p.ZetAttackedCell(corners[3], h.HintValues[2]);
             break;
-        case 2:
-            AttackSeenByAll(p, roof, n);
-            break;
+        case 2: AttackSeenByAll(p, roof, n); break;
         case 3: {
             // The extra digits leave the house of the naked pair that the roof
             // makes with the extra cell.
@@ -175,9 +171,7 @@ void Rectangle(HintPainter& p, const HintRecord& h) {
             p.ZetAttackedCell(corners[2], n);
             p.ZetAttackedCell(corners[3], n);
             break;
-        case 5:
-            p.ZetAttackedCell(corners[3], n);
-            break;
+        case 5: p.ZetAttackedCell(corners[3], n); break;
     }
 }
 
@@ -185,28 +179,14 @@ void Rectangle(HintPainter& p, const HintRecord& h) {
 
 void PaintPattern(HintPainter& p, const HintRecord& h) {
     switch (h.HintKind) {
-        case 10:
-            Wing(p, h, 3, false);
-            break;
-        case 11:
-            Wing(p, h, 3, true);
-            break;
-        case 14:
-            WXYZWing(p, h);
-            break;
-        case 16:
-            Exclusion(p, h, 2);
-            break;
-        case 17:
-            Exclusion(p, h, 3);
-            break;
-        case 27:
-            SueDeCoq(p, h);
-            break;
+        case 10: Wing(p, h, 3, false); break;
+        case 11: Wing(p, h, 3, true); break;
+        case 14: WXYZWing(p, h); break;
+        case 16: Exclusion(p, h, 2); break;
+        case 17: Exclusion(p, h, 3); break;
+        case 27: SueDeCoq(p, h); break;
         case 29:
-        case 30:
-            Rectangle(p, h);
-            break;
+        case 30: Rectangle(p, h); break;
     }
 }
 

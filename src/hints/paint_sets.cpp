@@ -65,9 +65,7 @@ void Medusa(HintPainter& p, const HintRecord& h) {
             for (int c : MedusaRule4Cells(h, p.board()))
                 p.ZetAttackedCell(c, h.HintNumber);
             break;
-        case 5:
-            p.ZetAttackedCell(b.cell, h.HintNumber);
-            break;
+        case 5: p.ZetAttackedCell(b.cell, h.HintNumber); break;
     }
 }
 
@@ -112,23 +110,15 @@ void MultiFish(HintPainter& p, const HintRecord& h) {
 void PaintSet(HintPainter& p, const HintRecord& h) {
     switch (h.HintKind) {
         case 32:
-        case 33:
-            Als(p, h);
-            break;
-        case 34:
-            Medusa(p, h);
-            break;
+        case 33: Als(p, h); break;
+        case 34: Medusa(p, h); break;
         case 35:
             p.ZetHintVak(h.HintCell, kAttackingCell);
             PaintCandidates(p, h.HintCell, kAttackingCandidates);
             ForcingTarget(p, h.HintCellCount, h.HintNumber, h.HintVariant < 0);
             break;
-        case 36:
-            ForcingFromUnit(p, h);
-            break;
-        case 37:
-            MultiFish(p, h);
-            break;
+        case 36: ForcingFromUnit(p, h); break;
+        case 37: MultiFish(p, h); break;
     }
 }
 

@@ -72,8 +72,6 @@ int At(const List& list, int i) {
     return i >= 1 && i < int(list.size()) ? list[i] : -1;
 }
 
-inline std::string Number(int n) {
-    return std::to_string(n);
-}
+inline std::string Number(int n) { return std::to_string(n); }
 
 }  // namespace tavi::hints

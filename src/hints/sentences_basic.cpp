@@ -30,14 +30,9 @@ std::string HiddenSingle(const HintRecord& h) {
             s += BoxName(RowColumnBox(h.HintRow, h.HintColumn), true);
             s += " block";
             break;
-        case 2:
-            s += " in column " + ColText(h.HintColumn);
-            break;
-        case 1:
-            s += " in row " + RowText(h.HintRow);
-            break;
-        default:
-            return s;
+        case 2: s += " in column " + ColText(h.HintColumn); break;
+        case 1: s += " in row " + RowText(h.HintRow); break;
+        default: return s;
     }
     return s + " appears only at cell " + CellText(9 * h.HintRow + h.HintColumn) +
            ", it must be there";
@@ -107,16 +102,11 @@ std::string Subset(const HintRecord& h) {
 
 std::string BasicSentence(const HintRecord& h) {
     switch (h.HintKind) {
-        case 1:
-            return NakedSingle(h);
-        case 2:
-            return HiddenSingle(h);
-        case 3:
-            return PointingPair(h);
-        case 4:
-            return BoxLine(h);
-        case 5:
-            return Subset(h);
+        case 1: return NakedSingle(h);
+        case 2: return HiddenSingle(h);
+        case 3: return PointingPair(h);
+        case 4: return BoxLine(h);
+        case 5: return Subset(h);
         case 20:
             return Head(20) + "Single guessing that number " + Number(h.HintNumber) +
                    " would be truth for cell " + CellText(h.HintCell) +
@@ -126,8 +116,7 @@ std::string BasicSentence(const HintRecord& h) {
             return Head(24) +
                    "The only unsolved cell that is not a bi-value cell cannot contain candidates "
                    "that only occurs twice in the row, column and box this cell belongs to.";
-        default:
-            return {};
+        default: return {};
     }
 }
 

@@ -92,8 +92,7 @@ std::string NiceLoop(const HintRecord& h) {
                    " All cells holding the candidate under examination, not belonging to the "
                    "X-Cycle, and sharing the same houses of the weak links, will loose that "
                    "candidate.";
-        default:
-            return Head(28);
+        default: return Head(28);
     }
 }
 
@@ -120,8 +119,7 @@ std::string Aic(const HintRecord& h) {
                    " Candidate(s) not participating to any weak link inside a cell, and for any "
                    "weak link between 2 cells, that same candidate in other cells sharing that "
                    "same house, can be removed.";
-        default:
-            return Head(31);
+        default: return Head(31);
     }
 }
 
@@ -140,17 +138,12 @@ std::string ChainSentence(const HintRecord& h) {
                    " both belong to the same adjacent group AND both those cells are sharing the "
                    "same house, that whole adjacent group of cells will loose this candidate.";
         case 18:
-        case 19:
-            return XYChain(h);
+        case 19: return XYChain(h);
         case 22:
-        case 23:
-            return MultiColoring(h);
-        case 28:
-            return NiceLoop(h);
-        case 31:
-            return Aic(h);
-        default:
-            return {};
+        case 23: return MultiColoring(h);
+        case 28: return NiceLoop(h);
+        case 31: return Aic(h);
+        default: return {};
     }
 }
 

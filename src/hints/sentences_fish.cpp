@@ -89,8 +89,7 @@ std::string MultiValueXWing(const HintRecord& h) {
             where2 = kFrom + "column " + ColOfCellText(q);
             rest1 = rest2 = kRest + "that column";
             break;
-        default:
-            return Head(8) + "Since number " + a;
+        default: return Head(8) + "Since number " + a;
     }
     return Head(8) + "Since number " + a + u1 + " is reserved for either cell " + CellText(p) +
            " or cell " + CellText(q) + " and number " + b + u2 + " is reserved for either cell " +
@@ -177,20 +176,13 @@ std::string FishSentence(const HintRecord& h) {
     switch (h.HintKind) {
         case 6:
         case 7:
-        case 13:
-            return Fish(h);
-        case 8:
-            return MultiValueXWing(h);
-        case 9:
-            return EmptyRectangle(h);
-        case 15:
-            return FinnedXWing(h);
-        case 25:
-            return TwoStringKite(h);
-        case 26:
-            return Skyscraper(h);
-        default:
-            return {};
+        case 13: return Fish(h);
+        case 8: return MultiValueXWing(h);
+        case 9: return EmptyRectangle(h);
+        case 15: return FinnedXWing(h);
+        case 25: return TwoStringKite(h);
+        case 26: return Skyscraper(h);
+        default: return {};
     }
 }
 

@@ -161,8 +161,7 @@ std::string UniqueRectangle(const HintRecord& h) {
         case 5:
             return head + "Candidate " + n + " can be removed from cell " +
                    CellText(h.HintCells[4]);
-        default:
-            return head;
+        default: return head;
     }
 }
 
@@ -180,24 +179,15 @@ std::string AvoidableRectangle(const HintRecord& h) {
 
 std::string PatternSentence(const HintRecord& h) {
     switch (h.HintKind) {
-        case 10:
-            return XYWing(h);
-        case 11:
-            return XYZWing(h);
-        case 14:
-            return WXYZWing(h);
-        case 16:
-            return PairExclusion(h);
-        case 17:
-            return TripleExclusion(h);
-        case 27:
-            return SueDeCoq(h);
-        case 29:
-            return UniqueRectangle(h);
-        case 30:
-            return AvoidableRectangle(h);
-        default:
-            return {};
+        case 10: return XYWing(h);
+        case 11: return XYZWing(h);
+        case 14: return WXYZWing(h);
+        case 16: return PairExclusion(h);
+        case 17: return TripleExclusion(h);
+        case 27: return SueDeCoq(h);
+        case 29: return UniqueRectangle(h);
+        case 30: return AvoidableRectangle(h);
+        default: return {};
     }
 }
 

@@ -111,8 +111,7 @@ std::string Medusa(const HintRecord& h, const Board& board) {
                    " in cell " + CellText(b.cell) + " who both can see the bi-value cell " +
                    CellText(bivalue) + " having both candidates uncoloured." + colourGoes;
         }
-        default:
-            return s;
+        default: return s;
     }
 }
 
@@ -128,17 +127,10 @@ std::string ForcingVerdict(bool alwaysFalse, int target) {
 std::string ForcingFromUnit(const HintRecord& h) {
     std::string s = Head(36) + "Whatever candidate " + Number(h.HintCellCount);
     switch (h.HintVariant) {
-        case 3:
-            s += " is true for box " + Number(h.HintRow + 1);
-            break;
-        case 2:
-            s += " is true for column " + ColText(h.HintColumn);
-            break;
-        case 1:
-            s += " is true for row " + RowText(h.HintRow);
-            break;
-        default:
-            return s;
+        case 3: s += " is true for box " + Number(h.HintRow + 1); break;
+        case 2: s += " is true for column " + ColText(h.HintColumn); break;
+        case 1: s += " is true for row " + RowText(h.HintRow); break;
+        default: return s;
     }
     return s + ", candidate " + Number(h.HintNumber) +
            ForcingVerdict(h.HintValueCount == 0, h.HintCell);
@@ -186,20 +178,15 @@ std::string MultiFish(const HintRecord& h, const Board& board) {
 std::string SetSentence(const HintRecord& h, const Board& board) {
     switch (h.HintKind) {
         case 32:
-        case 33:
-            return Als(h, board);
-        case 34:
-            return Medusa(h, board);
+        case 33: return Als(h, board);
+        case 34: return Medusa(h, board);
         case 35:
             return Head(35) + "Whatever candidate is true for cell " + CellText(h.HintCell) +
                    ", candidate " + Number(h.HintNumber) +
                    ForcingVerdict(h.HintVariant < 0, h.HintCellCount);
-        case 36:
-            return ForcingFromUnit(h);
-        case 37:
-            return MultiFish(h, board);
-        default:
-            return {};
+        case 36: return ForcingFromUnit(h);
+        case 37: return MultiFish(h, board);
+        default: return {};
     }
 }
 

@@ -8,9 +8,7 @@ namespace tavi {
 
 namespace {
 constexpr std::string_view kSection = "Colors";
-std::string Key(std::string_view name, int i) {
-    return std::string(name) + std::to_string(i);
-}
+std::string Key(std::string_view name, int i) { return std::string(name) + std::to_string(i); }
 }  // namespace
 
 void HaalKleuren(const SettingsStore& store, ColorSettings& colors) {

@@ -41,9 +41,7 @@ inline constexpr std::array<Color, 9> kDefaultHintColor = {
 // brush, 5 wipes the paint, 6 to 9 brushes for cells. 4 and 5 are no colours of
 // the user and are never stored.
 inline constexpr int kPaletteLabels = 10;
-constexpr bool IsStoredLabel(int i) {
-    return i >= 1 && i <= 9 && i != 4 && i != 5;
-}
+constexpr bool IsStoredLabel(int i) { return i >= 1 && i <= 9 && i != 4 && i != 5; }
 
 // A brush paints in its label's back colour: a mark brush the background of one
 // mark, a cell brush a whole cell. Mark brushes are stronger than cell brushes,

@@ -10,15 +10,15 @@ namespace tavi {
 enum class SaveChoice { Allways, Never, Ask };
 
 struct OptionsForm {
-    bool Pencilmarks = true;    // "Automatic pencilmarks update"
-    bool TimeOn = true;         // "Keep time"
-    bool TimeShow = true;       // "Show Timer" (else "Hide Timer")
-    bool Wells = true;          // "Fill Wells"
-    bool Sounds = false;        // "Sounds"
-    bool HintWindow = false;    // "Additional Small Hint Window"
-    bool AutoErase = true;      // "Auto-erase if solved"
+    bool Pencilmarks = true;      // "Automatic pencilmarks update"
+    bool TimeOn = true;           // "Keep time"
+    bool TimeShow = true;         // "Show Timer" (else "Hide Timer")
+    bool Wells = true;            // "Fill Wells"
+    bool Sounds = false;          // "Sounds"
+    bool HintWindow = false;      // "Additional Small Hint Window"
+    bool AutoErase = true;        // "Auto-erase if solved"
     bool PencilmarksOff = false;  // "Pencilmarks off in first 3 levels"
-    bool Dimmed = false;        // "Dimmed pencilmarks"
+    bool Dimmed = false;          // "Dimmed pencilmarks"
     SaveChoice Save = SaveChoice::Allways;
 
     // The copy of the options in force, as the window opens.

@@ -17,9 +17,7 @@ std::optional<bool> ParseBool(std::string_view text);
 // A whole decimal number between `low` and `high`, spaces around it allowed.
 std::optional<long long> ParseWhole(std::string_view text, long long low, long long high);
 
-inline std::string BoolText(bool value) {
-    return value ? "True" : "False";
-}
+inline std::string BoolText(bool value) { return value ? "True" : "False"; }
 
 bool ReadBool(const SettingsStore& store, std::string_view section, std::string_view key,
               bool fallback);

@@ -6,7 +6,8 @@ namespace tavi {
 
 bool TechniqueManager::Checked(int box) const {
     if (box < 0 || box >= 2 * kTechniqueCount) return false;
-    return box < kTechniqueCount ? tables_.OnOff[box] == 1 : tables_.Halt[box - kTechniqueCount] == 1;
+    return box < kTechniqueCount ? tables_.OnOff[box] == 1
+                                 : tables_.Halt[box - kTechniqueCount] == 1;
 }
 
 bool TechniqueManager::Enabled(int box) const {

@@ -63,7 +63,7 @@ inline constexpr std::string_view kTechniqueManagerTitle = "Solving Techniques M
 // The window's logic over the tables in force. Boxes are numbered as the window
 // has them: 0..39 "include" of technique i, 40..79 "halt" of technique i - 40.
 class TechniqueManager {
-public:
+  public:
     explicit TechniqueManager(TechniqueTables& tables)
         : tables_(tables), SelectedPosition(tables.Order[8]) {}
 
@@ -84,12 +84,12 @@ public:
     // "Set Default Order": the order only; the ticks stay.
     void SetDefaultOrder();
 
-private:
+  private:
     void SwapWith(int position);
 
     TechniqueTables& tables_;
 
-public:
+  public:
     int SelectedPosition;
 };
 

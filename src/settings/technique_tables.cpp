@@ -10,9 +10,7 @@ namespace {
 
 constexpr std::string_view kSection = "Technique";
 
-std::string Key(std::string_view name, int i) {
-    return std::string(name) + std::to_string(i);
-}
+std::string Key(std::string_view name, int i) { return std::string(name) + std::to_string(i); }
 
 // A check box holds 0 or 1; anything else is no value of it.
 int ReadFlag(const SettingsStore& store, const std::string& key, int fallback) {

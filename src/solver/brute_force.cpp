@@ -60,10 +60,13 @@ int BruteForceSearch::ListOpenCells(const Board& board) {
         TriedCount[c] = 0;
         RebuildCell(board, c);
     }
-    for (auto& unit : Places) unit.fill(0);
+    for (auto& unit : Places)
+        unit.fill(0);
     for (int c = 0; c < 81; ++c) {
-        const CandidateMask m = board.CurrentGrid[c] ? DigitBit(board.CurrentGrid[c]) : board.Candidates[c];
-        for (CandidateMask k = m; k; k &= k - 1) RegainPlace(c, LowestDigit(k));
+        const CandidateMask m =
+            board.CurrentGrid[c] ? DigitBit(board.CurrentGrid[c]) : board.Candidates[c];
+        for (CandidateMask k = m; k; k &= k - 1)
+            RegainPlace(c, LowestDigit(k));
     }
     return n;
 }
@@ -83,8 +86,10 @@ void BruteForceSearch::Undo(Board& board, int /*pointer*/) {
     };
     for (CandidateMask m = CandidateMask(board.Candidates[cell] & ~bit); m; m &= m - 1)
         RegainPlace(cell, LowestDigit(m));
-    for (unsigned m = LogRowPeers[entry]; m; m &= m - 1) restore(9 * row + std::countr_zero(m));
-    for (unsigned m = LogColumnPeers[entry]; m; m &= m - 1) restore(9 * std::countr_zero(m) + col);
+    for (unsigned m = LogRowPeers[entry]; m; m &= m - 1)
+        restore(9 * row + std::countr_zero(m));
+    for (unsigned m = LogColumnPeers[entry]; m; m &= m - 1)
+        restore(9 * std::countr_zero(m) + col);
     for (unsigned m = LogBoxPeers[entry]; m; m &= m - 1) {
         const int i = std::countr_zero(m);
         restore(leftTop + 9 * (i / 3) + i % 3);
@@ -203,7 +208,8 @@ bool SudMeetRestrictions(const Board& board, Notifier* notifier) {
     };
     const Digits& g = board.CurrentGrid;
     int filled = 0;
-    for (auto d : g) filled += d != 0;
+    for (auto d : g)
+        filled += d != 0;
     if (filled < 17) return refuse("A minimum of 17 clues is required !");
     if (filled == 81) return refuse("The sudoku is allready solved !");
 
@@ -227,7 +233,8 @@ bool SudMeetRestrictions(const Board& board, Notifier* notifier) {
     int emptyBoxes = 0;
     for (int box = 0; box < 9; ++box) {
         bool has = false;
-        for (int p = 0; p < 9; ++p) has |= g[Global::CellOfBoxPosition[box][p]] != 0;
+        for (int p = 0; p < 9; ++p)
+            has |= g[Global::CellOfBoxPosition[box][p]] != 0;
         emptyBoxes += !has;
     }
     if (emptyBoxes > 4) return refuse("More than four empty boxes are not allowed !");

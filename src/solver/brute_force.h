@@ -13,13 +13,13 @@
 namespace tavi {
 
 class BruteForceSearch {
-public:
+  public:
     // The cells still to fill: entries 0..pointer are open, those above are on
     // the search path.
     std::array<std::int8_t, 81> FreeCells{};
-    std::array<std::uint8_t, 81> CellCandidateTotal{};              // per cell
-    std::array<std::array<std::uint8_t, 9>, 81> CellCandidates{};   // per cell, rising
-    std::array<std::uint8_t, 81> TriedCount{};                      // per cell
+    std::array<std::uint8_t, 81> CellCandidateTotal{};             // per cell
+    std::array<std::array<std::uint8_t, 9>, 81> CellCandidates{};  // per cell, rising
+    std::array<std::uint8_t, 81> TriedCount{};                     // per cell
     std::array<std::int8_t, 81> Position{};  // where an open cell stands in FreeCells
 
     // Lists the open cells of `board` in rising order in FreeCells (with their
@@ -57,7 +57,7 @@ public:
     // before the search begins.
     int Search(Board& board, Digits& solution, bool& contradiction);
 
-private:
+  private:
     void LosePlace(int cell, int digit);
     void RegainPlace(int cell, int digit);
 };

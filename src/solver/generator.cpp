@@ -79,7 +79,8 @@ int CountSolutions(const Digits& puzzle, int limit, Digits* first) {
 
 Digits PuzzleGenerator::RandomSolvedGrid() {
     std::array<int, 9> order{1, 2, 3, 4, 5, 6, 7, 8, 9};
-    for (int i = 8; i > 0; --i) std::swap(order[i], order[Below(i + 1)]);
+    for (int i = 8; i > 0; --i)
+        std::swap(order[i], order[Below(i + 1)]);
     // Seed the first row at random, then let the search fill the rest with the
     // digits in a random order of preference.
     Search s;
@@ -88,7 +89,8 @@ Digits PuzzleGenerator::RandomSolvedGrid() {
         s.grid[c] = std::uint8_t(order[c]);
         s.units.Toggle(c, order[c]);
     }
-    for (int i = 8; i > 0; --i) std::swap(order[i], order[Below(i + 1)]);
+    for (int i = 8; i > 0; --i)
+        std::swap(order[i], order[Below(i + 1)]);
     Digits solved{};
     s.limit = 1;
     s.first = &solved;
@@ -102,8 +104,10 @@ GeneratedPuzzle PuzzleGenerator::Next() {
     g.solution = RandomSolvedGrid();
     g.puzzle = g.solution;
     std::array<int, 81> cells;
-    for (int i = 0; i < 81; ++i) cells[i] = i;
-    for (int i = 80; i > 0; --i) std::swap(cells[i], cells[Below(i + 1)]);
+    for (int i = 0; i < 81; ++i)
+        cells[i] = i;
+    for (int i = 80; i > 0; --i)
+        std::swap(cells[i], cells[Below(i + 1)]);
     for (int c : cells) {
         const std::uint8_t kept = g.puzzle[c];
         g.puzzle[c] = 0;

@@ -21,14 +21,14 @@ struct GeneratedPuzzle {
 };
 
 class PuzzleGenerator {
-public:
+  public:
     explicit PuzzleGenerator(std::uint64_t seed) : rng_(seed) {}
 
     Digits RandomSolvedGrid();
     // A minimal puzzle with exactly one solution.
     GeneratedPuzzle Next();
 
-private:
+  private:
     int Below(int n) { return int(rng_() % std::uint32_t(n)); }
     std::mt19937 rng_;
 };

@@ -50,20 +50,17 @@ constexpr Rung kRungs[] = {
      " - Scanning for Extended Aligned Pair Exclusion"},
     {27, TAVI_RUNG(Removed(BUG(ctx))), 6, " - Scanning for Bivalue Universal Grave"},
     {28, TAVI_RUNG(LoopResult(NiceLoops(ctx, 6))), 6, " - Scanning for Nice Loop"},
-    {29, TAVI_RUNG(LoopResult(AIC(ctx, 10, 6))), 6,
-     " - Scanning for Alternating Inference Chains"},
+    {29, TAVI_RUNG(LoopResult(AIC(ctx, 10, 6))), 6, " - Scanning for Alternating Inference Chains"},
     {30, TAVI_RUNG(Removed(XYChain(ctx))), 7, " - Scanning for XY-Chain"},
     {31, TAVI_RUNG(Removed(ATE(ctx))), 7, " - Scanning for Aligned Triple Exclusion"},
     {32, TAVI_RUNG(LoopResult(NiceLoops(ctx, 7))), 7, " - Scanning for Nice Loop"},
-    {33, TAVI_RUNG(LoopResult(AIC(ctx, 20, 7))), 7,
-     " - Scanning for Alternating Inference Chains"},
+    {33, TAVI_RUNG(LoopResult(AIC(ctx, 20, 7))), 7, " - Scanning for Alternating Inference Chains"},
     {34, TAVI_RUNG(Removed(ALSxz(ctx))), 7, " - Scanning for ALS-xz"},
     {35, TAVI_RUNG(Removed(MultiFish(ctx))), 7, " - Scanning for MultiFish"},
     {36, TAVI_RUNG(Removed(Forcing(ctx))), 7, " - Scanning for Forcing Chain"},
     {37, TAVI_RUNG(Removed(ExtendedATE(ctx))), 8,
      " - Scanning for Extended Aligned Triple Exclusion"},
-    {38, TAVI_RUNG(LoopResult(AIC(ctx, 30, 8))), 8,
-     " - Scanning for Alternating Inference Chains"},
+    {38, TAVI_RUNG(LoopResult(AIC(ctx, 30, 8))), 8, " - Scanning for Alternating Inference Chains"},
     {39, TAVI_RUNG(Placed(Bifurcation(ctx))), 8, " - Scanning for Bifurcation"},
 };
 #undef TAVI_RUNG
@@ -92,14 +89,16 @@ std::array<const Rung*, 40> TailInOrder(const TechniqueOrder& order) {
 
 int CountEmpty(const Digits& d) {
     int n = 0;
-    for (auto x : d) n += x == 0;
+    for (auto x : d)
+        n += x == 0;
     return n;
 }
 
 void SpeakSolved(Notifier* notifier, int level, bool beep, bool message) {
     if (!notifier) return;
     if (beep) notifier->Beep();
-    if (message && level >= 1 && level <= 8) notifier->Message("Sudoku solved", SolvedMessage(level));
+    if (message && level >= 1 && level <= 8)
+        notifier->Message("Sudoku solved", SolvedMessage(level));
 }
 
 }  // namespace
@@ -108,15 +107,18 @@ std::span<const Rung> LadderRungs() { return kRungs; }
 
 std::span<const Rung> RungsOf(int technique) {
     int first = 0;
-    while (first < kRungCount && kRungs[first].number != technique) ++first;
+    while (first < kRungCount && kRungs[first].number != technique)
+        ++first;
     int last = first;
-    while (last < kRungCount && kRungs[last].number == technique) ++last;
+    while (last < kRungCount && kRungs[last].number == technique)
+        ++last;
     return {kRungs + first, kRungs + last};
 }
 
 TechniqueOrder DefaultTechniqueOrder() {
     TechniqueOrder order{};
-    for (int i = 0; i < kTechniqueCount; ++i) order[i] = i;
+    for (int i = 0; i < kTechniqueCount; ++i)
+        order[i] = i;
     return order;
 }
 

@@ -43,8 +43,8 @@ TechniqueOrder DefaultTechniqueOrder();
 // What a walker wants to hear of a run. All optional.
 struct LadderObserver {
     std::function<void(const std::string&)> progress;  // label text before each rung
-    std::function<void(const Rung&)> before;            // before each rung runs
-    std::function<void(const Rung&)> hit;               // after each success
+    std::function<void(const Rung&)> before;           // before each rung runs
+    std::function<void(const Rung&)> hit;              // after each success
 };
 
 // The rating run of the workbench. Starts from Puzzle and from candidates that the

@@ -27,7 +27,7 @@ enum class Side { Game, Workbench };
 // The game's side of a placement or removal made by the solver: it turns them
 // into steps of the move log. The workbench has none.
 class MoveListener {
-public:
+  public:
     virtual ~MoveListener() = default;
     // Places `digit` in `cell` with a step in the move log (the peers always lose
     // the digit). Must leave the candidates exactly as Zet would.
@@ -54,9 +54,9 @@ struct SolveContext {
     bool BatchRunning = false;     // a long run: yield to the event queue between passes
     HintRecord hint;
 
-    std::function<void()> yield;               // lets the window breathe in long loops
-    MoveListener* listener = nullptr;          // the game's move log
-    std::vector<BoardChange>* trace = nullptr; // records placements and removals when set
+    std::function<void()> yield;                // lets the window breathe in long loops
+    MoveListener* listener = nullptr;           // the game's move log
+    std::vector<BoardChange>* trace = nullptr;  // records placements and removals when set
 
     explicit SolveContext(Side s = Side::Workbench) : side(s) {}
 

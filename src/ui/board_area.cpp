@@ -19,9 +19,7 @@ BoardArea::BoardArea(Game& game, QWidget* parent)
     }
 }
 
-void BoardArea::resizeEvent(QResizeEvent*) {
-    Arrange();
-}
+void BoardArea::resizeEvent(QResizeEvent*) { Arrange(); }
 
 void BoardArea::Refresh() {
     for (int d = 1; d <= 9; ++d) {

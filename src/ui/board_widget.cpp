@@ -37,9 +37,7 @@ BoardWidget::BoardWidget(Game& game, QWidget* parent) : QWidget(parent), game_(g
     glyphs_.SetFamily(font().family());
 }
 
-void BoardWidget::resizeEvent(QResizeEvent*) {
-    layout_.Fit(size());
-}
+void BoardWidget::resizeEvent(QResizeEvent*) { layout_.Fit(size()); }
 
 void BoardWidget::changeEvent(QEvent* e) {
     if (e->type() == QEvent::FontChange) glyphs_.SetFamily(font().family());
@@ -175,14 +173,9 @@ void BoardWidget::mouseReleaseEvent(QMouseEvent* e) {
             else
                 game_.GridMouseUp(target.index, *button, inside);
             break;
-        case BoardSpot::RowHeader:
-            game_.RowHeaderUp(target.index, *button, inside);
-            break;
-        case BoardSpot::ColumnHeader:
-            game_.ColumnHeaderUp(target.index, *button, inside);
-            break;
-        case BoardSpot::None:
-            return;
+        case BoardSpot::RowHeader: game_.RowHeaderUp(target.index, *button, inside); break;
+        case BoardSpot::ColumnHeader: game_.ColumnHeaderUp(target.index, *button, inside); break;
+        case BoardSpot::None: return;
     }
     emit Changed();
 }
@@ -192,9 +185,7 @@ void BoardWidget::mouseMoveEvent(QMouseEvent* e) {
     Hover(TargetAt(e->position().toPoint()));
 }
 
-void BoardWidget::leaveEvent(QEvent*) {
-    Hover({});
-}
+void BoardWidget::leaveEvent(QEvent*) { Hover({}); }
 
 void BoardWidget::Hover(const BoardSpot& spot) {
     if (spot == hover_) return;

@@ -8,9 +8,7 @@
 
 namespace tavi::ui {
 
-int QtTimeSource::SecondOfDay() const {
-    return QTime::currentTime().msecsSinceStartOfDay() / 1000;
-}
+int QtTimeSource::SecondOfDay() const { return QTime::currentTime().msecsSinceStartOfDay() / 1000; }
 
 // A page is either an address with a scheme ("https://...") or a path on disk.
 QUrl PageUrl(const std::string& page) {

@@ -6,9 +6,7 @@ namespace {
 
 inline constexpr char kApplication[] = "TaviSud1";
 
-QString Text(std::string_view s) {
-    return QString::fromUtf8(s.data(), qsizetype(s.size()));
-}
+QString Text(std::string_view s) { return QString::fromUtf8(s.data(), qsizetype(s.size())); }
 
 // Sections and keys keep their own spelling in the file: "Options/TimeOn".
 QString Path(std::string_view section, std::string_view key) {
@@ -36,8 +34,6 @@ void QSettingsStore::Write(std::string_view section, std::string_view key, std::
     settings_->setValue(Path(section, key), Text(value));
 }
 
-void QSettingsStore::Flush() {
-    settings_->sync();
-}
+void QSettingsStore::Flush() { settings_->sync(); }
 
 }  // namespace tavi::ui

@@ -24,14 +24,10 @@ inline QString ToQString(std::string_view s) {
 // The three buttons the game knows; any other button is no click of the game.
 inline std::optional<MouseButton> ToMouseButton(Qt::MouseButton b) {
     switch (b) {
-        case Qt::LeftButton:
-            return MouseButton::Left;
-        case Qt::RightButton:
-            return MouseButton::Right;
-        case Qt::MiddleButton:
-            return MouseButton::Middle;
-        default:
-            return std::nullopt;
+        case Qt::LeftButton: return MouseButton::Left;
+        case Qt::RightButton: return MouseButton::Right;
+        case Qt::MiddleButton: return MouseButton::Middle;
+        default: return std::nullopt;
     }
 }
 

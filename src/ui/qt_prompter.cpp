@@ -12,14 +12,10 @@ namespace {
 
 QMessageBox::StandardButtons ButtonsOf(Buttons b) {
     switch (b) {
-        case Buttons::Ok:
-            return QMessageBox::Ok;
-        case Buttons::OkCancel:
-            return QMessageBox::Ok | QMessageBox::Cancel;
-        case Buttons::YesNo:
-            return QMessageBox::Yes | QMessageBox::No;
-        case Buttons::YesNoCancel:
-            return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
+        case Buttons::Ok: return QMessageBox::Ok;
+        case Buttons::OkCancel: return QMessageBox::Ok | QMessageBox::Cancel;
+        case Buttons::YesNo: return QMessageBox::Yes | QMessageBox::No;
+        case Buttons::YesNoCancel: return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
         case Buttons::AbortRetryIgnore:
             return QMessageBox::Abort | QMessageBox::Retry | QMessageBox::Ignore;
     }
@@ -30,61 +26,42 @@ QMessageBox::StandardButtons ButtonsOf(Buttons b) {
 // changes the least.
 QMessageBox::StandardButton EscapeOf(Buttons b) {
     switch (b) {
-        case Buttons::Ok:
-            return QMessageBox::Ok;
+        case Buttons::Ok: return QMessageBox::Ok;
         case Buttons::OkCancel:
-        case Buttons::YesNoCancel:
-            return QMessageBox::Cancel;
-        case Buttons::YesNo:
-            return QMessageBox::No;
-        case Buttons::AbortRetryIgnore:
-            return QMessageBox::Abort;
+        case Buttons::YesNoCancel: return QMessageBox::Cancel;
+        case Buttons::YesNo: return QMessageBox::No;
+        case Buttons::AbortRetryIgnore: return QMessageBox::Abort;
     }
     return QMessageBox::Ok;
 }
 
 QMessageBox::Icon IconOf(Icon i) {
     switch (i) {
-        case Icon::None:
-            return QMessageBox::NoIcon;
-        case Icon::Information:
-            return QMessageBox::Information;
-        case Icon::Exclamation:
-            return QMessageBox::Warning;
-        case Icon::Question:
-            return QMessageBox::Question;
-        case Icon::Critical:
-            return QMessageBox::Critical;
+        case Icon::None: return QMessageBox::NoIcon;
+        case Icon::Information: return QMessageBox::Information;
+        case Icon::Exclamation: return QMessageBox::Warning;
+        case Icon::Question: return QMessageBox::Question;
+        case Icon::Critical: return QMessageBox::Critical;
     }
     return QMessageBox::NoIcon;
 }
 
 Answer AnswerOf(int button, Buttons asked) {
     switch (button) {
-        case QMessageBox::Ok:
-            return Answer::Ok;
-        case QMessageBox::Cancel:
-            return Answer::Cancel;
-        case QMessageBox::Yes:
-            return Answer::Yes;
-        case QMessageBox::No:
-            return Answer::No;
-        case QMessageBox::Abort:
-            return Answer::Abort;
-        case QMessageBox::Retry:
-            return Answer::Retry;
-        case QMessageBox::Ignore:
-            return Answer::Ignore;
-        default:
-            return AnswerOf(EscapeOf(asked), asked);
+        case QMessageBox::Ok: return Answer::Ok;
+        case QMessageBox::Cancel: return Answer::Cancel;
+        case QMessageBox::Yes: return Answer::Yes;
+        case QMessageBox::No: return Answer::No;
+        case QMessageBox::Abort: return Answer::Abort;
+        case QMessageBox::Retry: return Answer::Retry;
+        case QMessageBox::Ignore: return Answer::Ignore;
+        default: return AnswerOf(EscapeOf(asked), asked);
     }
 }
 
 }  // namespace
 
-void QtPrompter::Beep() {
-    QApplication::beep();
-}
+void QtPrompter::Beep() { QApplication::beep(); }
 
 Answer QtPrompter::Ask(std::string_view title, std::string_view text, Buttons buttons, Icon icon) {
     QMessageBox box(IconOf(icon), ToQString(title), ToQString(text), ButtonsOf(buttons), parent_);

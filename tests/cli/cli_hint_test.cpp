@@ -15,7 +15,8 @@ namespace {
 std::vector<std::string> Lines(const std::string& text) {
     std::vector<std::string> lines;
     std::istringstream in(text);
-    for (std::string l; std::getline(in, l);) lines.push_back(l);
+    for (std::string l; std::getline(in, l);)
+        lines.push_back(l);
     return lines;
 }
 
@@ -30,7 +31,8 @@ std::vector<std::string> Fields(const std::string& line) {
 
 TEST(CliHint, TheFirstHintOfEachPuzzleWithItsPaints) {
     const auto& p = testing::GeneratedPuzzles(2);
-    const std::string input = FormatDigits(p[0].puzzle, '.') + "\n" + FormatDigits(p[1].puzzle, '.') + "\n";
+    const std::string input =
+        FormatDigits(p[0].puzzle, '.') + "\n" + FormatDigits(p[1].puzzle, '.') + "\n";
     std::istringstream in(input);
     std::ostringstream out, err;
     EXPECT_EQ(Hint(in, out, err, false), 0);
@@ -52,7 +54,8 @@ TEST(CliHint, TheFirstHintOfEachPuzzleWithItsPaints) {
     EXPECT_EQ(lines[0], plain[0]);
     EXPECT_EQ(lines[1], "\terase");
     size_t second = 1;
-    while (second < lines.size() && lines[second][0] == '\t') ++second;
+    while (second < lines.size() && lines[second][0] == '\t')
+        ++second;
     ASSERT_LT(second, lines.size());
     EXPECT_EQ(lines[second], plain[1]);
 }
@@ -61,9 +64,11 @@ TEST(CliHint, NoHintOnAFullBoardOrClashingGivens) {
     const auto& p = testing::GeneratedPuzzles(1)[0];
     Digits clash = p.puzzle;
     int a = 0;
-    while (!clash[a]) ++a;
+    while (!clash[a])
+        ++a;
     int b = a + 1;
-    while (b % 9 && clash[b]) ++b;
+    while (b % 9 && clash[b])
+        ++b;
     ASSERT_EQ(b / 9, a / 9);
     clash[b] = clash[a];
     std::istringstream in(FormatDigits(p.solution) + "\n" + FormatDigits(clash) + "\n");
@@ -78,7 +83,8 @@ TEST(CliHint, NoHintOnAFullBoardOrClashingGivens) {
 TEST(CliSteps, ExplainAddsTheSentenceOfEachStep) {
     const auto& puzzles = testing::GeneratedPuzzles(40);
     std::string input;
-    for (const auto& p : puzzles) input += FormatDigits(p.puzzle) + "\n";
+    for (const auto& p : puzzles)
+        input += FormatDigits(p.puzzle) + "\n";
     std::istringstream in1(input), in2(input);
     std::ostringstream plain, explained, err;
     Steps(in1, plain, err, false);
@@ -96,7 +102,9 @@ TEST(CliSteps, ExplainAddsTheSentenceOfEachStep) {
         EXPECT_EQ(b[i].substr(0, a[i].size()), a[i]);
         EXPECT_FALSE(f[5].empty()) << b[i];
         heads.insert(f[5].substr(0, f[5].find(':')));
-        if (f[2] == "39") EXPECT_TRUE(f[5].starts_with("BIFURCATION: ")) << f[5];
+        if (f[2] == "39") {
+            EXPECT_TRUE(f[5].starts_with("BIFURCATION: ")) << f[5];
+        }
     }
     EXPECT_TRUE(heads.count("HIDDEN SINGLE"));
     EXPECT_TRUE(heads.count("POINTING PAIR") || heads.count("BOX LINE REDUCTION"));

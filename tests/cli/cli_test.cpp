@@ -49,9 +49,7 @@ std::vector<std::string> Split(const std::string& text, char sep) {
     return parts;
 }
 
-std::string Text(const Digits& d) {
-    return FormatDigits(d, '.');
-}
+std::string Text(const Digits& d) { return FormatDigits(d, '.'); }
 
 // A solved grid with five cells emptied, one per row, column and box: singles only.
 Digits FiveHoles() {

@@ -2,15 +2,15 @@
 // in their order, the penalties on a scripted clock, the halts.
 #include "grid/candidates.h"
 #include "hints/hint_search.h"
-#include "solver/ladder.h"
 #include "hints/schrijf_hint.h"
+#include "solver/ladder.h"
 #include "support/game_fixture.h"
 
 namespace tavi::testing {
 namespace {
 
 class Hints : public GameFixture {
-public:
+  public:
     int Clock() { return game->ClockSeconds(); }
     // An open cell and a digit that is a candidate there but not its solution.
     std::pair<int, int> WrongCandidate() const {
@@ -40,7 +40,8 @@ TEST_F(Hints, ATechniqueHintChangesNothingAndCostsFifteenSeconds) {
         << g.TextHint();
     EXPECT_TRUE(g.HintWindowCaption().starts_with("Hint - "));
     bool painted = false;
-    for (int c = 0; c < 81; ++c) painted |= g.CellPaint(c).has_value();
+    for (int c = 0; c < 81; ++c)
+        painted |= g.CellPaint(c).has_value();
     EXPECT_TRUE(painted);
 }
 

@@ -6,7 +6,7 @@ namespace tavi::testing {
 namespace {
 
 class Input : public GameFixture {
-public:
+  public:
     // An open cell with at least two marks, other than its solution, that a peer
     // in the same row also carries; and that digit.
     std::pair<int, int> OpenCellWithWrongMark() {
@@ -33,10 +33,12 @@ TEST_F(Input, PlacingTakesTheCellsMarksAndThePeersMarks) {
     EXPECT_EQ(s.LogDigit, digit);
     EXPECT_EQ(s.LogCell, cell);
     EXPECT_EQ(s.LogOwnMarks, before[cell]);
-    for (int peer : Peers[cell]) EXPECT_FALSE(g.board().Has(digit, peer));
+    for (int peer : Peers[cell])
+        EXPECT_FALSE(g.board().Has(digit, peer));
     // The masks name exactly the peers that lost the mark.
     int lost = 0;
-    for (int peer : Peers[cell]) lost += HasDigit(before[peer], digit);
+    for (int peer : Peers[cell])
+        lost += HasDigit(before[peer], digit);
     EXPECT_EQ(std::popcount(unsigned(s.LogColumnMarks)) + std::popcount(unsigned(s.LogRowMarks)) +
                   std::popcount(unsigned(s.LogBoxMarks)),
               lost);
@@ -77,7 +79,8 @@ TEST_F(Input, PencilmarksOffMattersOnlyBelowLevelFour) {
         g.MarkMouseUp(digit, cell, MouseButton::Left, true);
         EXPECT_EQ(g.board().CurrentGrid[cell], digit);
         int peersChanged = 0;
-        for (int peer : Peers[cell]) peersChanged += before[peer] != g.board().Candidates[peer];
+        for (int peer : Peers[cell])
+            peersChanged += before[peer] != g.board().Candidates[peer];
         if (below) {
             EXPECT_EQ(peersChanged, 0) << "level " << level;
         } else {
@@ -178,7 +181,8 @@ TEST_F(Input, ResetCellAndItsUndo) {
     EXPECT_EQ(g.MoveLog()[1].LogDigit, digit + 10);
     EXPECT_EQ(g.board().CurrentGrid[cell], 0);
     EXPECT_EQ(g.board().Candidates[cell], kAllCandidates);
-    for (int peer : Peers[cell]) EXPECT_EQ(g.board().Candidates[peer], placed[peer]);
+    for (int peer : Peers[cell])
+        EXPECT_EQ(g.board().Candidates[peer], placed[peer]);
     g.CommandUndo();
     EXPECT_EQ(g.board().CurrentGrid[cell], digit);
     EXPECT_EQ(Marks(), placed);
@@ -187,7 +191,8 @@ TEST_F(Input, ResetCellAndItsUndo) {
     g.CommandResetCell();
     EXPECT_EQ(g.MoveLog().back().LogDigit, 10);
     int clue = 0;
-    while (!g.IsClue(clue)) ++clue;
+    while (!g.IsClue(clue))
+        ++clue;
     g.RowHeaderUp(clue / 9, MouseButton::Left, true);
     g.ColumnHeaderUp(clue % 9, MouseButton::Left, true);
     const int steps = g.CurrentStep();
@@ -221,8 +226,8 @@ TEST_F(Input, HeadersToggleAndFiltersSurviveSteps) {
 TEST_F(Input, BrushesPaintAndDoNotPlay) {
     Game& g = Playing(2);
     auto [cell, digit] = FirstOpenCell();
-    g.PaletteUp(0, MouseButton::Left, true);  // a mark brush on the left button
-    g.PaletteUp(7, MouseButton::Right, true); // a cell brush on the right
+    g.PaletteUp(0, MouseButton::Left, true);   // a mark brush on the left button
+    g.PaletteUp(7, MouseButton::Right, true);  // a cell brush on the right
     EXPECT_EQ(g.brush().PaletteCaptions[0], " L");
     EXPECT_EQ(g.brush().PaletteCaptions[7], " R");
     EXPECT_TRUE(g.brush().BrushActive);
@@ -236,7 +241,8 @@ TEST_F(Input, BrushesPaintAndDoNotPlay) {
     EXPECT_EQ(g.CellPaint(cell), options.colors.LabelBack[7]);
     EXPECT_EQ(g.MarkPaint(digit % 9 + 1, cell), options.colors.LabelBack[7]);
     g.RowHeaderUp(8, MouseButton::Right, true);
-    for (int c = 72; c < 81; ++c) EXPECT_EQ(g.CellPaint(c), options.colors.LabelBack[7]);
+    for (int c = 72; c < 81; ++c)
+        EXPECT_EQ(g.CellPaint(c), options.colors.LabelBack[7]);
     EXPECT_EQ(g.SelectedRow, kNoLine);
     // The left brush moves to label 7: the right one drops.
     g.PaletteUp(7, MouseButton::Left, true);

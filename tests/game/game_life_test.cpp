@@ -75,7 +75,7 @@ TEST_F(Life, ResumingABusyLevelAnsweredYes) {
 TEST_F(Life, ResumingABusyLevelAnsweredNoOffersTheSamePuzzleAgain) {
     Game& g = Started();
     g.OptionType(3);
-    g.CommandNew();  // record 1, left untouched
+    g.CommandNew();          // record 1, left untouched
     LeaveBusy(*this, g, 3);  // record 2
     ASSERT_EQ(store.Read("SudokuLevel3", "Number", ""), "2");
     prompter.answers = {Answer::No};

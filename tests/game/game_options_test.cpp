@@ -6,7 +6,7 @@ namespace tavi::testing {
 namespace {
 
 class OptionsChange : public GameFixture {
-public:
+  public:
     // What the options window does on OK.
     void ChangeOptions(Game& g, void (*edit)(OptionsForm&)) {
         const Options before = options;
@@ -25,7 +25,9 @@ TEST_F(OptionsChange, PencilmarksOffOnAnEasyGameAndBack) {
     EXPECT_FALSE(g.MarkCaptionsShown());
     EXPECT_TRUE(g.FilterOn(4));
     for (int c = 0; c < 81; ++c)
-        if (!g.board().CurrentGrid[c]) EXPECT_EQ(g.board().Candidates[c], kAllCandidates);
+        if (!g.board().CurrentGrid[c]) {
+            EXPECT_EQ(g.board().Candidates[c], kAllCandidates);
+        }
     ChangeOptions(g, [](OptionsForm& f) { f.PencilmarksOff = false; });
     EXPECT_TRUE(g.MarkCaptionsShown());
     EXPECT_EQ(g.board().Candidates, automatic.Candidates);
@@ -43,7 +45,8 @@ TEST_F(OptionsChange, TheClockOptionWaitsForTheNextSudoku) {
     Game& g = Playing(1);
     ChangeOptions(g, [](OptionsForm& f) { f.TimeOn = false; });
     EXPECT_EQ(prompter.shown.back().title, "Time option changed");
-    EXPECT_EQ(prompter.shown.back().text, "Switching Time on/off will take place on the next sudoku");
+    EXPECT_EQ(prompter.shown.back().text,
+              "Switching Time on/off will take place on the next sudoku");
     EXPECT_TRUE(g.TimerRunning());
     g.CommandNew();
     EXPECT_FALSE(g.TimerRunning());

@@ -6,10 +6,11 @@ namespace tavi::testing {
 namespace {
 
 class Puzzles : public GameFixture {
-public:
+  public:
     // Fills every open cell with its solution digit, one click each.
     void SolveByHand() {
-        for (auto [cell, digit] = FirstOpenCell(); cell >= 0; std::tie(cell, digit) = FirstOpenCell())
+        for (auto [cell, digit] = FirstOpenCell(); cell >= 0;
+             std::tie(cell, digit) = FirstOpenCell())
             game->MarkMouseUp(digit, cell, MouseButton::Left, true);
     }
 };
@@ -122,7 +123,8 @@ TEST_F(Puzzles, ASavedGameComesBackWithItsStepsMarksAndClock) {
     EXPECT_FALSE(options.TimeShow);
     EXPECT_EQ(again.LabelTijd(), "TIMER");
     EXPECT_EQ(again.ClockSeconds(), 200);
-    for (int i = 0; i < 40; ++i) again.CommandUndo();
+    for (int i = 0; i < 40; ++i)
+        again.CommandUndo();
     EXPECT_EQ(again.CurrentStep(), 0);
     EXPECT_FALSE(again.commands().Undo);
     EXPECT_EQ(again.board().CurrentGrid, again.board().Puzzle);
@@ -172,7 +174,8 @@ TEST_F(Puzzles, AGameOfMoreThanAHundredStepsIsNotSaved) {
     const SudokuLogRecord before = LogOf(3, 1);
     auto [cell, digit] = FirstOpenCell();
     (void)digit;
-    for (int i = 0; i < 100; ++i) g.MarkMouseUp(1, cell, MouseButton::Middle, true);
+    for (int i = 0; i < 100; ++i)
+        g.MarkMouseUp(1, cell, MouseButton::Middle, true);
     ASSERT_EQ(g.CurrentStep(), 101);
     prompter.shown.clear();
     g.CommandSave();
@@ -180,7 +183,8 @@ TEST_F(Puzzles, AGameOfMoreThanAHundredStepsIsNotSaved) {
     EXPECT_EQ(prompter.shown[0].title, "Sudoku not saved");
     EXPECT_EQ(LogOf(3, 1), before);
     // Undo still works through all of it.
-    for (int i = 0; i < 101; ++i) g.CommandUndo();
+    for (int i = 0; i < 101; ++i)
+        g.CommandUndo();
     EXPECT_EQ(g.CurrentStep(), 0);
 }
 
@@ -209,7 +213,8 @@ TEST_F(Puzzles, SolvingByHandEndsTheGameWithABestTime) {
 
     // The same puzzle again, slower: no best time; the caption shows the one to beat.
     prompter.shown.clear();
-    for (int i = 0; i < 3; ++i) g.CommandNew();
+    for (int i = 0; i < 3; ++i)
+        g.CommandNew();
     EXPECT_EQ(g.Caption(), "Tavi Sudoku 1 - Easy - 1 - Time to beat >> 01:05");
     clock.now += 100;
     SolveByHand();
@@ -271,7 +276,8 @@ TEST_F(Puzzles, WellsFollowThePlacedDigits) {
     g.CommandUndo();
     EXPECT_FALSE(g.WellFilled(digit, box));
     g.CommandSolution();
-    for (int d = 1; d <= 9; ++d) EXPECT_TRUE(g.DigitCompleted(d));
+    for (int d = 1; d <= 9; ++d)
+        EXPECT_TRUE(g.DigitCompleted(d));
 }
 
 }  // namespace

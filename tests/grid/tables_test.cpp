@@ -7,7 +7,8 @@ namespace {
 
 TEST(Tables, RowLettersSkipI) {
     std::string letters;
-    for (int r = 0; r < 9; ++r) letters += char(Global::RowLetter[r]);
+    for (int r = 0; r < 9; ++r)
+        letters += char(Global::RowLetter[r]);
     EXPECT_EQ(letters, "ABCDEFGHJ");
     EXPECT_EQ(CellName(0), "A1");
     EXPECT_EQ(CellName(8), "A9");
@@ -55,7 +56,8 @@ TEST(Tables, CandidateCountIsThePopulationCount) {
     EXPECT_EQ(Global::CandidateCount[0], 0);
     EXPECT_EQ(Global::CandidateCount[1], 1);
     EXPECT_EQ(Global::CandidateCount[511], 9);
-    for (int m = 0; m < 512; ++m) EXPECT_EQ(Global::CandidateCount[m], std::popcount(unsigned(m)));
+    for (int m = 0; m < 512; ++m)
+        EXPECT_EQ(Global::CandidateCount[m], std::popcount(unsigned(m)));
 }
 
 TEST(Tables, UnitsAndPeers) {
@@ -69,7 +71,8 @@ TEST(Tables, UnitsAndPeers) {
             ++units[c];
         }
     }
-    for (int n : units) EXPECT_EQ(n, 3);
+    for (int n : units)
+        EXPECT_EQ(n, 3);
     // Every cell has 20 distinct peers, none of them itself, all sharing a unit.
     for (int c = 0; c < 81; ++c) {
         std::array<bool, 81> seen{};
@@ -81,8 +84,8 @@ TEST(Tables, UnitsAndPeers) {
                         Global::BoxOfCell[p] == Global::BoxOfCell[c]);
         }
     }
-    EXPECT_EQ(UnitCells[9 + 2][4], 4 * 9 + 2);   // column 2, fifth cell
-    EXPECT_EQ(UnitCells[18 + 4][0], 30);         // centre box starts at its top left cell
+    EXPECT_EQ(UnitCells[9 + 2][4], 4 * 9 + 2);  // column 2, fifth cell
+    EXPECT_EQ(UnitCells[18 + 4][0], 30);        // centre box starts at its top left cell
 }
 
 }  // namespace

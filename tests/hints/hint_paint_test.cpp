@@ -29,9 +29,7 @@ HintRecord HintOf(const Board& board, bool (*rung)(SolveContext&)) {
     return ctx.hint;
 }
 
-std::vector<int> Cells(std::initializer_list<int> cells) {
-    return cells;
-}
+std::vector<int> Cells(std::initializer_list<int> cells) { return cells; }
 
 TEST(PaintHint, ASingleIsItsCellAndDigitAfterTheErase) {
     Board board = OpenBoard();

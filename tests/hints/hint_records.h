@@ -45,9 +45,7 @@ class Record {
 };
 
 // A candidate of Medusa's records: cell + 81 x (digit - 1).
-constexpr int Coded(int cell, int digit) {
-    return cell + 81 * (digit - 1);
-}
+constexpr int Coded(int cell, int digit) { return cell + 81 * (digit - 1); }
 
 // The board after a paint list: the last role painted on each cell and on each
 // candidate of each cell, -1 where nothing is painted.

@@ -37,12 +37,8 @@ struct HitCase {
     const char* sentence;
 };
 
-bool Naked(SolveContext& c, int size) {
-    return NakedHidden(c, true, size);
-}
-bool Hidden(SolveContext& c, int size) {
-    return NakedHidden(c, false, size);
-}
+bool Naked(SolveContext& c, int size) { return NakedHidden(c, true, size); }
+bool Hidden(SolveContext& c, int size) { return NakedHidden(c, false, size); }
 
 TEST(SchrijfHint, TellsEachHitOfTheFirstRungs) {
     const HitCase cases[] = {

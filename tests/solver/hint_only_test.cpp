@@ -108,8 +108,7 @@ std::string Mismatch(const HintRecord& h, const Board& before,
                 removesOnly([&](int c, int d) { return setCell(c) && !setDigit(d); });
             break;
         }
-        default:
-            why << "kind " << h.HintKind;
+        default: why << "kind " << h.HintKind;
     }
     return why.str();
 }

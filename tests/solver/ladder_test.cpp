@@ -33,8 +33,10 @@ TEST(RungTable, NumbersLevelsAndLabels) {
     EXPECT_EQ(RungsOf(17)[0].level, 6);
     EXPECT_EQ(RungsOf(12)[0].level, 5);
     EXPECT_EQ(RungsOf(8)[0].level, 4);
-    for (int t : {28, 32}) EXPECT_EQ(RungsOf(t)[0].Name(), "Nice Loop");
-    for (int t : {29, 33, 38}) EXPECT_EQ(RungsOf(t)[0].Name(), "Alternating Inference Chains");
+    for (int t : {28, 32})
+        EXPECT_EQ(RungsOf(t)[0].Name(), "Nice Loop");
+    for (int t : {29, 33, 38})
+        EXPECT_EQ(RungsOf(t)[0].Name(), "Alternating Inference Chains");
     EXPECT_TRUE(RungsOf(2).empty());
 }
 
@@ -60,7 +62,8 @@ TEST(WorkbenchLadder, SpeaksAtASolvedBoardUnlessABatchRuns) {
         bool import, check;
         int beeps;
         size_t messages;
-    } cases[] = {{false, false, 1, 1}, {false, true, 1, 0}, {true, false, 0, 0}, {true, true, 0, 0}};
+    } cases[] = {
+        {false, false, 1, 1}, {false, true, 1, 0}, {true, false, 0, 0}, {true, true, 0, 0}};
     for (const Case& c : cases) {
         RecordingNotifier notifier;
         SolveContext ctx;
@@ -129,7 +132,8 @@ TEST(WorkbenchLadder, FullBoardAndContradictions) {
     SolveContext broken;
     broken.board = BoardFromPuzzle(p.puzzle);
     int empty = 0;
-    while (p.puzzle[empty]) ++empty;
+    while (p.puzzle[empty])
+        ++empty;
     broken.board.Candidates[empty] = 0;
     EXPECT_FALSE(SolveSudoku(broken, run));
     EXPECT_EQ(broken.SolvingLevel, 0);
@@ -138,7 +142,8 @@ TEST(WorkbenchLadder, FullBoardAndContradictions) {
     SolveContext clash;
     Digits twice = p.puzzle;
     int a = -1, b = -1;
-    for (int c = 0; c < 9; ++c) (twice[c] ? a : b) = (twice[c] ? (a < 0 ? c : a) : c);
+    for (int c = 0; c < 9; ++c)
+        (twice[c] ? a : b) = (twice[c] ? (a < 0 ? c : a) : c);
     ASSERT_GE(a, 0);
     ASSERT_GE(b, 0);
     twice[b] = twice[a];

@@ -28,9 +28,7 @@ bool AnyOf(int x, std::initializer_list<int> values) {
 }
 
 // 18 clues, two per row, one or more in every column and every box.
-bool Sparse(int r, int c) {
-    return c != r && c != (r + 4) % 9;
-}
+bool Sparse(int r, int c) { return c != r && c != (r + 4) % 9; }
 
 TEST(SudMeetRestrictions, TellsTheFirstRuleBroken) {
     struct Case {

@@ -20,13 +20,13 @@ std::string FaultAgainst(const Board& board, const Digits& solution) {
         if (placed && placed != solution[c])
             return "wrong digit " + std::to_string(placed) + " at " + CellName(c);
         if (!placed && !board.Has(solution[c], c))
-            return "true candidate " + std::to_string(solution[c]) + " removed from " +
-                   CellName(c);
+            return "true candidate " + std::to_string(solution[c]) + " removed from " + CellName(c);
     }
     return "";
 }
 
-std::string Describe(const GeneratedPuzzle& p, const Rung& rung, int step, const std::string& fault) {
+std::string Describe(const GeneratedPuzzle& p, const Rung& rung, int step,
+                     const std::string& fault) {
     std::ostringstream s;
     s << "rung " << rung.number << " (" << rung.Name() << ") at step " << step << ": " << fault
       << "\n  puzzle " << FormatDigits(p.puzzle, '.');
@@ -110,7 +110,8 @@ TEST(Soundness, EveryRungAtEveryStateKeepsTheSolution) {
         ASSERT_EQ(failure, "");
     }
     // The rungs that exist today all had something to do.
-    for (size_t r = 0; r < 10; ++r) EXPECT_GT(hits[r], 0) << rungs[r].Name();
+    for (size_t r = 0; r < 10; ++r)
+        EXPECT_GT(hits[r], 0) << rungs[r].Name();
 }
 
 }  // namespace

@@ -15,15 +15,9 @@
 
 namespace tavi::testing {
 
-inline const auto& Row(int r) {
-    return UnitCells[r];
-}
-inline const auto& Column(int c) {
-    return UnitCells[9 + c];
-}
-inline const auto& Box(int b) {
-    return UnitCells[18 + b];
-}
+inline const auto& Row(int r) { return UnitCells[r]; }
+inline const auto& Column(int c) { return UnitCells[9 + c]; }
+inline const auto& Box(int b) { return UnitCells[18 + b]; }
 
 // No digit placed, all nine candidates everywhere.
 inline Board OpenBoard() {

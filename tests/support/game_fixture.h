@@ -21,7 +21,7 @@ namespace tavi::testing {
 // Answers questions from a script, in order; a question with no answer left
 // fails the test. Every box shown is kept.
 class ScriptedPrompter : public Prompter {
-public:
+  public:
     struct Shown {
         std::string title, text;
         Buttons buttons;
@@ -57,7 +57,8 @@ public:
     // The texts shown, in order.
     std::vector<std::string> Texts() const {
         std::vector<std::string> t;
-        for (const auto& s : shown) t.push_back(s.text);
+        for (const auto& s : shown)
+            t.push_back(s.text);
         return t;
     }
     bool Showed(std::string_view text) const {
@@ -88,7 +89,7 @@ struct FakePages : PageOpener {
 };
 
 class GameFixture : public ::testing::Test {
-public:
+  public:
     static constexpr int kPerLevel = 3;
 
     GameFixture() {
@@ -109,9 +110,10 @@ public:
 
     // A new game over the same folders and store, as at the next start.
     Game& NewGame() {
-        game.emplace(GameServices{prompter, store, clock, &sounds, &pages, [this] {
-                         if (yield) yield();
-                     }},
+        game.emplace(GameServices{prompter, store, clock, &sounds, &pages,
+                                  [this] {
+                                      if (yield) yield();
+                                  }},
                      folders, options);
         return *game;
     }

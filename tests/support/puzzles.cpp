@@ -14,7 +14,8 @@ const std::vector<GeneratedPuzzle>& GeneratedPuzzles(int count, std::uint64_t se
     if (list.empty()) {
         PuzzleGenerator generator(seed);
         list.reserve(count);
-        for (int i = 0; i < count; ++i) list.push_back(generator.Next());
+        for (int i = 0; i < count; ++i)
+            list.push_back(generator.Next());
     }
     return list;
 }

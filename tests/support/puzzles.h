@@ -26,7 +26,8 @@ SolveContext ContextFor(std::string_view puzzle, Side side = Side::Workbench);
 template <typename F>
 Board BoardWithCandidates(F keep) {
     Board b;
-    for (int c = 0; c < 81; ++c) b.Candidates[c] = keep(c);
+    for (int c = 0; c < 81; ++c)
+        b.Candidates[c] = keep(c);
     return b;
 }
 

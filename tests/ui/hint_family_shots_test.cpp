@@ -22,9 +22,13 @@ const Family kFamilies[] = {
     {"single", "HIDDEN SINGLE: ", [](const HintRecord& h) { return h.HintKind == 2; }},
     {"pointing-pair", "POINTING PAIR: ", [](const HintRecord& h) { return h.HintKind == 3; }},
     {"naked-triple", "NAKED TRIPLE: ",
-     [](const HintRecord& h) { return h.HintKind == 5 && h.HintVariant > 0 && h.HintCellCount == 3; }},
+     [](const HintRecord& h) {
+         return h.HintKind == 5 && h.HintVariant > 0 && h.HintCellCount == 3;
+     }},
     {"hidden-pair", "HIDDEN PAIR: ",
-     [](const HintRecord& h) { return h.HintKind == 5 && h.HintVariant < 0 && h.HintCellCount == 2; }},
+     [](const HintRecord& h) {
+         return h.HintKind == 5 && h.HintVariant < 0 && h.HintCellCount == 2;
+     }},
     {"bifurcation", "BIFURCATION: ", [](const HintRecord& h) { return h.HintKind == 20; }},
 };
 
@@ -71,7 +75,8 @@ TEST_P(HintFamilies, ShowTheirSentenceAndColours) {
     Press("CommandHint");
     EXPECT_TRUE(game->TextHint().starts_with(family.head)) << game->TextHint();
     int painted = 0;
-    for (int c = 0; c < 81; ++c) painted += game->CellPaint(c).has_value();
+    for (int c = 0; c < 81; ++c)
+        painted += game->CellPaint(c).has_value();
     EXPECT_GT(painted, 0);
 
     QApplication::processEvents();

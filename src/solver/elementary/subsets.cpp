@@ -22,7 +22,8 @@ bool ForEachDigitSet(CandidateMask pool, int size, Visit&& visit) {
     for (int d = 1; d <= 9; ++d)
         if (HasDigit(pool, d)) available[n++] = d;
     if (size > n) return false;
-    for (int i = 0; i < size; ++i) pick[i] = i;
+    for (int i = 0; i < size; ++i)
+        pick[i] = i;
     while (true) {
         CandidateMask set = 0;
         for (int i = 0; i < size; ++i) {
@@ -31,10 +32,12 @@ bool ForEachDigitSet(CandidateMask pool, int size, Visit&& visit) {
         }
         if (visit(set, digits)) return true;
         int i = size - 1;
-        while (i >= 0 && pick[i] == n - size + i) --i;
+        while (i >= 0 && pick[i] == n - size + i)
+            --i;
         if (i < 0) return false;
         ++pick[i];
-        for (int j = i + 1; j < size; ++j) pick[j] = pick[j - 1] + 1;
+        for (int j = i + 1; j < size; ++j)
+            pick[j] = pick[j - 1] + 1;
     }
 }
 
@@ -58,16 +61,17 @@ void FillSubsetHint(SolveContext& ctx, int unit, bool naked, int size, const int
 // Where each digit stands in a unit: bit i of positions[d] for the unit's cell i.
 struct UnitPositions {
     std::array<std::uint16_t, 10> positions{};
-    CandidateMask noted = 0;      // digits that are candidates somewhere in the unit
-    std::uint16_t empties = 0;    // cells without a digit in CurrentGrid
-    CandidateMask placed = 0;     // digits standing in the unit
+    CandidateMask noted = 0;    // digits that are candidates somewhere in the unit
+    std::uint16_t empties = 0;  // cells without a digit in CurrentGrid
+    CandidateMask placed = 0;   // digits standing in the unit
 
     UnitPositions(const Board& b, int unit) {
         for (int i = 0; i < 9; ++i) {
             const int c = UnitCells[unit][i];
             const CandidateMask m = b.Candidates[c];
             noted |= m;
-            for (CandidateMask k = m; k; k &= k - 1) positions[LowestDigit(k)] |= std::uint16_t(1u << i);
+            for (CandidateMask k = m; k; k &= k - 1)
+                positions[LowestDigit(k)] |= std::uint16_t(1u << i);
             if (b.CurrentGrid[c])
                 placed |= DigitBit(b.CurrentGrid[c]);
             else
@@ -77,7 +81,8 @@ struct UnitPositions {
     // The cells holding at least one digit of the set.
     std::uint16_t Holding(CandidateMask set) const {
         std::uint16_t cells = 0;
-        for (CandidateMask k = set; k; k &= k - 1) cells |= positions[LowestDigit(k)];
+        for (CandidateMask k = set; k; k &= k - 1)
+            cells |= positions[LowestDigit(k)];
         return cells;
     }
 };
@@ -85,7 +90,8 @@ struct UnitPositions {
 // The cells of a 9-bit unit mask in unit order; answers how many.
 int CellsOf(int unit, std::uint16_t mask, int (&cells)[5]) {
     int n = 0;
-    for (; mask && n < 5; mask &= mask - 1) cells[n++] = UnitCells[unit][std::countr_zero(unsigned(mask))];
+    for (; mask && n < 5; mask &= mask - 1)
+        cells[n++] = UnitCells[unit][std::countr_zero(unsigned(mask))];
     return n;
 }
 
@@ -119,8 +125,7 @@ bool NakedInUnit(SolveContext& ctx, int unit, int size) {
     if (CountDigits(u.empties) <= size) return false;
     const CandidateMask notPlaced = CandidateMask(kAllCandidates & ~u.placed);
     return ForEachDigitSet(notPlaced, size, [&](CandidateMask set, const int(&digits)[5]) {
-        const std::uint16_t inside =
-            u.empties & ~u.Holding(CandidateMask(kAllCandidates & ~set));
+        const std::uint16_t inside = u.empties & ~u.Holding(CandidateMask(kAllCandidates & ~set));
         if (CountDigits(inside) != size) return false;
         // A spent pattern: no other cell holds a digit of the set any more.
         if (!(u.Holding(set) & ~inside)) return false;
@@ -144,9 +149,11 @@ bool Verwijder(SolveContext& ctx, const int (&digits)[5], int count, const int (
     bool removed = false;
     for (int c : UnitCells[unit]) {
         bool inSet = false;
-        for (int i = 0; i < count; ++i) inSet |= cells[i] == c;
+        for (int i = 0; i < count; ++i)
+            inSet |= cells[i] == c;
         if (inSet) continue;
-        for (int i = 0; i < count; ++i) removed |= VerwijderKnop(ctx, digits[i], c);
+        for (int i = 0; i < count; ++i)
+            removed |= VerwijderKnop(ctx, digits[i], c);
     }
     return removed;
 }
