@@ -1,15 +1,11 @@
 // The clock of a game and the wells beside the board.
+#include "game/display_text.h"
 #include "game/game.h"
 
 namespace tavi {
 
 namespace {
 constexpr int kDay = 86400;
-
-std::string TwoDigits(int n) {
-    const std::string s = std::to_string(n + 100);
-    return s.substr(s.size() - 2);
-}
 }  // namespace
 
 void Game::StartClock() {

@@ -1,6 +1,7 @@
 // Hint, Autosolve and Scan: the solver step by step on the game's board. Before
 // any technique runs, the board is checked for what a technique can't see: wrong
 // digits, lost candidates and digits still marked in their peers.
+#include "game/display_text.h"
 #include "game/game.h"
 #include "grid/candidates.h"
 #include "hints/hint_kinds.h"
@@ -263,7 +264,7 @@ void Game::CommandScan() {
                 "Enter a value between " + std::to_string(low) + " and " + std::to_string(count),
                 def);
             if (!answer || answer->empty()) return 0;
-            const long n = std::atol(answer->c_str());
+            const long n = LeadingNumber(*answer);
             if (n >= low && n <= count) return n;
         }
     };

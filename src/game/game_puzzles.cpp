@@ -1,8 +1,7 @@
 // Puzzles in and out: New, Open, the resume at start, Save, Solution, and the
 // pages that open in the browser. New, Open and the resume share one loading
 // routine.
-#include <charconv>
-
+#include "game/display_text.h"
 #include "game/game.h"
 #include "grid/candidates.h"
 #include "grid/levels.h"
@@ -13,23 +12,6 @@ namespace tavi {
 namespace {
 
 constexpr std::string_view kInProgressTitle = "Sudoku in progress";
-
-// "05" for 5: the last two digits of the number plus 100.
-std::string TwoDigits(int n) {
-    const std::string s = std::to_string(n + 100);
-    return s.substr(s.size() - 2);
-}
-
-// The number at the head of an answer: its leading digits; 0 when there are none.
-long LeadingNumber(std::string_view text) {
-    size_t i = 0;
-    while (i < text.size() && text[i] == ' ')
-        ++i;
-    long n = 0;
-    const auto [end, ec] = std::from_chars(text.data() + i, text.data() + text.size(), n);
-    (void)end;
-    return ec == std::errc() ? n : 0;
-}
 
 }  // namespace
 
