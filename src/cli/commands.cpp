@@ -1,5 +1,6 @@
 #include "cli/commands.h"
 
+#include <algorithm>
 #include <array>
 #include <chrono>
 
@@ -27,15 +28,9 @@ int RatePuzzle(SolveContext& ctx, const Digits& puzzle, const WorkbenchRun& run)
 std::string ExplainStep(const Rung& rung, const Board& board) {
     SolveContext look(Side::Workbench);
     look.board = board;
-    look.HintOnly = true;
-    look.ForceZet = rung.number == kBifurcationTechnique;
+    ModeScope looking(look, HintMode(look.Mode(), rung));
     if (!rung.run(look).found) return "";
     return SchrijfHint(look.hint, board);
-}
-
-std::string FormatChange(const BoardChange& change) {
-    return CellName(change.cell) + (change.kind == BoardChange::Placed ? "=" : "-") +
-           std::to_string(change.digit);
 }
 
 }  // namespace
@@ -81,25 +76,19 @@ int Solve(std::istream& in, std::ostream& out, std::ostream& err) {
 
 int Steps(std::istream& in, std::ostream& out, std::ostream& err, bool explain) {
     SolveContext ctx(Side::Workbench);
-    std::vector<BoardChange> changes;
     int step = 0;
     Board before;
     WorkbenchRun run;
     if (explain) run.observer.before = [&](const Rung&) { before = ctx.board; };
     run.observer.hit = [&](const Rung& rung) {
         out << "step\t" << ++step << '\t' << rung.number << '\t' << rung.Name() << '\t';
-        for (size_t i = 0; i < changes.size(); ++i)
-            out << (i ? " " : "") << FormatChange(changes[i]);
+        if (!ctx.hint.Conclusions.empty()) out << FormatConclusions(ctx.hint.Conclusions);
         if (explain) out << '\t' << ExplainStep(rung, before);
         out << '\n';
-        changes.clear();
     };
     const int bad = ForEachPuzzle(in, err, [&](const PuzzleLine& p) {
         step = 0;
-        changes.clear();
-        ctx.trace = &changes;
         const int level = RatePuzzle(ctx, p.digits, run);
-        ctx.trace = nullptr;
         out << "result\t" << (level == kOutlaw ? "unsolved" : "solved") << '\t' << level << '\t'
             << LevelName(level) << '\n';
     });
@@ -108,22 +97,34 @@ int Steps(std::istream& in, std::ostream& out, std::ostream& err, bool explain) 
 
 int Signature(std::istream& in, std::ostream& out, std::ostream& err) {
     SolveContext ctx(Side::Workbench);
-    std::vector<BoardChange> changes;
-    int steps = 0;
+    const auto rungs = LadderRungs();
+    std::vector<int> hits(rungs.size()), totals(rungs.size());
+    int steps = 0, placed = 0, removed = 0;
     WorkbenchRun run;
-    run.observer.hit = [&](const Rung&) { ++steps; };
+    run.observer.hit = [&](const Rung& rung) {
+        ++steps;
+        ++hits[RungIndex(rung)];
+        for (const Conclusion& c : ctx.hint.Conclusions)
+            ++(c.placed ? placed : removed);
+    };
+    // "3:12 4:30 7.1:2": the hits of each rung that hit, in ladder order.
+    auto format = [&](const std::vector<int>& counts) {
+        std::string s;
+        for (size_t i = 0; i < counts.size(); ++i)
+            if (counts[i])
+                s += (s.empty() ? "" : " ") + RungKey(rungs[i]) + ":" + std::to_string(counts[i]);
+        return s;
+    };
     const int bad = ForEachPuzzle(in, err, [&](const PuzzleLine& p) {
-        steps = 0;
-        changes.clear();
-        ctx.trace = &changes;
+        steps = placed = removed = 0;
+        std::fill(hits.begin(), hits.end(), 0);
         const int level = RatePuzzle(ctx, p.digits, run);
-        ctx.trace = nullptr;
-        int placed = 0;
-        for (const BoardChange& c : changes)
-            placed += c.kind == BoardChange::Placed;
-        out << p.text << '\t' << level << '\t' << steps << '\t' << placed << '\t'
-            << changes.size() - placed << '\n';
+        for (size_t i = 0; i < hits.size(); ++i)
+            totals[i] += hits[i];
+        out << p.text << '\t' << level << '\t' << steps << '\t' << placed << '\t' << removed << '\t'
+            << format(hits) << '\n';
     });
+    out << "hits\t" << format(totals) << '\n';
     return bad ? 1 : 0;
 }
 

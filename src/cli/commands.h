@@ -28,13 +28,27 @@ int Solve(std::istream& in, std::ostream& out, std::ostream& err);
 int Steps(std::istream& in, std::ostream& out, std::ostream& err, bool explain = false);
 
 // A deterministic signature of the ladder: per puzzle the 81 characters, the
-// level, the number of steps, of digits placed and of candidates removed. Kept
-// for a fixed list in the tests, so that no change of behaviour goes unnoticed.
+// level, the number of steps, of digits placed and of candidates removed, and the
+// hits of each rung; a last line "hits" adds up the rungs' hits. Kept for a fixed
+// list in the tests, so that no change of behaviour goes unnoticed.
 int Signature(std::istream& in, std::ostream& out, std::ostream& err);
 
 // Per puzzle: the 81 characters and the sentence that Hint gives on the fresh
 // board with the default options, or "No logical hints, ..."; with `paint`, the
 // hint's paints follow, one per line, each after a tab.
 int Hint(std::istream& in, std::ostream& out, std::ostream& err, bool paint = false);
+
+// Runs technique `technique` once on each board line (see FormatBoardLine) on the
+// workbench side: the givens, a tab, and the changes ("B3-7 A1=5") or "none".
+// With `hint` the game side looks instead, and the hint's sentence follows after
+// another tab. A malformed line is reported with its number; the status is then 1.
+int RungCommand(int technique, std::istream& in, std::ostream& out, std::ostream& err,
+                bool hint = false);
+
+// For each puzzle, the board line of every state at which the rating run had to
+// go past the fixed head of the ladder (rungs 3 to 7 had nothing): the boards on
+// which the ordered techniques work, for the rung command. With `all`, every
+// state the run passes through.
+int States(std::istream& in, std::ostream& out, std::ostream& err, bool all = false);
 
 }  // namespace tavi::cli

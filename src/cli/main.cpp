@@ -24,7 +24,13 @@ constexpr const char* kUsage =
     "                     the hint sentence of each step\n"
     "  hint [--paint]     the sentence of the first hint on the fresh board; --paint\n"
     "                     lists the hint's colours after it\n"
-    "  signature          level, steps, placements and removals of each puzzle\n"
+    "  signature          level, steps, placements, removals and hits per rung\n"
+    "  states [--all]     the boards on which a rating run needs more than the\n"
+    "                     fixed head of the ladder (--all: every board of the\n"
+    "                     run), one board line each\n"
+    "  rung N [--hint]    technique N once on each board line (81 givens, 81\n"
+    "                     digits, 729 candidates); --hint looks on the game side\n"
+    "                     and adds the sentence\n"
     "\n"
     "  generate --count N [--seed S]\n"
     "        N minimal puzzles with one solution each, one per line\n"
@@ -57,14 +63,31 @@ int main(int argc, char** argv) {
     if (command == "generate") return tavi::cli::GenerateCommand(args, std::cout, std::cerr);
     if (command == "library") return tavi::cli::LibraryCommand(args, std::cout, std::cerr);
 
+    int technique = 0;
+    size_t first = 1;
+    if (command == "rung") {
+        if (args.size() < 2) return Usage("rung needs a technique number");
+        try {
+            technique = std::stoi(args[1]);
+        } catch (const std::exception&) {
+            technique = 0;
+        }
+        if (technique < 3 || technique > 39) return Usage("no technique " + args[1]);
+        first = 2;
+    }
+
     tavi::cli::RateOptions rateOptions;
-    bool explain = false, paint = false;
+    bool explain = false, paint = false, hint = false, all = false;
     std::string file;
-    for (size_t i = 1; i < args.size(); ++i) {
+    for (size_t i = first; i < args.size(); ++i) {
         if (args[i] == "--summary" && command == "rate")
             rateOptions.summary = true;
         else if (args[i] == "--explain" && command == "steps")
             explain = true;
+        else if (args[i] == "--all" && command == "states")
+            all = true;
+        else if (args[i] == "--hint" && command == "rung")
+            hint = true;
         else if (args[i] == "--paint" && command == "hint")
             paint = true;
         else if (args[i].rfind("--", 0) == 0)
@@ -91,5 +114,7 @@ int main(int argc, char** argv) {
     if (command == "steps") return tavi::cli::Steps(in, std::cout, std::cerr, explain);
     if (command == "hint") return tavi::cli::Hint(in, std::cout, std::cerr, paint);
     if (command == "signature") return tavi::cli::Signature(in, std::cout, std::cerr);
+    if (command == "states") return tavi::cli::States(in, std::cout, std::cerr, all);
+    if (command == "rung") return tavi::cli::RungCommand(technique, in, std::cout, std::cerr, hint);
     return Usage("unknown command " + command);
 }

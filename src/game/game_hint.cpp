@@ -163,13 +163,15 @@ void Game::CommandHint() {
     if (ReportLostCandidate(true) || ReportStillMarked(true)) return;
 
     busy_ = true;
-    ctx_.BatchRunning = true;
-    ctx_.yield = [this] { Breathe(); };
-    const Rung* hit = FindHint(ctx_, options_.techniques, [&](std::string_view name) {
-        textHint_ = ScanningText(name);
-        Breathe();
-    });
-    ctx_.BatchRunning = false;
+    const Rung* hit = nullptr;
+    {
+        ModeScope batch(ctx_, ctx_.Mode().With(SolveMode::kBatchRunning));
+        ctx_.yield = [this] { Breathe(); };
+        hit = FindHint(ctx_, options_.techniques, [&](std::string_view name) {
+            textHint_ = ScanningText(name);
+            Breathe();
+        });
+    }
     busy_ = false;
     if (!hit) {
         textHint_ = std::string(kNoLogicalHints);
@@ -181,45 +183,43 @@ void Game::CommandHint() {
 }
 
 bool Game::AutoSolveBoard() {
-    const auto walk = HintWalk(options_.techniques);
+    const RungOrder rungs = HintWalk(options_.techniques);
+    const auto halts = [this](const Rung& rung) {
+        return options_.techniques.Halt[rung.number] == 1;
+    };
     busy_ = true;
-    ctx_.BatchRunning = true;
+    ModeScope batch(ctx_, ctx_.Mode().With(SolveMode::kBatchRunning));
     ctx_.yield = [this] { Breathe(); };
-    bool halted = false;
-    while (!scanStop_) {
+    const SolveMode base = ctx_.Mode();
+
+    LadderWalk walk;
+    walk.rungs = rungs.View();
+    walk.checkContradiction = false;
+    // A rung marked as a halt only looks: its hit is shown, not taken.
+    walk.modeFor = [&](const Rung& rung) { return halts(rung) ? HintMode(base, rung) : base; };
+    walk.before = [&](const Rung& rung) { textHint_ = ScanningText(AutosolveScanName(rung)); };
+    walk.hit = [&](const Rung& rung) {
+        if (!halts(rung)) return true;
+        Speel(kSoundPenalty);
+        ShowTechniqueHint();
+        return false;
+    };
+    walk.stop = [this] {
+        if (scanStop_) return true;
         Breathe();
-        bool progressed = false;
-        for (const Rung* rung : walk) {
-            textHint_ = ScanningText(AutosolveScanName(*rung));
-            const bool halt = options_.techniques.Halt[rung->number] == 1;
-            ctx_.HintOnly = halt;
-            ctx_.ForceZet = rung->number == kBifurcationTechnique && halt;
-            if (!rung->run(ctx_).found) continue;
-            if (ctx_.HintOnly) {
-                // A halt: the hit is shown, not taken.
-                Speel(kSoundPenalty);
-                ShowTechniqueHint();
-                halted = true;
-            }
-            progressed = true;
-            break;
-        }
-        ctx_.HintOnly = ctx_.ForceZet = false;
-        if (halted) break;
-        if (!progressed) {
-            textHint_ = std::string(kAutosolveCompleted);
-            break;
-        }
-        if (BoardSolved()) {
-            if (options_.Wells) SetupWells();
-            ZetOpgelost();
-            break;
-        }
+        return false;
+    };
+    int cellsLeft = ctx_.board.EmptyCount();
+    const WalkEnd end = WalkLadder(ctx_, walk, cellsLeft).end;
+    if (end == WalkEnd::Solved && BoardSolved()) {
+        if (options_.Wells) SetupWells();
+        ZetOpgelost();
+    } else if (end == WalkEnd::Solved || end == WalkEnd::Exhausted) {
+        textHint_ = std::string(kAutosolveCompleted);
     }
-    ctx_.BatchRunning = false;
     busy_ = false;
     if (options_.Wells) SetupWells();
-    return halted;
+    return end == WalkEnd::Halted;
 }
 
 void Game::CommandAutoSolve() {
@@ -229,16 +229,14 @@ void Game::CommandAutoSolve() {
             "All pencilmarks must be visible to start the Autosolver, shall I make them visible ?"))
         return;
     ResetHintStage();
-    ctx_.AutosolveActive = true;
+    ModeScope autosolving(ctx_, ctx_.Mode().With(SolveMode::kAutosolveActive));
     if (ReportWrongNumber(false) || ReportLostCandidate(false) || ReportStillMarked(false)) {
         commands_.ScanCaption = "Scan";
-        ctx_.AutosolveActive = false;
         return;
     }
     // A game Autosolve has touched can't be saved any more.
     position_.SudokuAutosolved = true;
     AutoSolveBoard();
-    ctx_.AutosolveActive = false;
 }
 
 void Game::CommandScan() {
@@ -280,11 +278,9 @@ void Game::CommandScan() {
         position_.PuzzleNumber[level] = int(n);
         LoadPuzzle(false);
         if (!gridEnabled_) break;
-        ctx_.AutosolveActive = true;
+        ModeScope autosolving(ctx_, ctx_.Mode().With(SolveMode::kAutosolveActive));
         position_.SudokuAutosolved = true;
-        const bool halted = AutoSolveBoard();
-        ctx_.AutosolveActive = false;
-        if (halted) break;
+        if (AutoSolveBoard()) break;
     }
     scanStop_ = false;
     commands_.ScanCaption = "Scan";

@@ -1,5 +1,7 @@
 #include "grid/board.h"
 
+#include <algorithm>
+
 namespace tavi {
 
 int Board::EmptyCount() const {
@@ -7,6 +9,14 @@ int Board::EmptyCount() const {
     for (auto d : CurrentGrid)
         n += d == 0;
     return n;
+}
+
+CellSet Board::CellsWith(int digit) const {
+    CellSet s;
+    const CandidateMask bit = DigitBit(digit);
+    for (int c = 0; c < 81; ++c)
+        if (Candidates[c] & bit) s.Add(c);
+    return s;
 }
 
 std::optional<Digits> ParseDigits(std::string_view line, std::string* error) {
@@ -34,6 +44,58 @@ std::optional<Digits> ParseDigits(std::string_view line, std::string* error) {
         }
     }
     return d;
+}
+
+std::string FormatBoardLine(const Board& board) {
+    std::string s = FormatDigits(board.Puzzle) + ' ' + FormatDigits(board.CurrentGrid) + ' ';
+    for (int c = 0; c < 81; ++c)
+        for (int d = 1; d <= 9; ++d)
+            s += board.Has(d, c) ? char('0' + d) : '.';
+    return s;
+}
+
+std::optional<Board> ParseBoardLine(std::string_view line, std::string* error) {
+    auto fail = [&](std::string why) -> std::optional<Board> {
+        if (error) *error = std::move(why);
+        return std::nullopt;
+    };
+    std::string_view fields[3];
+    for (auto& field : fields) {
+        const size_t start = line.find_first_not_of(" \t");
+        if (start == std::string_view::npos) return fail("a board needs three fields");
+        line.remove_prefix(start);
+        const size_t end = std::min(line.find_first_of(" \t"), line.size());
+        field = line.substr(0, end);
+        line.remove_prefix(end);
+    }
+    if (line.find_first_not_of(" \t\r") != std::string_view::npos)
+        return fail("more than three fields");
+    if (fields[0].size() != 81) return fail("the givens need 81 characters");
+    if (fields[1].size() != 81) return fail("the digits need 81 characters");
+    if (fields[2].size() != 729) return fail("the candidates need 729 characters");
+
+    Board b;
+    std::string why;
+    const auto givens = ParseDigits(fields[0], &why);
+    if (!givens) return fail("givens: " + why);
+    const auto digits = ParseDigits(fields[1], &why);
+    if (!digits) return fail("digits: " + why);
+    b.Puzzle = *givens;
+    b.CurrentGrid = *digits;
+    for (int c = 0; c < 81; ++c) {
+        if (b.Puzzle[c] && b.Puzzle[c] != b.CurrentGrid[c])
+            return fail("the given of " + CellName(c) + " differs from its digit");
+        for (int d = 1; d <= 9; ++d) {
+            const char ch = fields[2][9 * c + d - 1];
+            if (ch == char('0' + d))
+                b.Candidates[c] |= DigitBit(d);
+            else if (ch != '.')
+                return fail("bad candidate character at position " + std::to_string(9 * c + d));
+        }
+        if (b.CurrentGrid[c] && b.Candidates[c])
+            return fail(CellName(c) + " holds a digit and candidates");
+    }
+    return b;
 }
 
 std::string FormatDigits(const Digits& digits, char empty) {

@@ -9,6 +9,7 @@
 #include <string>
 #include <string_view>
 
+#include "grid/sets.h"
 #include "grid/tables.h"
 
 namespace tavi {
@@ -22,7 +23,9 @@ struct Board {
     std::array<CandidateMask, 81> Candidates{};  // bit d-1: digit d possible; 0 for a filled cell
 
     bool Has(int digit, int cell) const { return HasDigit(Candidates[cell], digit); }
-    int EmptyCount() const;  // cells of CurrentGrid without a digit
+    DigitSet CandidatesOf(int cell) const { return DigitSet(Candidates[cell]); }
+    CellSet CellsWith(int digit) const;  // the cells that have `digit` as a candidate
+    int EmptyCount() const;              // cells of CurrentGrid without a digit
 };
 
 // Reads the first 81 characters of a line: '1'..'9' a given, '0' or '.' an empty cell.
@@ -31,5 +34,14 @@ std::optional<Digits> ParseDigits(std::string_view line, std::string* error = nu
 
 // 81 characters, '0' for an empty cell.
 std::string FormatDigits(const Digits& digits, char empty = '0');
+
+// A board as one line of three fields separated by blanks: the 81 givens, the 81
+// digits now in the cells (givens included, '0' or '.' for empty), and 729
+// characters of candidates, nine per cell in order, digit d at position d when it
+// is a candidate and '.' otherwise. The solution is not part of it.
+std::string FormatBoardLine(const Board& board);
+// Reads such a line. A given that differs from the digit in its cell, a filled
+// cell with candidates, or a malformed field gives nothing; `error` then says why.
+std::optional<Board> ParseBoardLine(std::string_view line, std::string* error = nullptr);
 
 }  // namespace tavi

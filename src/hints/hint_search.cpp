@@ -72,39 +72,30 @@ std::string ScanningText(std::string_view name) {
     return "Scanning for " + std::string(name) + " - Please be patient";
 }
 
-std::vector<const Rung*> HintWalk(const TechniqueTables& tables) {
-    std::vector<const Rung*> walk;
-    const auto rungs = LadderRungs();
-    for (const Rung& r : rungs)
-        if (r.number < 8) walk.push_back(&r);
-    // At each position the technique whose entry names it; where two entries
-    // share a position the later one wins. Bifurcation keeps the last place.
-    for (int p = 8; p <= kBifurcationTechnique; ++p) {
-        int technique = 0;
-        for (int i = 1; i <= kBifurcationTechnique; ++i) {
-            const int position = i == kBifurcationTechnique ? i : i < 8 ? i : tables.Order[i];
-            if (position == p) technique = i;
-        }
-        if (technique && tables.OnOff[technique] == 1) walk.push_back(&RungsOf(technique)[0]);
-    }
-    return walk;
+RungOrder HintWalk(const TechniqueTables& tables) {
+    return OrderedRungs(tables.Order, [&](int technique) { return tables.OnOff[technique] == 1; });
+}
+
+SolveMode HintMode(SolveMode base, const Rung& rung) {
+    // Bifurcation's trials must change the board, so a hint that reaches it lets
+    // them (ForceZet) and keeps its own guess a look.
+    return base.With(SolveMode::kHintOnly)
+        .With(SolveMode::kForceZet, rung.number == kBifurcationTechnique);
 }
 
 const Rung* FindHint(SolveContext& ctx, const TechniqueTables& tables,
                      const std::function<void(std::string_view)>& scanning) {
-    const Rung* hit = nullptr;
-    for (const Rung* rung : HintWalk(tables)) {
-        if (scanning) scanning(HintScanName(*rung));
-        ctx.HintOnly = true;
-        ctx.ForceZet = rung->number == kBifurcationTechnique;
-        if (rung->run(ctx).found) {
-            hit = rung;
-            break;
-        }
-    }
-    ctx.HintOnly = false;
-    ctx.ForceZet = false;
-    return hit;
+    const RungOrder rungs = HintWalk(tables);
+    const SolveMode base = ctx.Mode();
+    LadderWalk walk;
+    walk.rungs = rungs.View();
+    walk.checkContradiction = false;
+    walk.firstHitOnly = true;
+    walk.modeFor = [&](const Rung& rung) { return HintMode(base, rung); };
+    if (scanning) walk.before = [&](const Rung& rung) { scanning(HintScanName(rung)); };
+    int cellsLeft = ctx.board.EmptyCount();
+    const WalkResult result = WalkLadder(ctx, walk, cellsLeft);
+    return result.end == WalkEnd::Hit ? result.last : nullptr;
 }
 
 }  // namespace tavi

@@ -20,11 +20,13 @@ std::string_view AutosolveScanName(const Rung& rung);
 std::string ScanningText(std::string_view name);
 
 // The rungs in the order Hint and Autosolve walk them with these tables.
-std::vector<const Rung*> HintWalk(const TechniqueTables& tables);
+RungOrder HintWalk(const TechniqueTables& tables);
+// The mode a rung runs in when Hint asks it: look, don't touch.
+SolveMode HintMode(SolveMode base, const Rung& rung);
 
 // One press of Hint on the ladder: runs the walk under HintOnly (with ForceZet
 // for Bifurcation, whose trials must change the board) and answers the rung that
-// filled ctx.hint, or null. Leaves HintOnly and ForceZet clear. `scanning` hears
+// filled ctx.hint, or null. The mode is as it was afterwards. `scanning` hears
 // each rung's name before it runs.
 const Rung* FindHint(SolveContext& ctx, const TechniqueTables& tables,
                      const std::function<void(std::string_view)>& scanning = {});

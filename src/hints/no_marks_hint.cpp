@@ -13,10 +13,8 @@ std::optional<SpecialHit> FindSpecialHint(const Digits& grid,
     SetupCandidates(ctx.board);
 
     auto single = [&](bool (*rung)(SolveContext&)) -> std::optional<SpecialHit> {
-        ctx.HintOnly = true;
-        const bool hit = rung(ctx);
-        ctx.HintOnly = false;
-        if (!hit) return std::nullopt;
+        ModeScope looking(ctx, ctx.Mode().With(SolveMode::kHintOnly));
+        if (!rung(ctx)) return std::nullopt;
         return SpecialHit{9 * ctx.hint.HintRow + ctx.hint.HintColumn, ctx.hint.HintNumber};
     };
     auto say = [&](std::string_view text) {

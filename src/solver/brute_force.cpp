@@ -162,10 +162,11 @@ int BruteForceSolutions(SolveContext& ctx, bool& noSolutionFound) {
     if (cellsToSolve == 0) return 1;
 
     // The logic first takes away nearly all the work of an easy puzzle.
-    const bool hintOnly = ctx.HintOnly;
-    ctx.HintOnly = false;
-    const bool solvedByLogic = PreSolve(ctx, cellsToSolve, noSolutionFound);
-    ctx.HintOnly = hintOnly;
+    bool solvedByLogic = false;
+    {
+        ModeScope applying(ctx, ctx.Mode().Without(SolveMode::kHintOnly));
+        solvedByLogic = PreSolve(ctx, cellsToSolve, noSolutionFound);
+    }
     if (solvedByLogic) return 1;
     if (noSolutionFound) return 0;
 

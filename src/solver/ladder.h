@@ -1,6 +1,12 @@
 // The ladder: the techniques from the simplest to the hardest, back to the top
 // after every success, until the board is solved or no technique helps. The
 // hardest technique a puzzle needed is its rating.
+//
+// One table holds every rung; one walk runs them. The walkers (the workbench's
+// rating run, the game's check of a made puzzle, the trial of Bifurcation, the
+// pre-solve of the brute force, Hint, Autosolve and the command line's steps)
+// differ only in the policy they hand the walk: which rungs in which order, in
+// which mode, and what follows a hit.
 #pragma once
 
 #include <array>
@@ -22,11 +28,13 @@ struct RungOutcome {
 struct Rung {
     int number;  // the technique number, the index into the technique tables
     RungOutcome (*run)(SolveContext&);
-    int level;               // what a hit raises SolvingLevel to
-    std::string_view label;  // " - Scanning for ...", shown during a batch run
+    int level;                 // what a hit raises SolvingLevel to
+    std::string_view label;    // " - Scanning for ...", shown during a batch run
+    std::array<int, 2> kinds;  // the hint kinds a hit fills (the second 0 when one)
 
     // The label without its leading " - Scanning for ".
     std::string_view Name() const { return label.substr(16); }
+    bool Fills(int kind) const { return kind != 0 && (kind == kinds[0] || kind == kinds[1]); }
 };
 
 // All rungs in their fixed order. Technique 7 stands six times (the subsets);
@@ -34,11 +42,55 @@ struct Rung {
 std::span<const Rung> LadderRungs();
 // The rungs of one technique number (one, or six for technique 7).
 std::span<const Rung> RungsOf(int technique);
+// The position of a rung in LadderRungs.
+int RungIndex(const Rung& rung);
 
 inline constexpr int kTechniqueCount = 40;  // numbers 0..39; the ladder uses 3..39
 inline constexpr int kBifurcationTechnique = 39;
+inline constexpr int kFirstOrderedTechnique = 8;          // the first that follows TechniqueOrder
 using TechniqueOrder = std::array<int, kTechniqueCount>;  // entry i: position of technique i
 TechniqueOrder DefaultTechniqueOrder();
+
+// A list of rungs in the order a walk tries them.
+class RungOrder {
+  public:
+    void Add(const Rung* rung) { rungs_[size_++] = rung; }
+    std::span<const Rung* const> View() const { return {rungs_.data(), size_t(size_)}; }
+
+  private:
+    std::array<const Rung*, 42> rungs_{};
+    int size_ = 0;
+};
+// The fixed head, then at each position from 8 on the technique whose order entry
+// names it. Where two entries share a position the higher technique number wins,
+// as the scan does not stop at the first; Bifurcation keeps the last place.
+// `on`, when given, leaves out the techniques it answers false for.
+RungOrder OrderedRungs(const TechniqueOrder& order,
+                       const std::function<bool(int technique)>& on = {});
+
+// How a walk runs the rungs.
+struct LadderWalk {
+    std::span<const Rung* const> rungs;  // in the order they are tried
+    bool yieldEachPass = false;          // let the window breathe at the top of each pass
+    bool checkContradiction = true;      // EmptyCell at the top of each pass
+    // The workbench ends a run only on a single that fills the last cell; a board
+    // filled by another rung is run over once more and the walk ends exhausted.
+    bool onlySinglesFinish = false;
+    bool firstHitOnly = false;                      // one step: the first hit ends the walk
+    std::function<SolveMode(const Rung&)> modeFor;  // a rung's mode; by default as it stands
+    std::function<void(const Rung&)> before;        // before each rung
+    std::function<bool(const Rung&)> hit;           // after each hit; false halts the walk
+    std::function<bool()> stop;                     // asked at the top of each pass
+};
+enum class WalkEnd { Solved, Contradiction, Exhausted, Hit, Halted, Stopped };
+struct WalkResult {
+    WalkEnd end;
+    const Rung* last = nullptr;  // the rung of the last hit
+};
+// Walks the rungs, back to the top after every hit, keeping `cellsLeft` (the empty
+// cells) in step with what the rungs place. The record's conclusions are emptied
+// before each rung, so after a hit they hold what that hit concluded.
+WalkResult WalkLadder(SolveContext& ctx, const LadderWalk& walk, int& cellsLeft);
 
 // What a walker wants to hear of a run. All optional.
 struct LadderObserver {
@@ -71,6 +123,16 @@ bool BIFSolveSudoku(SolveContext& ctx, int digit, int cell);
 // test, the singles, the intersections and the subsets. True when it filled the
 // last of `cellsToSolve`; `contradiction` is set when a cell ran out of candidates.
 bool PreSolve(SolveContext& ctx, int& cellsToSolve, bool& contradiction);
+
+// Runs technique `technique` once on the board in the context's mode: its rungs in
+// table order (the six subset rows for technique 7), the first hit answering. The
+// record's conclusions then hold what the hit concludes. Null for no hit, or for a
+// number that is no rung.
+const Rung* RunTechnique(SolveContext& ctx, int technique);
+
+// A short name of a rung for counts: its technique number, and for the six subset
+// rows of technique 7 the row as well ("7.1" to "7.6").
+std::string RungKey(const Rung& rung);
 
 // "Sudoku solved and rated as Easy" and its like, for levels 1..8.
 std::string SolvedMessage(int level);

@@ -1,5 +1,5 @@
-// The candidate routines as the techniques call them: they honour HintOnly, keep
-// the game's move log in step, and record the trace of a step when asked.
+// The candidate routines as the techniques call them: they honour the mode, keep
+// the game's move log in step, and write down what a hit concludes.
 #pragma once
 
 #include "grid/candidates.h"
@@ -11,18 +11,20 @@ namespace tavi {
 // nothing changes and the answer is still true, so that a technique learns it
 // would have removed something. Outside a hint, and unless ForceZet keeps the
 // solver's own trials out of it, the removal is a step of the game's move log.
+// Either way the removal joins the record's conclusions.
 inline bool VerwijderKnop(SolveContext& ctx, int digit, int cell) {
     if (!ctx.board.Has(digit, cell)) return false;
-    if (ctx.HintOnly) return true;
+    ctx.hint.Conclusions.Add(cell, digit, false);
+    if (ctx.HintOnly()) return true;
     ctx.board.Candidates[cell] &= CandidateMask(~DigitBit(digit));
-    if (ctx.trace) ctx.trace->push_back({BoardChange::Removed, cell, digit});
-    if (!ctx.ForceZet && ctx.listener) ctx.listener->CandidateRemoved(digit, cell);
+    if (!ctx.ForceZet() && ctx.listener) ctx.listener->CandidateRemoved(digit, cell);
     return true;
 }
 
-// Places a digit found by a technique: through the game's ZetAuto while Autosolve
-// is placing (and ForceZet is not set), otherwise through Zet; then writes
-// CurrentGrid and raises the level. Not for use under HintOnly.
+// Places a digit found by a technique and raises the level. Under HintOnly it only
+// writes the placement down among the conclusions. Otherwise it places through the
+// game's ZetAuto while Autosolve is placing (and ForceZet is not set), else through
+// Zet, and writes CurrentGrid.
 void PlaceDigit(SolveContext& ctx, int digit, int cell, int level);
 
 }  // namespace tavi

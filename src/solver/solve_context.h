@@ -1,13 +1,12 @@
-// Everything a technique works on: the board, the level reached, the mode flags,
-// the hint record, and the hooks through which the game keeps its move log in step
-// and the workbench keeps its window alive. Every technique is written once against
-// this context and cannot tell which board it is on, except where the two sides are
-// said to differ (see Side).
+// Everything a technique works on: the board, the level reached, the mode, the
+// hint record, and the hooks through which the game keeps its move log in step
+// and the workbench keeps its window alive. Every technique is written once
+// against this context and cannot tell which board it is on, except where the two
+// sides are said to differ (see Side).
 #pragma once
 
+#include <cstdint>
 #include <functional>
-#include <string_view>
-#include <vector>
 
 #include "grid/board.h"
 #include "grid/notifier.h"
@@ -36,36 +35,90 @@ class MoveListener {
     virtual void CandidateRemoved(int digit, int cell) = 0;
 };
 
-// One change made by a rung, for the step trace of the command-line companion.
-struct BoardChange {
-    enum Kind { Placed, Removed } kind;
-    int cell;
-    int digit;
+// How the solver acts, as one value:
+//  - HintOnly: look, don't touch. A hit fills the hint record and changes nothing.
+//  - ForceZet: the solver's own placements use Zet and stay out of the move log
+//    (the trials of Bifurcation).
+//  - AutosolveActive: placements go through the game's ZetAuto, as moves.
+//  - BatchRunning: a long run, which lets the window breathe between passes.
+// A mode is changed only through a ModeScope, which puts the previous one back on
+// every way out.
+class SolveMode {
+  public:
+    enum Flag : std::uint8_t {
+        kHintOnly = 1,
+        kForceZet = 2,
+        kAutosolveActive = 4,
+        kBatchRunning = 8
+    };
+
+    constexpr SolveMode() = default;
+    constexpr bool HintOnly() const { return bits_ & kHintOnly; }
+    constexpr bool ForceZet() const { return bits_ & kForceZet; }
+    constexpr bool AutosolveActive() const { return bits_ & kAutosolveActive; }
+    constexpr bool BatchRunning() const { return bits_ & kBatchRunning; }
+
+    // This mode with `flag` set (or cleared when `on` is false).
+    constexpr SolveMode With(Flag flag, bool on = true) const {
+        SolveMode m = *this;
+        m.bits_ = std::uint8_t(on ? bits_ | flag : bits_ & ~flag);
+        return m;
+    }
+    constexpr SolveMode Without(Flag flag) const { return With(flag, false); }
+    constexpr bool operator==(const SolveMode&) const = default;
+
+  private:
+    std::uint8_t bits_ = 0;
 };
 
 struct SolveContext {
     Board board;
     Side side = Side::Workbench;
     int SolvingLevel = 0;
-
-    bool HintOnly = false;         // look, fill the record, change nothing
-    bool ForceZet = false;         // solver placements use Zet and stay out of the move log
-    bool AutosolveActive = false;  // solver placements use ZetAuto
-    bool BatchRunning = false;     // a long run: yield to the event queue between passes
     HintRecord hint;
 
-    std::function<void()> yield;                // lets the window breathe in long loops
-    MoveListener* listener = nullptr;           // the game's move log
-    std::vector<BoardChange>* trace = nullptr;  // records placements and removals when set
+    std::function<void()> yield;       // lets the window breathe in long loops
+    MoveListener* listener = nullptr;  // the game's move log
 
     explicit SolveContext(Side s = Side::Workbench) : side(s) {}
+
+    const SolveMode& Mode() const { return mode_; }
+    bool HintOnly() const { return mode_.HintOnly(); }
+    bool ForceZet() const { return mode_.ForceZet(); }
+    bool AutosolveActive() const { return mode_.AutosolveActive(); }
+    bool BatchRunning() const { return mode_.BatchRunning(); }
 
     void RaiseLevel(int level) {
         if (SolvingLevel < level) SolvingLevel = level;
     }
     void Yield() {
-        if (BatchRunning && yield) yield();
+        if (BatchRunning() && yield) yield();
     }
+
+  private:
+    friend class ModeScope;
+    SolveMode mode_;
+};
+
+// Sets the solver's mode for as long as it lives and puts the previous mode back
+// when it goes, whichever way the scope is left.
+class [[nodiscard]] ModeScope {
+  public:
+    ModeScope(SolveContext& ctx, SolveMode mode) : ctx_(ctx), saved_(ctx.mode_) {
+        ctx.mode_ = mode;
+    }
+    ~ModeScope() { ctx_.mode_ = saved_; }
+    ModeScope(const ModeScope&) = delete;
+    ModeScope& operator=(const ModeScope&) = delete;
+
+    // Changes the mode within the scope; the scope still restores the one it found.
+    void Set(SolveMode mode) { ctx_.mode_ = mode; }
+    // The mode the scope found, to derive a new one from.
+    const SolveMode& Saved() const { return saved_; }
+
+  private:
+    SolveContext& ctx_;
+    SolveMode saved_;
 };
 
 }  // namespace tavi

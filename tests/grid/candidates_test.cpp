@@ -61,8 +61,9 @@ TEST(VerwijderKnop, HonoursHintOnlyAndForceZet) {
         RecordingListener listener;
         SolveContext ctx = testing::ContextOn(b, Side::Game);
         ctx.listener = &listener;
-        ctx.HintOnly = k.hintOnly;
-        ctx.ForceZet = k.forceZet;
+        ModeScope mode(ctx, SolveMode{}
+                                .With(SolveMode::kHintOnly, k.hintOnly)
+                                .With(SolveMode::kForceZet, k.forceZet));
         EXPECT_EQ(VerwijderKnop(ctx, k.digit, 12), k.answer);
         EXPECT_EQ(ctx.board.Has(k.digit, 12), k.digit == 7 && !k.removes);
         EXPECT_EQ(testing::Removals(b, ctx.board).size(), k.removes ? 1u : 0u);

@@ -23,7 +23,7 @@ using testing::SetCandidates;
 
 HintRecord HintOf(const Board& board, bool (*rung)(SolveContext&)) {
     SolveContext ctx = testing::ContextOn(board, Side::Game);
-    ctx.HintOnly = true;
+    ModeScope looking_ctx(ctx, ctx.Mode().With(SolveMode::kHintOnly));
     ctx.hint = testing::MarkedHint();
     EXPECT_TRUE(rung(ctx));
     return ctx.hint;

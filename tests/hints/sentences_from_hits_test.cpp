@@ -24,7 +24,7 @@ using testing::SetCandidates;
 // The record a rung leaves when it runs as a hint over a record of stale marks.
 HintRecord HintOf(const Board& board, const std::function<bool(SolveContext&)>& rung) {
     SolveContext ctx = testing::ContextOn(board, Side::Game);
-    ctx.HintOnly = true;
+    ModeScope looking_ctx(ctx, ctx.Mode().With(SolveMode::kHintOnly));
     ctx.hint = testing::MarkedHint();
     EXPECT_TRUE(rung(ctx)) << "the rung finds its pattern";
     return ctx.hint;
@@ -150,7 +150,7 @@ TEST(SchrijfHint, TellsTheGuessOfBifurcation) {
     for (const auto& p : testing::GeneratedPuzzles(20)) {
         const Board board = BoardFromPuzzle(p.puzzle);
         SolveContext ctx = testing::ContextOn(board, Side::Game);
-        ctx.HintOnly = true;
+        ModeScope looking_ctx(ctx, ctx.Mode().With(SolveMode::kHintOnly));
         ctx.hint = testing::MarkedHint();
         if (!Bifurcation(ctx)) continue;
         const HintRecord& h = ctx.hint;

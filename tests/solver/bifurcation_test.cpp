@@ -33,7 +33,7 @@ std::vector<Board> StuckBoards(int count) {
 
 bool TrialSolves(const Board& board, Guess g) {
     SolveContext trial = testing::ContextOn(board);
-    trial.ForceZet = true;
+    ModeScope forced(trial, trial.Mode().With(SolveMode::kForceZet));
     return BIFSolveSudoku(trial, g.digit, g.cell);
 }
 
@@ -53,9 +53,8 @@ TEST(Bifurcation, GuessesDigitByDigitAndRestoresTheBoardBetweenTrials) {
     for (const Board& stuck : StuckBoards(150)) {
         const auto expected = FirstWorkingGuess(stuck, true);
         const auto cellFirst = FirstWorkingGuess(stuck, false);
-        std::vector<BoardChange> trace;
         SolveContext ctx = testing::ContextOn(stuck);
-        ctx.trace = &trace;
+        const ConclusionList& trace = ctx.hint.Conclusions;
         ASSERT_EQ(Bifurcation(ctx), expected.has_value());
         Board after = stuck;
         if (expected) {
@@ -65,7 +64,7 @@ TEST(Bifurcation, GuessesDigitByDigitAndRestoresTheBoardBetweenTrials) {
             after.CurrentGrid[expected->cell] = std::uint8_t(expected->digit);
             EXPECT_EQ(ctx.SolvingLevel, 8);
             ASSERT_EQ(trace.size(), 1u) << "the trials leave no trace";
-            EXPECT_EQ(trace[0].kind, BoardChange::Placed);
+            EXPECT_TRUE(trace[0].placed);
             EXPECT_EQ((Guess{trace[0].digit, trace[0].cell}), *expected);
         } else {
             ++failed;
@@ -87,11 +86,11 @@ TEST(Bifurcation, UnderAHintFillsKindTwentyAndChangesNothing) {
         const auto expected = FirstWorkingGuess(stuck, true);
         testing::RecordingListener listener;
         SolveContext ctx = testing::ContextOn(stuck, Side::Game);
-        ctx.HintOnly = ctx.ForceZet = true;
+        ModeScope looking(ctx, SolveMode{}.With(SolveMode::kHintOnly).With(SolveMode::kForceZet));
         ctx.listener = &listener;
         ctx.hint = testing::MarkedHint();
         ASSERT_EQ(Bifurcation(ctx), expected.has_value());
-        EXPECT_TRUE(ctx.HintOnly && ctx.ForceZet) << "the flags are as they were";
+        EXPECT_TRUE(ctx.HintOnly() && ctx.ForceZet()) << "the mode is as it was";
         ASSERT_EQ(ctx.board.Candidates, stuck.Candidates);
         ASSERT_EQ(ctx.board.CurrentGrid, stuck.CurrentGrid);
         EXPECT_TRUE(listener.placed.empty() && listener.removed.empty());
@@ -113,13 +112,13 @@ TEST(Bifurcation, AutosolvePlacesTheGuessThroughZetAuto) {
         if (!expected) continue;
         testing::RecordingListener listener;
         SolveContext ctx = testing::ContextOn(stuck, Side::Game);
-        ctx.AutosolveActive = true;
+        ModeScope autosolving(ctx, ctx.Mode().With(SolveMode::kAutosolveActive));
         ctx.listener = &listener;
         ASSERT_TRUE(Bifurcation(ctx));
         EXPECT_EQ(listener.placed,
                   (std::vector<testing::Removal>{{expected->cell, expected->digit}}));
         EXPECT_TRUE(listener.removed.empty());
-        EXPECT_FALSE(ctx.ForceZet);
+        EXPECT_FALSE(ctx.ForceZet());
         return;
     }
     FAIL() << "no stuck board with a working guess";

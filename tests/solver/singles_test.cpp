@@ -24,7 +24,7 @@ std::ostream& operator<<(std::ostream& os, const Found& f) {
 // hint changes nothing and writes only the fields of its kind.
 Found HiddenSingleHint(const Board& board, Side side) {
     SolveContext ctx = testing::ContextOn(board, side);
-    ctx.HintOnly = true;
+    ModeScope looking_ctx(ctx, ctx.Mode().With(SolveMode::kHintOnly));
     ctx.hint = testing::MarkedHint();
     if (!HiddenSingle(ctx)) return {-1, 0, 0};
     EXPECT_EQ(ctx.board.Candidates, board.Candidates);
@@ -81,7 +81,7 @@ TEST(HiddenSingle, TheGameLeavesAOneCandidateCellToNakedSingle) {
     EXPECT_EQ(HiddenSingleHint(b, Side::Game), (Found{43, 2, 3}));
 
     SolveContext game = testing::ContextOn(b, Side::Game);
-    game.HintOnly = true;
+    ModeScope looking_game(game, game.Mode().With(SolveMode::kHintOnly));
     ASSERT_TRUE(NakedSingle(game));
     EXPECT_EQ(game.hint.HintKind, 1);
     EXPECT_EQ(game.hint.HintCell, 10);
@@ -108,7 +108,7 @@ TEST(NakedSingle, TakesTheFirstOneCandidateCellInReadingOrder) {
     b.Candidates[20] = DigitBit(7);
 
     SolveContext hint = testing::ContextOn(b, Side::Game);
-    hint.HintOnly = true;
+    ModeScope looking_hint(hint, hint.Mode().With(SolveMode::kHintOnly));
     hint.hint = testing::MarkedHint();
     ASSERT_TRUE(NakedSingle(hint));
     const HintRecord& h = hint.hint;
@@ -146,8 +146,9 @@ TEST(NakedSingle, PlacesThroughZetAutoOnlyWhileAutosolvePlays) {
         testing::RecordingListener listener;
         SolveContext ctx = testing::ContextOn(b, Side::Game);
         ctx.listener = &listener;
-        ctx.AutosolveActive = k.autosolve;
-        ctx.ForceZet = k.forceZet;
+        ModeScope mode(ctx, SolveMode{}
+                                .With(SolveMode::kAutosolveActive, k.autosolve)
+                                .With(SolveMode::kForceZet, k.forceZet));
         ASSERT_TRUE(NakedSingle(ctx));
         EXPECT_EQ(ctx.board.Candidates, expected.Candidates);
         EXPECT_EQ(ctx.board.CurrentGrid[20], 7);

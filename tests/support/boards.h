@@ -126,7 +126,7 @@ struct HintAndRemovals {
 template <typename Technique>
 HintAndRemovals RunAsHintAndForReal(const Board& board, int level, Technique technique) {
     SolveContext hint = ContextOn(board, Side::Game);
-    hint.HintOnly = true;
+    ModeScope looking_hint(hint, hint.Mode().With(SolveMode::kHintOnly));
     hint.hint = MarkedHint();
     const bool hinted = technique(hint);
     EXPECT_EQ(hint.board.Candidates, board.Candidates) << "a hint changes nothing";

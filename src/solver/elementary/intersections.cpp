@@ -52,7 +52,7 @@ bool PointingPair(SolveContext& ctx) {
             const int leftTop = Global::BoxLeftTop[box];
             for (int segment = 0; segment < 6; ++segment) {
                 if (count[segment] != total || !VerwijderPP(ctx, digit, leftTop, segment)) continue;
-                if (ctx.HintOnly) {
+                if (ctx.HintOnly()) {
                     ctx.hint.HintCell = leftTop;
                     ctx.hint.HintVariant = segment;
                     ctx.hint.HintNumber = digit;
@@ -86,7 +86,7 @@ bool BoxLine(SolveContext& ctx) {
                 for (int segment = 0; segment < 3; ++segment) {
                     if (count[segment] != total || !VerwijderBL(ctx, digit, line, segment, kind))
                         continue;
-                    if (ctx.HintOnly) {
+                    if (ctx.HintOnly()) {
                         const int cell = kind == 1 ? 9 * line + 3 * segment : 27 * segment + line;
                         ctx.hint.HintNumber = digit;
                         ctx.hint.HintCell = Global::BoxLeftTopOfCell[cell];

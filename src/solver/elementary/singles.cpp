@@ -6,9 +6,9 @@ namespace tavi {
 
 namespace {
 
-// A single found in `cell`: a hint record under HintOnly, a placement otherwise.
+// A single found in `cell`: under HintOnly the record, and the placement itself.
 void ApplySingle(SolveContext& ctx, int digit, int cell, int kind, int unitVariant) {
-    if (ctx.HintOnly) {
+    if (ctx.HintOnly()) {
         HintRecord& h = ctx.hint;
         h.HintRow = cell / 9;
         h.HintColumn = cell % 9;
@@ -18,7 +18,6 @@ void ApplySingle(SolveContext& ctx, int digit, int cell, int kind, int unitVaria
         else
             h.HintVariant = unitVariant;
         h.HintKind = kind;
-        return;
     }
     PlaceDigit(ctx, digit, cell, 1);
 }

@@ -109,7 +109,7 @@ bool HiddenInUnit(SolveContext& ctx, int unit, int size) {
         for (int i = 0; i < size; ++i)
             for (int d = 1; d <= 9; ++d)
                 if (!HasDigit(set, d)) VerwijderKnop(ctx, d, cells[i]);
-        if (ctx.HintOnly)
+        if (ctx.HintOnly())
             FillSubsetHint(ctx, unit, false, size, digits, cells);
         else
             ctx.RaiseLevel(3);
@@ -132,7 +132,7 @@ bool NakedInUnit(SolveContext& ctx, int unit, int size) {
         int cells[5] = {};
         CellsOf(unit, inside, cells);
         Verwijder(ctx, digits, size, cells, unit / 9 + 1);
-        if (ctx.HintOnly)
+        if (ctx.HintOnly())
             FillSubsetHint(ctx, unit, true, size, digits, cells);
         else
             ctx.RaiseLevel(3);

@@ -1,0 +1,62 @@
+// The rung command, which runs one technique on boards written out whole, and the
+// states command, which writes out the boards a rating run passes through.
+#include <string>
+
+#include "cli/commands.h"
+#include "cli/puzzle_lines.h"
+#include "grid/candidates.h"
+#include "hints/hint_search.h"
+#include "hints/schrijf_hint.h"
+#include "solver/ladder.h"
+
+namespace tavi::cli {
+
+int RungCommand(int technique, std::istream& in, std::ostream& out, std::ostream& err, bool hint) {
+    int bad = 0, lineNumber = 0;
+    std::string line;
+    while (std::getline(in, line)) {
+        ++lineNumber;
+        if (line.find_first_not_of(" \t\r") == std::string::npos || line[0] == '#') continue;
+        std::string why;
+        const auto board = ParseBoardLine(line, &why);
+        if (!board) {
+            err << "line " << lineNumber << ": " << why << '\n';
+            ++bad;
+            continue;
+        }
+        SolveContext ctx(hint ? Side::Game : Side::Workbench);
+        ctx.board = *board;
+        const Rung* hit = nullptr;
+        if (hint) {
+            ModeScope looking(ctx, HintMode(ctx.Mode(), RungsOf(technique)[0]));
+            hit = RunTechnique(ctx, technique);
+        } else {
+            hit = RunTechnique(ctx, technique);
+        }
+        out << FormatDigits(board->Puzzle) << '\t'
+            << (hit ? FormatConclusions(ctx.hint.Conclusions) : "none");
+        if (hint) out << '\t' << (hit ? SchrijfHint(ctx.hint, *board) : "");
+        out << '\n';
+    }
+    return bad ? 1 : 0;
+}
+
+int States(std::istream& in, std::ostream& out, std::ostream& err, bool all) {
+    SolveContext ctx(Side::Workbench);
+    bool written = false;  // this pass of the ladder has written its board
+    WorkbenchRun run;
+    run.observer.before = [&](const Rung& rung) {
+        if (written || (!all && rung.number < kFirstOrderedTechnique)) return;
+        out << FormatBoardLine(ctx.board) << '\n';
+        written = true;
+    };
+    run.observer.hit = [&](const Rung&) { written = false; };
+    const int bad = ForEachPuzzle(in, err, [&](const PuzzleLine& p) {
+        ctx.board = BoardFromPuzzle(p.digits);
+        written = false;
+        SolveSudoku(ctx, run);
+    });
+    return bad ? 1 : 0;
+}
+
+}  // namespace tavi::cli
