@@ -7,8 +7,8 @@
 #include <vector>
 
 #include "grid/levels.h"
-#include "grid/library_files.h"
-#include "grid/library_setup.h"
+#include "library/library_files.h"
+#include "library/library_setup.h"
 #include "solver/generator.h"
 
 namespace tavi {

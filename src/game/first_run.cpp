@@ -1,6 +1,6 @@
 #include "game/first_run.h"
 
-#include "grid/library_setup.h"
+#include "library/library_setup.h"
 
 namespace tavi {
 

@@ -4,7 +4,7 @@
 
 #include <string_view>
 
-#include "grid/library_files.h"
+#include "library/library_files.h"
 #include "grid/notifier.h"
 #include "settings/options.h"
 #include "settings/settings_store.h"

@@ -15,8 +15,8 @@
 
 #include "game/library_position.h"
 #include "game/platform.h"
-#include "grid/library_files.h"
-#include "grid/records.h"
+#include "library/library_files.h"
+#include "library/records.h"
 #include "hints/hint_paint.h"
 #include "settings/options.h"
 #include "settings/settings_store.h"

@@ -5,7 +5,7 @@
 #include "game/game.h"
 #include "grid/candidates.h"
 #include "grid/levels.h"
-#include "grid/library_pair.h"
+#include "library/library_pair.h"
 
 namespace tavi {
 

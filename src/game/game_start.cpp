@@ -4,7 +4,7 @@
 
 #include "game/first_run.h"
 #include "game/game.h"
-#include "grid/library_setup.h"
+#include "library/library_setup.h"
 
 namespace tavi {
 

@@ -3,7 +3,7 @@
 #include <string>
 
 #include "grid/levels.h"
-#include "grid/library_pair.h"
+#include "library/library_pair.h"
 #include "settings/setting_values.h"
 
 namespace tavi {

@@ -8,9 +8,9 @@
 #include <cstdint>
 #include <string_view>
 
-#include "grid/library_files.h"
+#include "library/library_files.h"
 #include "grid/notifier.h"
-#include "grid/records.h"
+#include "library/records.h"
 #include "settings/settings_store.h"
 
 namespace tavi {

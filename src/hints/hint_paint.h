@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "grid/board.h"
+#include "hints/hint_roles.h"
 #include "settings/colors.h"
 #include "solver/hint_record.h"
 

@@ -12,19 +12,8 @@ namespace tavi {
 
 using Color = std::uint32_t;
 
-// Roles of HintColor, in the order of the colour dialog.
-enum HintRole : int {
-    kBaseCandidates = 0,
-    kChainCandidates = 1,
-    kAttackingCandidates = 2,
-    kAttackedCandidates = 3,
-    kPatternCell = 4,
-    kBaseCell = 5,
-    kChainCell = 6,
-    kAttackingCell = 7,
-    kAttackedCell = 8,
-};
-
+// The hint colours are indexed by role (the hint roles), in the order of the
+// colour dialog.
 inline constexpr std::array<Color, 9> kDefaultHintColor = {
     0x0000FF00,  // green
     0x00FFFF00,  // cyan

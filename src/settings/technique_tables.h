@@ -7,7 +7,7 @@
 #include <array>
 
 #include "settings/settings_store.h"
-#include "solver/ladder.h"
+#include "settings/technique_order.h"
 
 namespace tavi {
 

@@ -140,13 +140,6 @@ std::span<const Rung> RungsOf(int technique) {
 
 int RungIndex(const Rung& rung) { return int(&rung - kRungs); }
 
-TechniqueOrder DefaultTechniqueOrder() {
-    TechniqueOrder order{};
-    for (int i = 0; i < kTechniqueCount; ++i)
-        order[i] = i;
-    return order;
-}
-
 RungOrder OrderedRungs(const TechniqueOrder& order, const std::function<bool(int)>& on) {
     RungOrder rungs;
     for (int i = 0; i < kHeadCount; ++i)

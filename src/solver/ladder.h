@@ -15,6 +15,7 @@
 #include <string>
 #include <string_view>
 
+#include "settings/technique_order.h"
 #include "solver/solve_context.h"
 
 namespace tavi {
@@ -44,12 +45,6 @@ std::span<const Rung> LadderRungs();
 std::span<const Rung> RungsOf(int technique);
 // The position of a rung in LadderRungs.
 int RungIndex(const Rung& rung);
-
-inline constexpr int kTechniqueCount = 40;  // numbers 0..39; the ladder uses 3..39
-inline constexpr int kBifurcationTechnique = 39;
-inline constexpr int kFirstOrderedTechnique = 8;          // the first that follows TechniqueOrder
-using TechniqueOrder = std::array<int, kTechniqueCount>;  // entry i: position of technique i
-TechniqueOrder DefaultTechniqueOrder();
 
 // A list of rungs in the order a walk tries them.
 class RungOrder {

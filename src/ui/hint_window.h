@@ -10,7 +10,7 @@
 #include <optional>
 
 #include "game/game.h"
-#include "grid/library_files.h"
+#include "library/library_files.h"
 #include "ui/board_snapshot.h"
 
 class QPrinter;

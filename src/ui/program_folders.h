@@ -3,7 +3,7 @@
 // platform's per-user data folder), where all game files live.
 #pragma once
 
-#include "grid/library_files.h"
+#include "library/library_files.h"
 
 namespace tavi::ui {
 

@@ -5,8 +5,8 @@
 #include <sstream>
 
 #include "grid/levels.h"
-#include "grid/library_files.h"
-#include "grid/library_test_support.h"
+#include "library/library_files.h"
+#include "library/library_test_support.h"
 #include "solver/generator.h"
 
 namespace tavi::cli {

@@ -3,8 +3,8 @@
 #include <gtest/gtest.h>
 
 #include "grid/levels.h"
-#include "grid/library_setup.h"
-#include "grid/library_test_support.h"
+#include "library/library_setup.h"
+#include "library/library_test_support.h"
 
 namespace tavi {
 namespace {

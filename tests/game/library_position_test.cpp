@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "grid/levels.h"
-#include "grid/library_test_support.h"
+#include "library/library_test_support.h"
 
 namespace tavi {
 namespace {

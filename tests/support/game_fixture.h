@@ -11,8 +11,8 @@
 #include <vector>
 
 #include "game/game.h"
-#include "grid/library_files.h"
-#include "grid/library_pair.h"
+#include "library/library_files.h"
+#include "library/library_pair.h"
 #include "settings/options.h"
 #include "support/puzzles.h"
 

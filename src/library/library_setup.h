@@ -5,7 +5,7 @@
 
 #include <string_view>
 
-#include "grid/library_files.h"
+#include "library/library_files.h"
 #include "grid/notifier.h"
 
 namespace tavi {

@@ -1,10 +1,10 @@
-#include "grid/library_pair.h"
+#include "library/library_pair.h"
 
 #include <gtest/gtest.h>
 
 #include "grid/candidates.h"
 #include "grid/levels.h"
-#include "grid/library_test_support.h"
+#include "library/library_test_support.h"
 #include "solver/brute_force.h"
 
 namespace tavi {

@@ -1,4 +1,4 @@
-#include "grid/library_pair.h"
+#include "library/library_pair.h"
 
 #include <system_error>
 

@@ -1,4 +1,4 @@
-#include "grid/records.h"
+#include "library/records.h"
 
 #include <algorithm>
 #include <cstdlib>

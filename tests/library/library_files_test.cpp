@@ -1,10 +1,10 @@
-#include "grid/library_files.h"
+#include "library/library_files.h"
 
 #include <gtest/gtest.h>
 
 #include <limits>
 
-#include "grid/library_test_support.h"
+#include "library/library_test_support.h"
 
 namespace tavi {
 namespace {

@@ -1,4 +1,4 @@
-#include "grid/library_files.h"
+#include "library/library_files.h"
 
 #include <fstream>
 #include <system_error>

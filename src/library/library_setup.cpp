@@ -1,4 +1,4 @@
-#include "grid/library_setup.h"
+#include "library/library_setup.h"
 
 #include <array>
 #include <fstream>

@@ -1,8 +1,8 @@
-#include "grid/records.h"
+#include "library/records.h"
 
 #include <gtest/gtest.h>
 
-#include "grid/library_test_support.h"
+#include "library/library_test_support.h"
 
 namespace tavi {
 namespace {

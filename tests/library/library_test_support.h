@@ -9,8 +9,8 @@
 #include <string>
 #include <vector>
 
-#include "grid/library_files.h"
-#include "grid/records.h"
+#include "library/library_files.h"
+#include "library/records.h"
 #include "support/puzzles.h"
 
 namespace tavi::testing {

@@ -17,7 +17,7 @@
 #include <vector>
 
 #include "grid/levels.h"
-#include "grid/records.h"
+#include "library/records.h"
 
 namespace tavi {
 

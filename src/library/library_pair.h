@@ -9,9 +9,9 @@
 #include <string_view>
 
 #include "grid/board.h"
-#include "grid/library_files.h"
+#include "library/library_files.h"
 #include "grid/notifier.h"
-#include "grid/records.h"
+#include "library/records.h"
 
 namespace tavi {
 
