@@ -75,6 +75,35 @@ TEST(VerwijderKnop, HonoursHintOnlyAndForceZet) {
     }
 }
 
+// A technique's placement: a look under a hint, a move of the game (ZetAuto)
+// while Autosolve plays, a quiet Zet otherwise or when ForceZet keeps a trial out
+// of the move log. Every way, the record's conclusions name it.
+TEST(PlaceDigit, FollowsTheMode) {
+    struct Case {
+        bool hintOnly, autosolve, forceZet;
+        bool places, heard;
+    } cases[] = {{false, false, false, true, false}, {false, true, false, true, true},
+                 {false, true, true, true, false},   {false, false, true, true, false},
+                 {true, false, false, false, false}, {true, true, false, false, false}};
+    const Board b = OpenBoard();
+    Board expected = b;
+    Zet(expected, 7, 20);
+    for (const Case& k : cases) {
+        RecordingListener listener;
+        SolveContext ctx = testing::ContextOn(b, Side::Game);
+        ctx.listener = &listener;
+        ModeScope mode(ctx, SolveMode{}
+                                .With(SolveMode::kHintOnly, k.hintOnly)
+                                .With(SolveMode::kAutosolveActive, k.autosolve)
+                                .With(SolveMode::kForceZet, k.forceZet));
+        PlaceDigit(ctx, 7, 20, 1);
+        EXPECT_EQ(ctx.board.Candidates, k.places ? expected.Candidates : b.Candidates);
+        EXPECT_EQ(ctx.board.CurrentGrid[20], k.places ? 7 : 0);
+        EXPECT_EQ(listener.placed.size(), k.heard ? 1u : 0u);
+        EXPECT_EQ(FormatConclusions(ctx.hint.Conclusions), "C3=7");
+    }
+}
+
 TEST(Exclusief, LooksOnlyAtWhatLiesOutsideTheSet) {
     const int set[5] = {1, 2, 3, 4, 5};
     using testing::MaskOf;

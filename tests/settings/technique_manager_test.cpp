@@ -70,15 +70,5 @@ TEST(TechniqueManager, DefaultOrderKeepsTheTicks) {
     EXPECT_EQ(t.Halt[5], 1);
 }
 
-TEST(TechniqueManager, EveryRowHasItsCaptionAndLevel) {
-    EXPECT_EQ(kTechniqueRows[0].caption, "Bad Solved Cell");
-    EXPECT_EQ(kTechniqueRows[27].caption, "Bivalue Universal Grave +1");
-    EXPECT_EQ(kTechniqueRows[39].label, "Mayhem level");
-    for (const auto& row : kTechniqueRows) {
-        EXPECT_FALSE(row.caption.empty());
-        EXPECT_FALSE(row.label.empty());
-    }
-}
-
 }  // namespace
 }  // namespace tavi

@@ -13,38 +13,6 @@ namespace {
 
 using testing::RecordingNotifier;
 
-TEST(RungTable, NumbersLevelsAndLabels) {
-    const auto rungs = LadderRungs();
-    ASSERT_EQ(rungs.size(), 42u);  // techniques 3..39, the subsets six times
-    int previous = 3;
-    for (const Rung& r : rungs) {
-        EXPECT_GE(r.number, previous) << "the table runs in technique order";
-        previous = r.number;
-        EXPECT_TRUE(r.label.starts_with(" - Scanning for ")) << r.label;
-        EXPECT_GE(r.level, 1);
-        EXPECT_LE(r.level, 8);
-    }
-    EXPECT_EQ(RungsOf(7).size(), 6u);
-    EXPECT_EQ(RungsOf(7)[2].Name(), "Hidden Pairs");
-    EXPECT_EQ(RungsOf(6)[0].label, " - Scanning for Box/Line Reductions");
-    EXPECT_EQ(RungsOf(23)[0].Name(), "(Aligned) Pair Exclusion");
-    EXPECT_EQ(RungsOf(39)[0].level, 8);
-    EXPECT_EQ(RungsOf(36)[0].level, 7);
-    EXPECT_EQ(RungsOf(17)[0].level, 6);
-    EXPECT_EQ(RungsOf(12)[0].level, 5);
-    EXPECT_EQ(RungsOf(8)[0].level, 4);
-    for (int t : {28, 32})
-        EXPECT_EQ(RungsOf(t)[0].Name(), "Nice Loop");
-    for (int t : {29, 33, 38})
-        EXPECT_EQ(RungsOf(t)[0].Name(), "Alternating Inference Chains");
-    EXPECT_TRUE(RungsOf(2).empty());
-}
-
-TEST(SolvedMessage, NamesEachLevel) {
-    EXPECT_EQ(SolvedMessage(1), "Sudoku solved and rated as Easy");
-    EXPECT_EQ(SolvedMessage(8), "Sudoku solved and rated as Mayhem");
-}
-
 // A generated puzzle that the ladder rates `level`, from the test corpus.
 const GeneratedPuzzle* PuzzleRated(int level) {
     for (const auto& p : testing::GeneratedPuzzles(400)) {

@@ -149,33 +149,5 @@ TEST_F(HintWindowTest, PrintingWithoutAPrinterDoesNoHarm) {
     EXPECT_TRUE(dialogSeen);
 }
 
-// With TAVI_SHOTS_DIR set: the window over the first intersection or subset found
-// past the singles, as
-// hint-window.png, for a person to look at.
-TEST_F(HintWindowTest, Picture) {
-    const QString dir = qEnvironmentVariable("TAVI_SHOTS_DIR");
-    if (dir.isEmpty()) GTEST_SKIP() << "no TAVI_SHOTS_DIR";
-    options.HintWindow = true;
-    // Follow the singles until a puzzle needs more.
-    const auto pastSingles = [&] {
-        for (int i = 0; i < 81; ++i) {
-            game->CommandHint();
-            const HintRecord& hint = game->LastHint();
-            // An intersection or a subset: a pattern with all its roles painted.
-            if (hint.HintKind >= 3 && hint.HintKind <= 5) return true;
-            if (hint.HintKind < 1 || hint.HintKind > 2) return false;
-            game->MarkMouseUp(hint.HintNumber, 9 * hint.HintRow + hint.HintColumn,
-                              MouseButton::Left, true);
-        }
-        return false;
-    };
-    for (int level = 9; level >= 1; --level)
-        if (Playing(level), pastSingles()) break;
-    window.emplace(*game, folders);
-    window->ShowHint();
-    EXPECT_TRUE(window->windowTitle().startsWith("Hint - ")) << game->TextHint();
-    EXPECT_TRUE(window->Picture().save(QDir(dir).filePath("hint-window.png")));
-}
-
 }  // namespace
 }  // namespace tavi::ui

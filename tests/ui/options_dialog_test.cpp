@@ -142,22 +142,5 @@ TEST(OptionsDialog, RunTellsWhetherOkWasPressedAndOpensTheColoursWhenGiven) {
     EXPECT_EQ(colorsOpened, 1);
 }
 
-// Every caption has the room it asks for. With TAVI_SHOTS_DIR set the window is
-// also written there as options.png, for a person to look at.
-TEST(OptionsDialog, NoCaptionIsClipped) {
-    Options options;
-    OptionsDialog dialog(options, true);
-    dialog.show();
-    QApplication::processEvents();
-    for (auto* w : dialog.findChildren<QAbstractButton*>()) {
-        EXPECT_GE(w->width(), w->sizeHint().width()) << w->objectName().toStdString();
-        EXPECT_GE(w->height(), w->sizeHint().height()) << w->objectName().toStdString();
-    }
-    const QString dir = qEnvironmentVariable("TAVI_SHOTS_DIR");
-    if (!dir.isEmpty()) {
-        EXPECT_TRUE(dialog.grab().save(QDir(dir).filePath("options.png")));
-    }
-}
-
 }  // namespace
 }  // namespace tavi::ui

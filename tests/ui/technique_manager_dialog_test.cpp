@@ -117,28 +117,5 @@ TEST_F(TechniqueDialog, UpAndDownMoveThePickedRowWithinEightToThirtyEight) {
     EXPECT_FALSE(Box(12)->isChecked());
 }
 
-// The window fits on the screen and every caption has its room. With
-// TAVI_SHOTS_DIR set it is written there as techniques.png, with a few changes
-// made, for a person to look at.
-TEST_F(TechniqueDialog, TheWindowFitsOnTheScreenWithNoCaptionClipped) {
-    Box(9)->click();
-    Box(52)->click();
-    Pick(12);
-    Press("KnopUp");
-    dialog.show();
-    QApplication::processEvents();
-    const QRect room = dialog.screen()->availableGeometry();
-    EXPECT_LE(dialog.frameGeometry().height(), room.height());
-    EXPECT_LE(dialog.frameGeometry().width(), room.width());
-    for (auto* w : dialog.findChildren<QWidget*>()) {
-        if (!qobject_cast<QAbstractButton*>(w) && !qobject_cast<QLabel*>(w)) continue;
-        EXPECT_GE(w->width(), w->sizeHint().width()) << w->objectName().toStdString();
-    }
-    const QString dir = qEnvironmentVariable("TAVI_SHOTS_DIR");
-    if (!dir.isEmpty()) {
-        EXPECT_TRUE(dialog.grab().save(QDir(dir).filePath("techniques.png")));
-    }
-}
-
 }  // namespace
 }  // namespace tavi::ui

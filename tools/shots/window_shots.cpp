@@ -1,3 +1,5 @@
+// Pictures of the windows for a person to look at, written into the folder named
+// by TAVI_SHOTS_DIR: run `TAVI_SHOTS_DIR=DIR build/tests/tavi-shots`.
 // Pictures of the window for a person to look at: at start, in play (marks, a
 // painted cell, a picked row), with a hint and at the end of a game, at 800 x 600 and at
 // 1600 x 1200. Written only when TAVI_SHOTS_DIR names a folder; without it the
