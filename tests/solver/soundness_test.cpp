@@ -4,6 +4,8 @@
 // day it lands.
 #include <gtest/gtest.h>
 
+#include <fstream>
+#include <iostream>
 #include <sstream>
 
 #include "grid/candidates.h"
@@ -112,6 +114,61 @@ TEST(Soundness, EveryRungAtEveryStateKeepsTheSolution) {
     // The rungs that exist today all had something to do.
     for (size_t r = 0; r < 10; ++r)
         EXPECT_GT(hits[r], 0) << rungs[r].Name();
+}
+
+// The hardest puzzles the generator found, kept in tests/data: at every state where
+// the head of the ladder has nothing left, every ordered rung on its own. These are
+// the boards the hard techniques live on.
+std::vector<GeneratedPuzzle> HardPuzzles() {
+    std::ifstream file(std::string(TAVI_TEST_DATA_DIR) + "/hard_puzzles.txt");
+    std::vector<GeneratedPuzzle> out;
+    for (std::string line; std::getline(file, line);) {
+        if (line.empty() || line[0] == '#') continue;
+        out.push_back(
+            {testing::DigitsOf(line.substr(0, 81)), testing::DigitsOf(line.substr(82, 81))});
+    }
+    return out;
+}
+
+TEST(Soundness, EveryOrderedRungOnTheHardestPuzzles) {
+    const auto puzzles = HardPuzzles();
+    ASSERT_GE(puzzles.size(), 300u) << "tests/data/hard_puzzles.txt";
+    const auto rungs = LadderRungs();
+    std::vector<int> hits(rungs.size());
+    for (const auto& p : puzzles) {
+        SolveContext ctx(Side::Workbench);
+        ctx.board = BoardFromPuzzle(p.puzzle);
+        std::string failure;
+        bool tried = false;  // this pass of the ladder has had its rungs tried
+        int step = 0;
+        WorkbenchRun run;
+        run.observer.before = [&](const Rung& rung) {
+            if (tried || rung.number < kFirstOrderedTechnique || !failure.empty()) return;
+            tried = true;
+            for (size_t r = 0; r < rungs.size(); ++r) {
+                if (rungs[r].number < kFirstOrderedTechnique ||
+                    rungs[r].number == kBifurcationTechnique)
+                    continue;
+                SolveContext trial = ctx;
+                if (!rungs[r].run(trial).found) continue;
+                ++hits[r];
+                const std::string fault = FaultAgainst(trial.board, p.solution);
+                if (!fault.empty()) failure = Describe(p, rungs[r], step, fault);
+            }
+        };
+        run.observer.hit = [&](const Rung& rung) {
+            ++step;
+            tried = false;
+            const std::string fault = FaultAgainst(ctx.board, p.solution);
+            if (failure.empty() && !fault.empty()) failure = Describe(p, rung, step, fault);
+        };
+        SolveSudoku(ctx, run);
+        ASSERT_EQ(failure, "");
+    }
+    std::cout << "hits per ordered rung on the hardest puzzles:";
+    for (size_t r = 0; r < rungs.size(); ++r)
+        if (hits[r]) std::cout << ' ' << RungKey(rungs[r]) << ':' << hits[r];
+    std::cout << '\n';
 }
 
 }  // namespace
