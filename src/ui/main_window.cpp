@@ -1,5 +1,7 @@
 #include "ui/main_window.h"
 
+#include "ui/check_window.h"
+
 #include <QApplication>
 #include <QCloseEvent>
 #include <QFontDatabase>
@@ -269,6 +271,16 @@ void MainWindow::ShowOptions() {
     const Options before = options_;
     if (RunOptionsDialog(this, options_, game_.SoundAvailable())) game_.CommandOptions(before);
     Refresh();
+}
+
+void MainWindow::ShowWorkbench() {
+    if (game_.Busy()) return;
+    if (!workbench_)
+        workbench_ =
+            new CheckWindow(folders_.DataFolder, &options_.techniques.Order, nullptr, this);
+    workbench_->show();
+    workbench_->raise();
+    workbench_->activateWindow();
 }
 
 void MainWindow::ShowRevisions() {

@@ -85,6 +85,7 @@ class MainWindow : public QMainWindow {
     void Exit();
     void NotAvailable(const QString& what);
     void ShowRevisions();
+    void ShowWorkbench();
     void ShowOptions();
     // FormHint, made when first wanted.
     HintWindow* Hints();
@@ -109,6 +110,7 @@ class MainWindow : public QMainWindow {
     QLineEdit* sudTekst_ = nullptr;
     QTimer* timer_ = nullptr;
     RevisionWindow* revisions_ = nullptr;
+    class CheckWindow* workbench_ = nullptr;
     HintWindow* hints_ = nullptr;
     int hintShows_ = 0;       // the hint window's showings the game asked for and got
     bool exiting_ = false;    // Exit has asked already: the close goes through
