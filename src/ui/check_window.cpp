@@ -1,6 +1,7 @@
 #include "ui/check_window.h"
 
 #include <QApplication>
+#include <QFileDialog>
 #include <QFrame>
 #include <QGridLayout>
 #include <QHBoxLayout>
@@ -45,6 +46,7 @@ void TextBoard::paintEvent(QPaintEvent*) {
 ReleaseButton* CheckWindow::Command(const char* name, const QString& caption) {
     auto* b = new ReleaseButton(caption, this);
     b->setObjectName(QLatin1String(name));
+    b->setAutoDefault(false);
     return b;
 }
 
@@ -62,6 +64,8 @@ CheckWindow::CheckWindow(std::filesystem::path dataFolder, const TechniqueOrder*
     for (int level = 1; level <= kLevelCount; ++level) {
         auto* b = new QPushButton(QString::fromUtf8(LevelName(level).data()), this);
         b->setObjectName(QStringLiteral("Command1_%1").arg(level));
+        b->setCheckable(true);  // the library that is open stands pressed
+        b->setAutoDefault(false);
         connect(b, &QPushButton::clicked, this, [this, level] { bench_.Command1(level); });
         levels->addWidget(b, (level - 1) / 5, (level - 1) % 5);
         levels_[level] = b;
@@ -104,6 +108,7 @@ CheckWindow::CheckWindow(std::filesystem::path dataFolder, const TechniqueOrder*
     delete_ = Command("CommandDelete", QStringLiteral("Delete"));
     duplicates_ = Command("CommandRemoveDuplicates", QStringLiteral("Remove Duplicates"));
     abort_ = Command("CommandAbort", QStringLiteral("Abort"));
+    import_ = Command("CommandImport", QStringLiteral("Import..."));
     auto* close = Command("CommandClose", QStringLiteral("Close"));
     const QString brute = QStringLiteral("Right button: by brute force");
     for (auto* b : {solve_, checkAll_, checkSome_})
@@ -125,12 +130,20 @@ CheckWindow::CheckWindow(std::filesystem::path dataFolder, const TechniqueOrder*
     connect(duplicates_, &ReleaseButton::Released, this,
             left([this] { bench_.CommandRemoveDuplicates(); }));
     connect(abort_, &ReleaseButton::Released, this, left([this] { bench_.CommandAbort(); }));
+    connect(import_, &ReleaseButton::Released, this, left([this] {
+                if (bench_.BatchRunning()) return;
+                const QString file = QFileDialog::getOpenFileName(
+                    this, QStringLiteral("Import sudokus"), QString(),
+                    QStringLiteral("Puzzle files (*.txt *.sdm *.ss *.sdk);;All files (*)"));
+                if (!file.isEmpty())
+                    bench_.CommandImport(std::filesystem::path(file.toStdString()));
+            }));
     connect(close, &ReleaseButton::Released, this, left([this] {
                 if (!bench_.BatchRunning()) accept();
             }));
     auto* commands = new QGridLayout;
     int i = 0;
-    for (auto* b : {solve_, checkAll_, checkSome_, delete_, duplicates_, abort_, close})
+    for (auto* b : {solve_, checkAll_, checkSome_, delete_, duplicates_, import_, abort_, close})
         commands->addWidget(b, i / 4, i % 4), ++i;
 
     picture1_ = new QFrame(this);
@@ -186,8 +199,10 @@ void CheckWindow::Refresh() {
     setWindowTitle(QString::fromStdString(bench_.Caption()));
     const WorkbenchCommands& c = bench_.commands();
     const bool idle = !bench_.BatchRunning();
-    for (int level = 1; level <= kLevelCount; ++level)
+    for (int level = 1; level <= kLevelCount; ++level) {
         levels_[level]->setEnabled(idle);
+        levels_[level]->setChecked(level == bench_.WorkLevel());
+    }
     first_->setEnabled(idle && c.First);
     previous_->setEnabled(idle && c.Previous);
     next_->setEnabled(idle && c.Next);
@@ -198,6 +213,7 @@ void CheckWindow::Refresh() {
     checkSome_->setEnabled(idle && c.CheckSome);
     delete_->setEnabled(idle && c.Delete);
     duplicates_->setEnabled(idle && c.RemoveDuplicates);
+    import_->setEnabled(idle);
     abort_->setEnabled(!idle);
     const int level = bench_.WorkLevel();
     number_->setText(

@@ -55,7 +55,7 @@ class CheckWindow : public QDialog {
     Workbench bench_;
     std::array<QPushButton*, 10> levels_{};
     ReleaseButton *first_, *previous_, *next_, *last_, *goTo_;
-    ReleaseButton *solve_, *checkAll_, *checkSome_, *delete_, *duplicates_, *abort_;
+    ReleaseButton *solve_, *checkAll_, *checkSome_, *delete_, *duplicates_, *abort_, *import_;
     QLabel* number_;
     TextBoard *board1_, *board2_;
     QFrame* picture1_;

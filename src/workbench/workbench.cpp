@@ -7,6 +7,9 @@
 #include "solver/brute_force.h"
 #include "solver/ladder.h"
 #include "workbench/duplicates.h"
+#include "workbench/import.h"
+
+#include <fstream>
 
 namespace tavi {
 
@@ -436,6 +439,46 @@ void Workbench::CommandRemoveDuplicates() {
     const bool ok = Compact(flags);
     if (ok)
         prompter_.Message(kScanTitle, std::to_string(duplicates) + " duplicate sudokus removed.");
+    Changed();
+}
+
+// --- Importing ---------------------------------------------------------------------
+
+void Workbench::CommandImport(const std::filesystem::path& file) {
+    if (batchRunning_) return;
+    std::error_code ec;
+    std::ifstream in;
+    if (std::filesystem::is_regular_file(file, ec)) in.open(file, std::ios::binary);
+    if (!in) {
+        prompter_.Message(kFileErrorTitle, "Can't open " + file.string());
+        return;
+    }
+    progress_ = WorkbenchProgress{};
+    progress_.Shown = true;
+    progress_.Label6 = "Sudoku Import Progress";
+    progress_.Label4 = "Importing : " + file.filename().string();
+    batchRunning_ = true;
+    abortRequested_ = false;
+    ImportRun run;
+    run.order = order_;
+    run.progress = [this](long n, long count) {
+        progress_.LabelImportProgress =
+            "Importing Sudoku " + std::to_string(n) + " of " + std::to_string(count);
+        progress_.Bar1 = n;
+        progress_.Bar1Max = count;
+        Breathe();
+    };
+    run.rating = [this](const std::string& text) { progress_.LabelSolvingLevel = text; };
+    run.abort = [this] { return abortRequested_; };
+    const ImportReport report = ImportPuzzles(dataFolder_, in, run);
+    batchRunning_ = false;
+    progress_.Shown = false;
+    if (IsLevel(workLevel_) && recordCount_ > 0) {
+        recordCount_ =
+            WholeRecords(PuzzleFile(dataFolder_, LevelStem(workLevel_)), kSudokuRecordSize);
+        SetNavigation();
+    }
+    prompter_.Message("Sudoku import report", report.Text());
     Changed();
 }
 

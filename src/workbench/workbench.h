@@ -68,6 +68,9 @@ class Workbench {
     void CommandDelete();
     void CommandAbort();
     void CommandRemoveDuplicates();
+    // Imports the puzzles of a foreign file (workbench/import.h), with the
+    // progress frame, and reports where they went and what was refused.
+    void CommandImport(const std::filesystem::path& file);
 
     // --- State for the window ---------------------------------------------------
     int WorkLevel() const { return workLevel_; }

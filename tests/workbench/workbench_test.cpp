@@ -19,6 +19,7 @@
 #include "support/game_fixture.h"
 #include "workbench/duplicates.h"
 #include "workbench/foreign_puzzles.h"
+#include "workbench/import.h"
 
 namespace tavi {
 namespace {
@@ -236,6 +237,32 @@ TEST_F(WorkbenchTest, BruteForceAnswersAndRemoveDuplicatesKeepsTheFirst) {
     EXPECT_EQ(Count(2), 2);
     bench.CommandRemoveDuplicates();
     EXPECT_EQ(prompter.shown.back().text, "No duplicate sudokus found.");
+}
+
+TEST_F(WorkbenchTest, ImportRatesChecksAndFilesEachPuzzleByItsLevel) {
+    Add(1, easy[0]);
+    // Two solutions: a puzzle with its clues cut to the first eight.
+    Digits loose{};
+    for (int c = 0, kept = 0; c < 81 && kept < 8; ++c)
+        if (easy[1].puzzle[c]) loose[c] = easy[1].puzzle[c], ++kept;
+    std::istringstream file(
+        FormatDigits(easy[0].puzzle, '.') + "\n" + FormatDigits(easy[2].puzzle, '.') + " 1.2\n" +
+        FormatDigits(Broken(0).puzzle, '.') + "\n" + FormatDigits(loose, '.') + "\nnot a puzzle\n" +
+        FormatDigits(other[3].puzzle, '0') + "\n" + FormatDigits(easy[2].puzzle, '.') + "\n");
+    const ImportReport report = ImportPuzzles(root, file);
+    SolveContext ctx;
+    ctx.board = BoardFromPuzzle(other[3].puzzle);
+    const int level = SolveSudoku(ctx, {}) ? ctx.SolvingLevel : kOutlaw;
+    EXPECT_EQ(report.added[1], 1 + (level == 1));
+    EXPECT_EQ(report.added[level], level == 1 ? 2 : 1);
+    EXPECT_EQ(Count(1), 2 + (level == 1));
+    std::string levels = level == 1 ? "2 Easy" : "1 Easy, 1 " + std::string(LevelName(level));
+    EXPECT_EQ(report.Text(), "2 sudokus imported: " + levels +
+                                 ". Rejected: 1 without a solution, 1 with several solutions, 2 "
+                                 "already in the library, 1 malformed (line 5).");
+    SudokuRecord added;
+    ASSERT_TRUE(ReadSudokuRecord(PuzzleFile(root, LevelStem(1)), 2, added));
+    EXPECT_EQ(added.Solution, easy[2].solution);
 }
 
 // A rewrite killed at any instant leaves the old pair or the new pair whole once
