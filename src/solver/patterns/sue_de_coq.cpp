@@ -27,14 +27,14 @@ struct Group {
 };
 
 // The removals of a pattern: `digits` from the cells of `unit` outside the
-// crossing and the group. `apply` false only counts what is there to remove.
+// crossing and the group. Answers how many.
 int RemoveFrom(SolveContext& ctx, int unit, const Group& crossing, const Group& group,
-               CandidateMask digits, bool apply) {
+               CandidateMask digits) {
     int n = 0;
     for (int c : UnitCells[unit]) {
         if (crossing.Has(c) || group.Has(c)) continue;
         for (int d : DigitSet(CandidateMask(ctx.board.Candidates[c] & digits)))
-            n += apply ? VerwijderKnop(ctx, d, c) : 1;
+            n += VerwijderKnop(ctx, d, c);
     }
     return n;
 }
@@ -70,10 +70,9 @@ bool Crossing(SolveContext& ctx, int box, int lineUnit, bool row) {
     const CandidateMask own = CandidateMask(crossing.mask & ~(lineGroup.mask | boxGroup.mask));
     const CandidateMask lineDigits = CandidateMask(lineGroup.mask | own);
     const CandidateMask boxDigits = CandidateMask(boxGroup.mask | own);
-    if (!RemoveFrom(ctx, lineUnit, crossing, lineGroup, lineDigits, false) &&
-        !RemoveFrom(ctx, boxUnit, crossing, boxGroup, boxDigits, false))
-        return false;
-
+    const int removed = RemoveFrom(ctx, lineUnit, crossing, lineGroup, lineDigits) +
+                        RemoveFrom(ctx, boxUnit, crossing, boxGroup, boxDigits);
+    if (!removed) return false;
     if (ctx.HintOnly()) {
         HintRecord& h = ctx.hint;
         const int line = row ? lineUnit : lineUnit - 9;
@@ -87,14 +86,15 @@ bool Crossing(SolveContext& ctx, int box, int lineUnit, bool row) {
             h.HintValues[k + 1] = boxGroup.cells[k];
         h.HintValueCount = boxGroup.n;
         h.HintKind = 27;
-        // The game shows the pattern at once and asks whether the player sees it;
-        // Cancel goes on to the next crossing. Never inside the trials of a guess.
+        // The game shows the pattern at once, with what it removes, and asks
+        // whether the player sees it; Cancel forgets it and goes on to the next
+        // crossing. Never inside the trials of a guess.
         if (ctx.side == Side::Game && !ctx.ForceZet() && ctx.confirmPattern &&
-            !ctx.confirmPattern(h))
+            !ctx.confirmPattern(h)) {
+            h.Conclusions.Clear();
             return false;
+        }
     }
-    RemoveFrom(ctx, lineUnit, crossing, lineGroup, lineDigits, true);
-    RemoveFrom(ctx, boxUnit, crossing, boxGroup, boxDigits, true);
     if (!ctx.HintOnly()) ctx.RaiseLevel(6);
     return true;
 }
