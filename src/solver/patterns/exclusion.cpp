@@ -92,10 +92,10 @@ void FillExclusion(SolveContext& ctx, int kind, int variant, int row, int column
 }
 
 // The cells of `units` (up to three, in the order given) other than `skip`, each once.
-int SeenCells(std::initializer_list<int> units, CellSet skip, int (&out)[27]) {
+int SeenCells(const int* units, int count, CellSet skip, int (&out)[27]) {
     int n = 0;
-    for (int u : units)
-        for (int c : UnitCells[u])
+    for (int u = 0; u < count; ++u)
+        for (int c : UnitCells[units[u]])
             if (!skip.Has(c)) {
                 skip.Add(c);
                 out[n++] = c;
@@ -241,19 +241,14 @@ bool APE(SolveContext& ctx) {
             if (!Open(b, c) || !SeesCell(a, c)) continue;
             const bool sameRow = a / 9 == c / 9, sameColumn = a % 9 == c % 9;
             const bool sameBox = Global::BoxOfCell[a] == Global::BoxOfCell[c];
+            int units[3], k = 0;
+            if (sameRow) units[k++] = a / 9;
+            if (sameColumn) units[k++] = 9 + a % 9;
+            if (sameBox) units[k++] = 18 + Global::BoxOfCell[a];
+            CellSet skip = CellSet::Of(a);
+            skip.Add(c);
             int seen[27];
-            int n = 0;
-            {
-                int units[3], k = 0;
-                if (sameRow) units[k++] = a / 9;
-                if (sameColumn) units[k++] = 9 + a % 9;
-                if (sameBox) units[k++] = 18 + Global::BoxOfCell[a];
-                CellSet skip = CellSet::Of(a);
-                skip.Add(c);
-                for (int u = 0; u < k; ++u)
-                    for (int x : UnitCells[units[u]])
-                        if (!skip.Has(x)) skip.Add(x), seen[n++] = x;
-            }
+            const int n = SeenCells(units, k, skip, seen);
             PairTable t(b, a, c);
             Reducers r;
             StrikeByBiValues(b, t, seen, n, r);
@@ -302,7 +297,8 @@ bool ExtendedAPE(SolveContext& ctx) {
                         PairTable t(b, a, c);
                         Reducers r;
                         int seen[27];
-                        const int n = SeenCells({lineUnit, boxUnit}, skip, seen);
+                        const int units[2] = {lineUnit, boxUnit};
+                        const int n = SeenCells(units, 2, skip, seen);
                         StrikeByBiValues(b, t, seen, n, r);
                         for (int unit : {lineUnit, boxUnit}) {
                             int cells[9], m = 0;
