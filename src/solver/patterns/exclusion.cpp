@@ -235,10 +235,18 @@ bool TripleExclusion(SolveContext& ctx, bool extended) {
 // both see are those of the units they share; only their bi-value cells strike.
 bool APE(SolveContext& ctx) {
     const Board& b = ctx.board;
+    CellSet biValue;
+    for (int x = 0; x < 81; ++x)
+        if (CountDigits(b.Candidates[x]) == 2) biValue.Add(x);
     for (int a = 0; a < 80; ++a) {
         if (!Open(b, a)) continue;
         for (int c = a + 1; c < 81; ++c) {
             if (!Open(b, c) || !SeesCell(a, c)) continue;
+            // Without a bi-value cell that both see nothing is struck, and only a
+            // cell of one digit could leave the other without a partner.
+            if (!(PeerSet(a) & PeerSet(c)).Intersects(biValue) &&
+                CountDigits(b.Candidates[a]) > 1 && CountDigits(b.Candidates[c]) > 1)
+                continue;
             const bool sameRow = a / 9 == c / 9, sameColumn = a % 9 == c % 9;
             const bool sameBox = Global::BoxOfCell[a] == Global::BoxOfCell[c];
             int units[3], k = 0;
