@@ -109,6 +109,11 @@ TEST(Soundness, EveryRungAtEveryStateKeepsTheSolution) {
         SolveSudoku(ctx, run);
         ASSERT_EQ(failure, "");
     }
+    // How often each rung found something, for the log.
+    for (size_t r = 0; r < rungs.size(); ++r)
+        if (hits[r])
+            std::cout << "rung " << rungs[r].number << " " << rungs[r].Name() << ": " << hits[r]
+                      << " hits\n";
     // The rungs that exist today all had something to do.
     for (size_t r = 0; r < 10; ++r)
         EXPECT_GT(hits[r], 0) << rungs[r].Name();
