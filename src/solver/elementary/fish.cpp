@@ -2,6 +2,7 @@
 // whose candidates all lie in as many columns takes that digit out of those
 // columns everywhere else, and the same with rows and columns exchanged.
 #include <array>
+#include <bit>
 #include <vector>
 
 #include "solver/primitives.h"
@@ -55,22 +56,33 @@ bool RemoveFromCrossLines(SolveContext& ctx, int digit, bool rows, int lineSet, 
 bool Fish(SolveContext& ctx, int size, int kind, int level) {
     const Board& b = ctx.board;
     const bool exact = size == 2;
+    // For each digit the mask of each row by column, and of each column by row.
+    int rowMasks[10][9] = {}, columnMasks[10][9] = {};
+    for (int cell = 0; cell < 81; ++cell)
+        for (int digit : b.CandidatesOf(cell)) {
+            rowMasks[digit][cell / 9] |= 1 << (cell % 9);
+            columnMasks[digit][cell % 9] |= 1 << (cell / 9);
+        }
     for (int pass = 1; pass <= 2; ++pass) {
         const bool rows = pass == 1;
         for (int digit = 1; digit <= 9; ++digit) {
-            int masks[9];
+            const int* masks = rows ? rowMasks[digit] : columnMasks[digit];
+            // Only lines holding the digit in 2 (X-Wing) or 1..size places can fit.
+            int lines[9], lineMasks[9], n = 0;
             for (int line = 0; line < 9; ++line) {
-                masks[line] = 0;
-                for (int cross = 0; cross < 9; ++cross)
-                    if (b.Has(digit, CellAt(rows, line, cross))) masks[line] |= 1 << cross;
+                const int k = std::popcount(unsigned(masks[line]));
+                if (exact ? k == 2 : k >= 1 && k <= size) {
+                    lines[n] = line;
+                    lineMasks[n++] = masks[line];
+                }
             }
+            if (n < size) continue;
             for (int crossSet : LineSetsOf(size)) {
                 int count = 0, lineSet = 0;
-                for (int line = 0; line < 9 && count <= size; ++line) {
-                    const int m = masks[line];
-                    const bool fits = exact ? m == crossSet : m != 0 && (m & ~crossSet) == 0;
-                    if (!fits) continue;
-                    if (count < size) lineSet |= 1 << line;
+                for (int i = 0; i < n && count <= size; ++i) {
+                    const int m = lineMasks[i];
+                    if (exact ? m != crossSet : (m & ~crossSet) != 0) continue;
+                    if (count < size) lineSet |= 1 << lines[i];
                     ++count;
                 }
                 if (count != size) continue;

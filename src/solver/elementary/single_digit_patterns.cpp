@@ -7,13 +7,6 @@ namespace tavi {
 
 namespace {
 
-int CountInRow(const Board& b, int digit, int row) {
-    return (RowSet(row) & b.CellsWith(digit)).Count();
-}
-int CountInColumn(const Board& b, int digit, int column) {
-    return (ColumnSet(column) & b.CellsWith(digit)).Count();
-}
-
 // The crossings of a box for one digit: an ER row and an ER column such that all
 // of the box's candidates lie on one or the other. Up to two; zero when the box
 // has no such shape.
@@ -108,6 +101,11 @@ int Crossings(const Board& b, int digit, int leftTop, int (&rows)[2], int (&colu
 bool EmptyRectangle(SolveContext& ctx) {
     const Board& b = ctx.board;
     for (int digit = 1; digit <= 9; ++digit) {
+        int rowCount[9] = {}, columnCount[9] = {};
+        for (int c : b.CellsWith(digit)) {
+            ++rowCount[c / 9];
+            ++columnCount[c % 9];
+        }
         for (int box = 0; box < 9; ++box) {
             const int leftTop = Global::BoxLeftTop[box];
             const int top = leftTop / 9, left = leftTop % 9;
@@ -118,7 +116,7 @@ bool EmptyRectangle(SolveContext& ctx) {
                 int target = -1, far = -1;
                 for (int col = 0; col < 9 && target < 0; ++col) {
                     if (col / 3 == left / 3 || !b.Has(digit, 9 * R + col)) continue;
-                    if (CountInColumn(b, digit, col) != 2) continue;
+                    if (columnCount[col] != 2) continue;
                     int m = 0;
                     while (m == R || !b.Has(digit, 9 * m + col))
                         ++m;
@@ -127,7 +125,7 @@ bool EmptyRectangle(SolveContext& ctx) {
                 }
                 for (int row = 0; row < 9 && target < 0; ++row) {
                     if (row / 3 == top / 3 || !b.Has(digit, 9 * row + C)) continue;
-                    if (CountInRow(b, digit, row) != 2) continue;
+                    if (rowCount[row] != 2) continue;
                     int m = 0;
                     while (m == C || !b.Has(digit, 9 * row + m))
                         ++m;

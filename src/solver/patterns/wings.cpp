@@ -12,7 +12,7 @@ namespace {
 // any cell held it.
 bool RemoveSeenByAll(SolveContext& ctx, const CellSet& cells, const CellSet& keep, int digit) {
     bool removed = false;
-    for (int c : (CommonPeers(cells) & ctx.board.CellsWith(digit)) - keep)
+    for (int c : CommonPeers(cells) - keep)
         removed |= VerwijderKnop(ctx, digit, c);
     return removed;
 }
@@ -101,6 +101,10 @@ bool VerwijderWXYZWing2(SolveContext& ctx, int stem, int takVak1, int takVak2, i
 // smallest), stems in cell order.
 bool XYWing(SolveContext& ctx) {
     const Board& b = ctx.board;
+    int pairs[81], pairCount = 0;
+    for (int cell = 0; cell < 81; ++cell)
+        if (CountDigits(b.Candidates[cell]) == 2) pairs[pairCount++] = cell;
+    if (pairCount < 3) return false;
     for (int x = 1; x <= 7; ++x)
         for (int y = x + 1; y <= 8; ++y)
             for (int z = y + 1; z <= 9; ++z) {
@@ -110,7 +114,8 @@ bool XYWing(SolveContext& ctx) {
                     const CandidateMask stemMask = DigitBit(s1) | DigitBit(s2);
                     const CandidateMask m1 = DigitBit(s1) | DigitBit(knop);
                     const CandidateMask m2 = DigitBit(s2) | DigitBit(knop);
-                    for (int stem = 0; stem < 81; ++stem) {
+                    for (int i = 0; i < pairCount; ++i) {
+                        const int stem = pairs[i];
                         if (b.Candidates[stem] != stemMask) continue;
                         const bool hit =
                             EachBranchPair(b, stem, m1, m2, [&](int first, int second, int form) {
@@ -135,11 +140,16 @@ bool XYWing(SolveContext& ctx) {
 // every cell that sees all three.
 bool XYZWing(SolveContext& ctx) {
     const Board& b = ctx.board;
+    int stems[81], stemCount = 0;
+    for (int cell = 0; cell < 81; ++cell)
+        if (CountDigits(b.Candidates[cell]) == 3) stems[stemCount++] = cell;
+    if (stemCount == 0) return false;
     for (int x = 1; x <= 7; ++x)
         for (int y = x + 1; y <= 8; ++y)
             for (int z = y + 1; z <= 9; ++z) {
                 const CandidateMask stemMask = DigitBit(x) | DigitBit(y) | DigitBit(z);
-                for (int stem = 0; stem < 81; ++stem) {
+                for (int i = 0; i < stemCount; ++i) {
+                    const int stem = stems[i];
                     if (b.Candidates[stem] != stemMask) continue;
                     const int passes[3][3] = {{x, y, z}, {y, x, z}, {z, x, y}};
                     for (const auto& pass : passes) {
@@ -195,13 +205,21 @@ bool EachBranchTriple(const Board& b, int hinge, const CandidateMask (&masks)[3]
 // is the common one and leaves every cell that sees the three branches.
 bool WXYZWing(SolveContext& ctx) {
     const Board& b = ctx.board;
+    int hinges[81], hingeCount = 0, pairCount = 0;
+    for (int cell = 0; cell < 81; ++cell) {
+        const int k = CountDigits(b.Candidates[cell]);
+        if (k == 3 || k == 4) hinges[hingeCount++] = cell;
+        pairCount += k == 2;
+    }
+    if (hingeCount == 0 || pairCount < 3) return false;
     for (int w = 1; w <= 6; ++w)
         for (int x = w + 1; x <= 7; ++x)
             for (int y = x + 1; y <= 8; ++y)
                 for (int z = y + 1; z <= 9; ++z) {
                     const int set[4] = {w, x, y, z};
                     const CandidateMask all = DigitBit(w) | DigitBit(x) | DigitBit(y) | DigitBit(z);
-                    for (int hinge = 0; hinge < 81; ++hinge) {
+                    for (int i = 0; i < hingeCount; ++i) {
+                        const int hinge = hinges[i];
                         const CandidateMask m = b.Candidates[hinge];
                         const bool full = m == all;
                         if (!full && ((m & ~all) != 0 || CountDigits(m) != 3)) continue;
