@@ -2,7 +2,6 @@
 // whose candidates all lie in as many columns takes that digit out of those
 // columns everywhere else, and the same with rows and columns exchanged.
 #include <array>
-#include <bit>
 #include <vector>
 
 #include "solver/primitives.h"
@@ -70,7 +69,7 @@ bool Fish(SolveContext& ctx, int size, int kind, int level) {
             // Only lines holding the digit in 2 (X-Wing) or 1..size places can fit.
             int lines[9], lineMasks[9], n = 0;
             for (int line = 0; line < 9; ++line) {
-                const int k = std::popcount(unsigned(masks[line]));
+                const int k = CountDigits(CandidateMask(masks[line]));
                 if (exact ? k == 2 : k >= 1 && k <= size) {
                     lines[n] = line;
                     lineMasks[n++] = masks[line];
@@ -286,6 +285,10 @@ bool MultiXWingForm(SolveContext& ctx, int form, int unitKind, int clashKind) {
 // The six forms in turn: two rows clashing in a column, then in a box; two
 // columns in a row, then in a box; two boxes in a row, then in a column.
 bool MultiXWing(SolveContext& ctx) {
+    int pairCells = 0;
+    for (CandidateMask m : ctx.board.Candidates)
+        pairCells += CountDigits(m) == 2;
+    if (pairCells < 4) return false;
     constexpr int kForms[6][2] = {{0, 1}, {0, 2}, {1, 0}, {1, 2}, {2, 0}, {2, 1}};
     for (int form = 0; form < 6; ++form)
         if (MultiXWingForm(ctx, form + 1, kForms[form][0], kForms[form][1])) return true;

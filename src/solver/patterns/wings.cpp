@@ -49,6 +49,17 @@ bool EachBranchPair(const Board& b, int stem, CandidateMask m1, CandidateMask m2
     return false;
 }
 
+// Which candidate masks stand somewhere on the board, so that a digit set whose
+// stem or branches stand nowhere is passed over at once.
+struct MasksPresent {
+    explicit MasksPresent(const Board& b) {
+        for (CandidateMask m : b.Candidates)
+            present[m] = true;
+    }
+    bool operator()(CandidateMask m) const { return present[m]; }
+    bool present[512] = {};
+};
+
 void FillWingHint(HintRecord& h, int kind, int digit, std::initializer_list<int> cells) {
     h.HintNumber = digit;
     int n = 0;
@@ -105,6 +116,7 @@ bool XYWing(SolveContext& ctx) {
     for (int cell = 0; cell < 81; ++cell)
         if (CountDigits(b.Candidates[cell]) == 2) pairs[pairCount++] = cell;
     if (pairCount < 3) return false;
+    const MasksPresent present(b);
     for (int x = 1; x <= 7; ++x)
         for (int y = x + 1; y <= 8; ++y)
             for (int z = y + 1; z <= 9; ++z) {
@@ -114,6 +126,7 @@ bool XYWing(SolveContext& ctx) {
                     const CandidateMask stemMask = DigitBit(s1) | DigitBit(s2);
                     const CandidateMask m1 = DigitBit(s1) | DigitBit(knop);
                     const CandidateMask m2 = DigitBit(s2) | DigitBit(knop);
+                    if (!present(stemMask) || !present(m1) || !present(m2)) continue;
                     for (int i = 0; i < pairCount; ++i) {
                         const int stem = pairs[i];
                         if (b.Candidates[stem] != stemMask) continue;
@@ -144,10 +157,12 @@ bool XYZWing(SolveContext& ctx) {
     for (int cell = 0; cell < 81; ++cell)
         if (CountDigits(b.Candidates[cell]) == 3) stems[stemCount++] = cell;
     if (stemCount == 0) return false;
+    const MasksPresent present(b);
     for (int x = 1; x <= 7; ++x)
         for (int y = x + 1; y <= 8; ++y)
             for (int z = y + 1; z <= 9; ++z) {
                 const CandidateMask stemMask = DigitBit(x) | DigitBit(y) | DigitBit(z);
+                if (!present(stemMask)) continue;
                 for (int i = 0; i < stemCount; ++i) {
                     const int stem = stems[i];
                     if (b.Candidates[stem] != stemMask) continue;
@@ -156,6 +171,7 @@ bool XYZWing(SolveContext& ctx) {
                         const int knop = pass[0];
                         const CandidateMask m1 = DigitBit(knop) | DigitBit(pass[1]);
                         const CandidateMask m2 = DigitBit(knop) | DigitBit(pass[2]);
+                        if (!present(m1) || !present(m2)) continue;
                         const bool hit =
                             EachBranchPair(b, stem, m1, m2, [&](int first, int second, int) {
                                 if (!VerwijderXYZWing(ctx, stem, first, second, knop)) return false;
@@ -212,6 +228,7 @@ bool WXYZWing(SolveContext& ctx) {
         pairCount += k == 2;
     }
     if (hingeCount == 0 || pairCount < 3) return false;
+    const MasksPresent present(b);
     for (int w = 1; w <= 6; ++w)
         for (int x = w + 1; x <= 7; ++x)
             for (int y = x + 1; y <= 8; ++y)
@@ -233,6 +250,8 @@ bool WXYZWing(SolveContext& ctx) {
                                 CandidateMask(DigitBit(knop) | DigitBit(order[1])),
                                 CandidateMask(DigitBit(knop) | DigitBit(order[2])),
                                 CandidateMask(DigitBit(knop) | DigitBit(order[3]))};
+                            if (!present(masks[0]) || !present(masks[1]) || !present(masks[2]))
+                                continue;
                             const bool hit = EachBranchTriple(
                                 b, hinge, masks, [&](int first, int second, int third) {
                                     const bool removed =
