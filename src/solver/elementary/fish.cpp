@@ -2,6 +2,7 @@
 // whose candidates all lie in as many columns takes that digit out of those
 // columns everywhere else, and the same with rows and columns exchanged.
 #include <array>
+#include <cstdint>
 #include <vector>
 
 #include "solver/primitives.h"
@@ -76,7 +77,32 @@ bool Fish(SolveContext& ctx, int size, int kind, int level) {
                 }
             }
             if (n < size) continue;
+            // The sets of crossing lines that `size` of these lines can fill: only
+            // those are counted, still in their lexical order.
+            std::uint64_t wanted[8] = {};
+            auto want = [&wanted](int set) { wanted[set >> 6] |= std::uint64_t{1} << (set & 63); };
+            if (exact) {
+                for (int i = 0; i < n; ++i)
+                    want(lineMasks[i]);
+            } else {
+                auto unite = [&](auto&& self, int from, int left, int set) -> void {
+                    if (CountDigits(CandidateMask(set)) > size) return;
+                    if (left == 0) {
+                        if (CountDigits(CandidateMask(set)) == size) {
+                            want(set);
+                        } else {
+                            for (int s : LineSetsOf(size))
+                                if ((set & ~s) == 0) want(s);
+                        }
+                        return;
+                    }
+                    for (int i = from; i <= n - left; ++i)
+                        self(self, i + 1, left - 1, set | lineMasks[i]);
+                };
+                unite(unite, 0, size, 0);
+            }
             for (int crossSet : LineSetsOf(size)) {
+                if (!(wanted[crossSet >> 6] >> (crossSet & 63) & 1)) continue;
                 int count = 0, lineSet = 0;
                 for (int i = 0; i < n && count <= size; ++i) {
                     const int m = lineMasks[i];
@@ -219,7 +245,10 @@ int OtherDigit(CandidateMask mask, int digit) {
 // t, and their clash units lose them elsewhere.
 bool MultiXWingForm(SolveContext& ctx, int form, int unitKind, int clashKind) {
     const Board& b = ctx.board;
-    auto pairCell = [&](int cell) { return CountDigits(b.Candidates[cell]) == 2; };
+    bool isPair[81];
+    for (int cell = 0; cell < 81; ++cell)
+        isPair[cell] = CountDigits(b.Candidates[cell]) == 2;
+    auto pairCell = [&isPair](int cell) { return isPair[cell]; };
     for (int u1 = 0; u1 < 9; ++u1) {
         const auto& first = UnitCells[9 * unitKind + u1];
         for (int i = 0; i < 8; ++i) {
