@@ -243,12 +243,10 @@ int OtherDigit(CandidateMask mask, int digit) {
 // and t another. Were neither p nor s to hold x, p and s would hold a and b, and
 // q and t would both be left with y in one unit. So x is in p or s, and y in q or
 // t, and their clash units lose them elsewhere.
-bool MultiXWingForm(SolveContext& ctx, int form, int unitKind, int clashKind) {
+bool MultiXWingForm(SolveContext& ctx, int form, int unitKind, int clashKind,
+                    const CellSet& pairs) {
     const Board& b = ctx.board;
-    bool isPair[81];
-    for (int cell = 0; cell < 81; ++cell)
-        isPair[cell] = CountDigits(b.Candidates[cell]) == 2;
-    auto pairCell = [&isPair](int cell) { return isPair[cell]; };
+    auto pairCell = [&pairs](int cell) { return pairs.Has(cell); };
     for (int u1 = 0; u1 < 9; ++u1) {
         const auto& first = UnitCells[9 * unitKind + u1];
         for (int i = 0; i < 8; ++i) {
@@ -261,18 +259,21 @@ bool MultiXWingForm(SolveContext& ctx, int form, int unitKind, int clashKind) {
                 if (CountDigits(shared) != 1) continue;
                 const int a = LowestDigit(shared);
                 const int x = OtherDigit(b.Candidates[p], a), y = OtherDigit(b.Candidates[q], a);
+                // The second pair's cells can only stand where the second unit
+                // crosses the clash units of p and q.
+                const CellSet pairsByP = pairs & UnitSet(UnitThrough(p, clashKind));
+                const CellSet pairsByQ = pairs & UnitSet(UnitThrough(q, clashKind));
                 for (int u2 = u1 + 1; u2 < 9; ++u2) {
-                    for (int s : UnitCells[9 * unitKind + u2]) {
-                        if (!pairCell(s) || !HasDigit(b.Candidates[s], x) ||
-                            UnitThrough(s, clashKind) != UnitThrough(p, clashKind))
-                            continue;
+                    const CellSet& second = UnitSet(9 * unitKind + u2);
+                    const CellSet sCells = pairsByP & second, tCells = pairsByQ & second;
+                    if (sCells.Empty() || tCells.Empty()) continue;
+                    for (int s : sCells) {
+                        if (!HasDigit(b.Candidates[s], x)) continue;
                         const int bDigit = OtherDigit(b.Candidates[s], x);
                         if (bDigit == a || bDigit == y) continue;
                         const CandidateMask tMask = DigitBit(bDigit) | DigitBit(y);
-                        for (int t : UnitCells[9 * unitKind + u2]) {
-                            if (t == s || b.Candidates[t] != tMask ||
-                                UnitThrough(t, clashKind) != UnitThrough(q, clashKind))
-                                continue;
+                        for (int t : tCells) {
+                            if (t == s || b.Candidates[t] != tMask) continue;
                             bool removed = false;
                             for (int c : UnitCells[UnitThrough(p, clashKind)])
                                 if (c != p && c != s) removed |= VerwijderKnop(ctx, x, c);
@@ -314,13 +315,13 @@ bool MultiXWingForm(SolveContext& ctx, int form, int unitKind, int clashKind) {
 // The six forms in turn: two rows clashing in a column, then in a box; two
 // columns in a row, then in a box; two boxes in a row, then in a column.
 bool MultiXWing(SolveContext& ctx) {
-    int pairCells = 0;
-    for (CandidateMask m : ctx.board.Candidates)
-        pairCells += CountDigits(m) == 2;
-    if (pairCells < 4) return false;
+    CellSet pairs;
+    for (int cell = 0; cell < 81; ++cell)
+        if (CountDigits(ctx.board.Candidates[cell]) == 2) pairs.Add(cell);
+    if (pairs.Count() < 4) return false;
     constexpr int kForms[6][2] = {{0, 1}, {0, 2}, {1, 0}, {1, 2}, {2, 0}, {2, 1}};
     for (int form = 0; form < 6; ++form)
-        if (MultiXWingForm(ctx, form + 1, kForms[form][0], kForms[form][1])) return true;
+        if (MultiXWingForm(ctx, form + 1, kForms[form][0], kForms[form][1], pairs)) return true;
     return false;
 }
 

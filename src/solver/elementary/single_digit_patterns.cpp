@@ -100,12 +100,15 @@ int Crossings(const Board& b, int digit, int leftTop, int (&rows)[2], int (&colu
 // there, R and C would both be closed to the box. The same across, with rows.
 bool EmptyRectangle(SolveContext& ctx) {
     const Board& b = ctx.board;
-    for (int digit = 1; digit <= 9; ++digit) {
-        int rowCount[9] = {}, columnCount[9] = {};
-        for (int c : b.CellsWith(digit)) {
-            ++rowCount[c / 9];
-            ++columnCount[c % 9];
+    int rowCounts[10][9] = {}, columnCounts[10][9] = {};
+    for (int cell = 0; cell < 81; ++cell)
+        for (int digit : b.CandidatesOf(cell)) {
+            ++rowCounts[digit][cell / 9];
+            ++columnCounts[digit][cell % 9];
         }
+    for (int digit = 1; digit <= 9; ++digit) {
+        const int* rowCount = rowCounts[digit];
+        const int* columnCount = columnCounts[digit];
         for (int box = 0; box < 9; ++box) {
             const int leftTop = Global::BoxLeftTop[box];
             const int top = leftTop / 9, left = leftTop % 9;
