@@ -246,15 +246,15 @@ int OtherDigit(CandidateMask mask, int digit) {
 bool MultiXWingForm(SolveContext& ctx, int form, int unitKind, int clashKind,
                     const CellSet& pairs) {
     const Board& b = ctx.board;
-    auto pairCell = [&pairs](int cell) { return pairs.Has(cell); };
     for (int u1 = 0; u1 < 9; ++u1) {
-        const auto& first = UnitCells[9 * unitKind + u1];
-        for (int i = 0; i < 8; ++i) {
+        // The unit's bi-value cells, in unit order.
+        int first[9], n = 0;
+        for (int c : pairs& UnitSet(9 * unitKind + u1))
+            first[n++] = c;
+        for (int i = 0; i + 1 < n; ++i) {
             const int p = first[i];
-            if (!pairCell(p)) continue;
-            for (int j = i + 1; j < 9; ++j) {
+            for (int j = i + 1; j < n; ++j) {
                 const int q = first[j];
-                if (!pairCell(q)) continue;
                 const CandidateMask shared = b.Candidates[p] & b.Candidates[q];
                 if (CountDigits(shared) != 1) continue;
                 const int a = LowestDigit(shared);

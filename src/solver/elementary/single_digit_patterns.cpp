@@ -100,16 +100,18 @@ int Crossings(const Board& b, int digit, int leftTop, int (&rows)[2], int (&colu
 // there, R and C would both be closed to the box. The same across, with rows.
 bool EmptyRectangle(SolveContext& ctx) {
     const Board& b = ctx.board;
-    int rowCounts[10][9] = {}, columnCounts[10][9] = {};
+    int rowCounts[10][9] = {}, columnCounts[10][9] = {}, boxCounts[10][9] = {};
     for (int cell = 0; cell < 81; ++cell)
         for (int digit : b.CandidatesOf(cell)) {
             ++rowCounts[digit][cell / 9];
             ++columnCounts[digit][cell % 9];
+            ++boxCounts[digit][Global::BoxOfCell[cell]];
         }
     for (int digit = 1; digit <= 9; ++digit) {
         const int* rowCount = rowCounts[digit];
         const int* columnCount = columnCounts[digit];
         for (int box = 0; box < 9; ++box) {
+            if (boxCounts[digit][box] < 2 || boxCounts[digit][box] > 5) continue;
             const int leftTop = Global::BoxLeftTop[box];
             const int top = leftTop / 9, left = leftTop % 9;
             int rows[2], columns[2];

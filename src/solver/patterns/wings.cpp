@@ -235,6 +235,10 @@ bool WXYZWing(SolveContext& ctx) {
                 for (int z = y + 1; z <= 9; ++z) {
                     const int set[4] = {w, x, y, z};
                     const CandidateMask all = DigitBit(w) | DigitBit(x) | DigitBit(y) | DigitBit(z);
+                    bool someHinge = present(all);
+                    for (int d : set)
+                        someHinge |= present(CandidateMask(all & ~DigitBit(d)));
+                    if (!someHinge) continue;
                     for (int i = 0; i < hingeCount; ++i) {
                         const int hinge = hinges[i];
                         const CandidateMask m = b.Candidates[hinge];
