@@ -11,13 +11,14 @@ namespace {
 bool ValidCell(int cell) { return cell >= 0 && cell < 81; }
 
 // Kinds 10, 11 and 14: the cells that see every holder of the digit among the
-// pattern lose it; the first cell is the stem (or hinge), the others branches.
+// pattern lose it (the hit's removals); the first cell is the stem (or hinge),
+// the others branches.
 void Wing(HintPainter& p, const HintRecord& h, int size, bool stemHoldsDigit) {
     const auto cells = ListPart(h.HintCells, 1, size);
     if (!std::all_of(cells.begin(), cells.end(), ValidCell)) return;
     const int n = h.HintNumber;
     const std::vector<int> holders(cells.begin() + (stemHoldsDigit ? 0 : 1), cells.end());
-    AttackSeenByAll(p, holders, n);
+    AttackRemovals(p, h);
     p.ZetHintVak(cells[0], kBaseCell);
     for (size_t i = 1; i < cells.size(); ++i)
         p.ZetHintVak(cells[i], kAttackingCell);

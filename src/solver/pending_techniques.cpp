@@ -5,19 +5,8 @@
 
 namespace tavi {
 
-bool XWing(SolveContext&) { return false; }
-bool SwordFish(SolveContext&) { return false; }
-bool MultiXWing(SolveContext&) { return false; }
-bool EmptyRectangle(SolveContext&) { return false; }
-bool XYWing(SolveContext&) { return false; }
-bool TwoStringKite(SolveContext&) { return false; }
-bool Skyscraper(SolveContext&) { return false; }
-bool XYZWing(SolveContext&) { return false; }
 bool SimpleColoring(SolveContext&) { return false; }
-bool JellyFish(SolveContext&) { return false; }
-bool WXYZWing(SolveContext&) { return false; }
 int MultiColor(SolveContext&) { return -1; }
-bool FinnedXWing(SolveContext&) { return false; }
 bool Medusa(SolveContext&) { return false; }
 int NiceLoops(SolveContext&, int) { return 0; }
 int AIC(SolveContext&, int, int) { return 0; }

@@ -97,7 +97,7 @@ TEST(PaintHint, AnXYWingAttacksWhatBothBranchesSee) {
     SetCandidates(board, 32, {1, 7});  // branch D6, in the stem's box
     SetCandidates(board, 36, {2, 7});  // branch E1, in the stem's row
     SetCandidates(board, 28, {3});     // D2 sees both branches, but has no 7
-    const PaintedBoard painted(PaintHint(Record(10).number(7).cells({40, 32, 36}), board));
+    const PaintedBoard painted(PaintHint(HintOf(board, XYWing), board));
     EXPECT_EQ(painted.CellsIn(kAttackedCell), Cells({27, 29, 39, 41}));
     EXPECT_EQ(painted.CellsIn(kBaseCell), Cells({40}));
     EXPECT_EQ(painted.CellsIn(kAttackingCell), Cells({32, 36}));

@@ -6,6 +6,7 @@
 
 #include <fstream>
 #include <iostream>
+#include <set>
 #include <sstream>
 
 #include "grid/candidates.h"
@@ -136,13 +137,21 @@ TEST(Soundness, EveryRungAtEveryStateKeepsTheSolution) {
         SolveSudoku(ctx, run);
         ASSERT_EQ(failure, "");
     }
+    // How often each rung found something, for the log.
+    for (size_t r = 0; r < rungs.size(); ++r)
+        if (hits[r])
+            std::cout << "rung " << rungs[r].number << " " << rungs[r].Name() << ": " << hits[r]
+                      << " hits\n";
     // The rungs that exist today all had something to do; those that rest on
     // rarer patterns at least twenty times.
     for (size_t r = 0; r < 10; ++r)
         EXPECT_GT(hits[r], 0) << rungs[r].Name();
     for (size_t r = 0; r < rungs.size(); ++r) {
         const int n = rungs[r].number;
-        if ((n >= 22 && n <= 27) || n == 31 || n == 37) {
+        // The ordered rungs that have landed; the rest are still placeholders.
+        static const std::set<int> kLanded = {8,  9,  10, 11, 12, 13, 14, 15, 17, 18,
+                                              20, 22, 23, 24, 25, 26, 27, 31, 37};
+        if (kLanded.count(n)) {
             EXPECT_GE(hits[r], 20) << rungs[r].Name();
         }
     }
