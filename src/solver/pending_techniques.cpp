@@ -29,9 +29,6 @@ int NiceLoops(SolveContext&, int) { return 0; }
 int AIC(SolveContext&, int, int) { return 0; }
 bool XYChain(SolveContext&) { return false; }
 bool ATE(SolveContext&) { return false; }
-bool ALSxz(SolveContext&) { return false; }
-bool MultiFish(SolveContext&) { return false; }
-bool Forcing(SolveContext&) { return false; }
 bool ExtendedATE(SolveContext&) { return false; }
 
 }  // namespace tavi
