@@ -32,7 +32,8 @@ int UnitOf(int kind, int cell) {
 // Calls `test` on pool[0] joined by every choice of N - 1 of the other entries,
 // for N from 2 to 7, in lexicographic order of positions with the last index
 // running fastest. `test` gets the chosen cells and their mask; a true answer
-// stops the walk and is returned.
+// stops the walk and is returned. A choice whose digits already outnumber N + 1
+// is not carried deeper, as nothing below it can pass.
 template <typename Test>
 bool ForEachSet(SolveContext& ctx, const int* pool, int poolSize, const CandidateMask* digits,
                 Test&& test) {
@@ -57,6 +58,9 @@ bool ForEachSet(SolveContext& ctx, const int* pool, int poolSize, const Candidat
             if (depth == n - 1) {
                 ctx.Yield();
                 if (CountDigits(mask[depth]) == n + 1 && test(chosen, n, mask[depth])) return true;
+                ++index[depth];
+            } else if (CountDigits(mask[depth]) > n + 1) {
+                // Masks only grow: no set below this choice can be almost locked.
                 ++index[depth];
             } else {
                 ++depth;
