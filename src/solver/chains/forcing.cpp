@@ -5,6 +5,7 @@
 // stands.
 #include <cstdint>
 #include <cstdlib>
+#include <vector>
 
 #include "grid/sets.h"
 #include "solver/primitives.h"
@@ -106,11 +107,31 @@ void Apply(SolveContext& ctx, const Verdict& v) {
         if (k != v.digit) VerwijderKnop(ctx, k, v.cell);
 }
 
-void AddTo(int (&tally)[81][9], const ExamGrid& g) {
-    for (int c = 0; c < 81; ++c)
-        for (int d = 0; d < 9; ++d)
-            tally[c][d] += g.value[c][d];
-}
+// The table a branch ends with depends only on the cell and digit it starts
+// from, so each is worked out once per call: both forms share them.
+class Branches {
+  public:
+    explicit Branches(const CandidateMask (&cellDigits)[81])
+        : cellDigits_(cellDigits), tables_(81 * 9) {}
+
+    // Adds to `tally` the table of the branch that places `digit` in `cell`.
+    void AddTo(int (&tally)[81][9], int cell, int digit) {
+        auto& table = tables_[cell * 9 + digit - 1];
+        if (table.empty()) {
+            g_.Reset(cellDigits_);
+            ApplyForce(cell, digit, g_);
+            Propagate(cell, g_);
+            table.assign(&g_.value[0][0], &g_.value[0][0] + 81 * 9);
+        }
+        for (int i = 0; i < 81 * 9; ++i)
+            tally[i / 9][i % 9] += table[i];
+    }
+
+  private:
+    const CandidateMask (&cellDigits_)[81];
+    std::vector<std::vector<std::int8_t>> tables_;
+    ExamGrid g_;
+};
 
 }  // namespace
 
@@ -119,7 +140,7 @@ bool Forcing(SolveContext& ctx) {
     CandidateMask cellDigits[81];
     for (int c = 0; c < 81; ++c)
         cellDigits[c] = b.Candidates[c];
-    ExamGrid g;
+    Branches branches(cellDigits);
     int tally[81][9];
 
     // From a cell: its candidates are the branches.
@@ -130,12 +151,8 @@ bool Forcing(SolveContext& ctx) {
         for (auto& row : tally)
             for (int& t : row)
                 t = 0;
-        for (int d : DigitSet(cellDigits[base])) {
-            g.Reset(cellDigits);
-            ApplyForce(base, d, g);
-            Propagate(base, g);
-            AddTo(tally, g);
-        }
+        for (int d : DigitSet(cellDigits[base]))
+            branches.AddTo(tally, base, d);
         const Verdict v = Decide(tally, n, b);
         if (v.cell < 0) continue;
         Apply(ctx, v);
@@ -161,12 +178,8 @@ bool Forcing(SolveContext& ctx) {
             for (auto& row : tally)
                 for (int& t : row)
                     t = 0;
-            for (int i = 0; i < n; ++i) {
-                g.Reset(cellDigits);
-                ApplyForce(holders[i], digit, g);
-                Propagate(holders[i], g);
-                AddTo(tally, g);
-            }
+            for (int i = 0; i < n; ++i)
+                branches.AddTo(tally, holders[i], digit);
             const Verdict v = Decide(tally, n, b);
             if (v.cell < 0) continue;
             Apply(ctx, v);
