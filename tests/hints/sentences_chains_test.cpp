@@ -211,6 +211,16 @@ TEST(SchrijfHint, MedusaByRule) {
         board);
 }
 
+// The unit form of a forcing chain that places a digit: no generated board has
+// shown one, so its sentence is held here.
+TEST(SchrijfHint, ForcingFromAUnitThatPlacesADigit) {
+    ExpectSentences({
+        {Record(36).variant(2).column(0).cell(80).number(2).cellCount(7).valueCount(3),
+         "Forcing Chain : Whatever candidate 7 is true for column 1, candidate 2 will allways be "
+         "true for cell J9. Therefore all other candidates can be removed from that cell."},
+    });
+}
+
 TEST(SchrijfHint, WritesNothingOutsideTheKindsAndStopsAtAnUnknownForm) {
     ExpectSentences({
         {Record(0), ""},
