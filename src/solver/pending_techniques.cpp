@@ -11,8 +11,5 @@ bool Medusa(SolveContext&) { return false; }
 int NiceLoops(SolveContext&, int) { return 0; }
 int AIC(SolveContext&, int, int) { return 0; }
 bool XYChain(SolveContext&) { return false; }
-bool ALSxz(SolveContext&) { return false; }
-bool MultiFish(SolveContext&) { return false; }
-bool Forcing(SolveContext&) { return false; }
 
 }  // namespace tavi

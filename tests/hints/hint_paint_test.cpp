@@ -145,24 +145,6 @@ TEST(PaintHint, LoopsAndRectanglesSwapTheRolesOfCellAndDigit) {
     EXPECT_EQ(type1.DigitsIn(kAttackedCandidates), (std::vector<Removal>{{67, 1}, {67, 9}}));
 }
 
-TEST(PaintHint, MultiFishShowsTruthsLinksAndRemovals) {
-    Board board;
-    for (auto [cell, digit] : {std::pair{0, 1}, {10, 2}, {20, 3}, {30, 4}, {36, 2}, {49, 1}})
-        board.CurrentGrid[cell] = std::uint8_t(digit);
-    SetCandidates(board, 9, {3, 9});
-    SetCandidates(board, 59, {1, 5});
-    const PaintedBoard painted(PaintHint(Record(37).variant(1).values({1, 2, 3, 4}), board));
-    // Rows G to J and columns 1 to 5 are attacked, the links in G6..J9 attacking,
-    // and B1 a removal.
-    EXPECT_EQ(painted.cell[9], kBaseCell);
-    EXPECT_EQ(painted.DigitsIn(kAttackedCandidates), (std::vector<Removal>{{9, 3}, {59, 5}}));
-    EXPECT_EQ(painted.cell[59], kAttackingCell);
-    EXPECT_EQ(painted.cell[63], kAttackedCell);
-    EXPECT_EQ(painted.cell[4], kAttackedCell);
-    EXPECT_EQ(painted.cell[5], -1);
-    EXPECT_EQ(painted.CellsIn(kAttackingCell).size(), 12u);
-}
-
 TEST(PaintHint, ToleratesRecordsOfStaleMarks) {
     // A record whose fields the kind does not fill are left from earlier hints;
     // whatever they hold, painting and writing stay within the board.

@@ -150,7 +150,7 @@ TEST(Soundness, EveryRungAtEveryStateKeepsTheSolution) {
         const int n = rungs[r].number;
         // The ordered rungs that have landed; the rest are still placeholders.
         static const std::set<int> kLanded = {8,  9,  10, 11, 12, 13, 14, 15, 17, 18,
-                                              20, 22, 23, 24, 25, 26, 27, 31, 37};
+                                              20, 22, 23, 24, 25, 26, 27, 31, 34, 36, 37};
         if (kLanded.count(n)) {
             EXPECT_GE(hits[r], 20) << rungs[r].Name();
         }
