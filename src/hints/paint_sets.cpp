@@ -62,7 +62,7 @@ void Medusa(HintPainter& p, const HintRecord& h) {
                 if (colourOf(b.cell, d) == 0) p.ZetAttackedCell(b.cell, d);
             break;
         case 4:
-            for (int c : MedusaRule4Cells(h, p.board()))
+            for (int c : MedusaRule4Cells(h))
                 p.ZetAttackedCell(c, h.HintNumber);
             break;
         case 5: p.ZetAttackedCell(b.cell, h.HintNumber); break;

@@ -13,21 +13,15 @@ bool XYWing(SolveContext&) { return false; }
 bool TwoStringKite(SolveContext&) { return false; }
 bool Skyscraper(SolveContext&) { return false; }
 bool XYZWing(SolveContext&) { return false; }
-bool SimpleColoring(SolveContext&) { return false; }
 bool JellyFish(SolveContext&) { return false; }
 bool WXYZWing(SolveContext&) { return false; }
-int MultiColor(SolveContext&) { return -1; }
 bool FinnedXWing(SolveContext&) { return false; }
-bool Medusa(SolveContext&) { return false; }
 bool SueDeCoq(SolveContext&) { return false; }
 bool APE(SolveContext&) { return false; }
 bool UniqueRectangle(SolveContext&) { return false; }
 bool AvoidableRectangle(SolveContext&) { return false; }
 bool ExtendedAPE(SolveContext&) { return false; }
 bool BUG(SolveContext&) { return false; }
-int NiceLoops(SolveContext&, int) { return 0; }
-int AIC(SolveContext&, int, int) { return 0; }
-bool XYChain(SolveContext&) { return false; }
 bool ATE(SolveContext&) { return false; }
 bool ALSxz(SolveContext&) { return false; }
 bool MultiFish(SolveContext&) { return false; }
