@@ -16,12 +16,6 @@ constexpr int kNone = 0, kCycle = 1, kStrong = 2, kWeak = 3;
 constexpr int kCounterLimit = 50000;
 constexpr int kSameCell = -1, kExhausted = 81;
 
-int NextFrom(const CellSet& set, int from) {
-    for (int c : set)
-        if (c >= from) return c;
-    return 81;
-}
-
 bool SameCellUnit(int a, int b) {
     return RowUnit(a) == RowUnit(b) || ColumnUnit(a) == ColumnUnit(b) || BoxUnit(a) == BoxUnit(b);
 }

@@ -29,6 +29,24 @@ inline bool SharesUnitIn(int a, int b, UnitMask units) {
     return BoxUnit(a) == BoxUnit(b) && (units >> BoxUnit(a) & 1);
 }
 
+namespace detail {
+inline constexpr auto kCellsBelow = [] {
+    std::array<CellSet, 82> below{};
+    for (int from = 1; from <= 81; ++from) {
+        below[from] = below[from - 1];
+        below[from].Add(from - 1);
+    }
+    return below;
+}();
+}  // namespace detail
+
+// The lowest cell of `set` at `from` or above; 81 when there is none.
+inline int NextFrom(const CellSet& set, int from) {
+    if (from >= 81) return 81;
+    const CellSet rest = set - detail::kCellsBelow[from < 0 ? 0 : from];
+    return rest.Empty() ? 81 : rest.First();
+}
+
 // Takes `digit` from every cell that sees both `a` and `b`, the two themselves
 // excepted. True if anything went (under HintOnly: would go).
 inline bool RemoveSeenByBoth(SolveContext& ctx, int a, int b, int digit) {

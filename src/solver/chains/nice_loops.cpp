@@ -15,13 +15,6 @@ namespace {
 constexpr int kNone = 0, kCycle = 1, kStrong = 2, kWeak = 3;
 constexpr int kShortLimit = 11;  // the short form refuses this position and beyond
 
-// The lowest cell of `set` at `from` or above; 81 when there is none.
-int NextFrom(const CellSet& set, int from) {
-    for (int c : set)
-        if (c >= from) return c;
-    return 81;
-}
-
 struct LoopWalk {
     SolveContext& ctx;
     int digit;

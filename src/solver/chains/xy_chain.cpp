@@ -28,6 +28,9 @@ struct XYSearch {
     std::array<std::array<std::uint8_t, 10>, 27> unitCount{};  // unit, digit
     std::array<bool, 81> biValue{};
     std::array<int, 10> biValueCount{};
+    // Per cell, digit and unit kind (row, column, box): the one bi-value cell the
+    // chain can step to on that digit through that unit, or -1.
+    std::array<std::array<std::array<std::int8_t, 3>, 10>, 81> partner{};
 
     explicit XYSearch(SolveContext& c) : ctx(c) {
         const Board& b = ctx.board;
@@ -41,6 +44,22 @@ struct XYSearch {
                     ++biValueCount[d];
             }
         }
+        for (int cell = 0; cell < 81; ++cell)
+            for (int x = 1; x <= 9; ++x)
+                for (int kind = 0; kind < 3; ++kind) {
+                    partner[cell][x][kind] = -1;
+                    const int unit = kind == 0   ? RowUnit(cell)
+                                     : kind == 1 ? ColumnUnit(cell)
+                                                 : BoxUnit(cell);
+                    if (unitCount[unit][x] != 2) continue;
+                    for (int next : UnitSet(unit) & b.CellsWith(x)) {
+                        if (next == cell || !biValue[next]) continue;
+                        if (kind == 2 && (RowUnit(next) == RowUnit(cell) ||
+                                          ColumnUnit(next) == ColumnUnit(cell)))
+                            continue;
+                        partner[cell][x][kind] = std::int8_t(next);
+                    }
+                }
     }
 
     int Other(int cell, int digit) const {
@@ -96,23 +115,14 @@ struct XYSearch {
                 bool moved = false;
                 for (int kind = top.step; kind < 3 && !moved; ++kind) {
                     chain.back().step = kind + 1;
-                    const int unit = kind == 0   ? RowUnit(c)
-                                     : kind == 1 ? ColumnUnit(c)
-                                                 : BoxUnit(c);
-                    if (unitCount[unit][x] != 2 || targetCells >= biValueCount[d]) continue;
-                    for (int next : UnitSet(unit)) {
-                        if (next == c || !biValue[next] || !ctx.board.Has(x, next)) continue;
-                        if (inChain.Has(next)) continue;
-                        if (kind == 2 &&
-                            (RowUnit(next) == RowUnit(c) || ColumnUnit(next) == ColumnUnit(c)))
-                            continue;
-                        const int y = Other(next, x);
-                        if (x == d || y == d) ++targetCells;
-                        chain.push_back(Link{next, y, 0});
-                        inChain.Add(next);
-                        moved = true;
-                        break;
-                    }
+                    if (targetCells >= biValueCount[d]) continue;
+                    const int next = partner[c][x][kind];
+                    if (next < 0 || inChain.Has(next)) continue;
+                    const int y = Other(next, x);
+                    if (x == d || y == d) ++targetCells;
+                    chain.push_back(Link{next, y, 0});
+                    inChain.Add(next);
+                    moved = true;
                 }
                 if (moved) {
                     if (HitTests(d, chain)) return true;
