@@ -76,10 +76,9 @@ std::vector<int> DigitsOf(const Board& board, int cell) {
     return out;
 }
 
-std::vector<int> ListPart(const std::array<int, HintRecord::kListSize + 1>& list, int first,
-                          int last) {
+std::vector<int> ListPart(const HintRecord::List& list, int first, int last) {
     std::vector<int> out;
-    for (int i = std::max(first, 1); i <= std::min(last, HintRecord::kListSize); ++i)
+    for (int i = std::max(first, 1); i <= std::min(last, HintRecord::kListCapacity); ++i)
         out.push_back(list[i]);
     return out;
 }
@@ -162,12 +161,12 @@ AlsPair AlsPairOf(const HintRecord& hint, const Board& board) {
     return pair;
 }
 
-std::vector<int> MedusaRule4Cells(const HintRecord& hint, const Board& board) {
-    const int a = DecodeMedusa(hint.HintRow).cell, b = DecodeMedusa(hint.HintColumn).cell;
-    if (hint.HintRow < 0 || hint.HintColumn < 0 || hint.HintNumber < 1 || hint.HintNumber > 9)
-        return {};
-    const int ends[] = {a, b};
-    return SeeingAllHolders(board, hint.HintNumber, ends, ends);
+std::vector<int> MedusaRule4Cells(const HintRecord& hint) {
+    std::vector<int> cells;
+    for (const Conclusion& c : hint.Conclusions)
+        if (!c.placed) cells.push_back(c.cell);
+    std::sort(cells.begin(), cells.end());
+    return cells;
 }
 
 MultiFishPattern MultiFishOf(const HintRecord& hint, const Board& board) {

@@ -40,8 +40,7 @@ std::vector<int> SeenByAll(std::span<const int> cells);
 // The candidates of `cell`, ascending.
 std::vector<int> DigitsOf(const Board& board, int cell);
 // Entries first..last (1-based) of a hint list.
-std::vector<int> ListPart(const std::array<int, HintRecord::kListSize + 1>& list, int first,
-                          int last);
+std::vector<int> ListPart(const HintRecord::List& list, int first, int last);
 
 // Kind 3: the line inside the box that the digit keeps to.
 struct PointingLine {
@@ -86,8 +85,8 @@ inline MedusaCandidate DecodeMedusa(int code) {
     if (code < 0) return {-1, 0};
     return {code % 81, code / 81 + 1};
 }
-// Rule 4: the cells, ascending, that see both coloured candidates and hold the digit.
-std::vector<int> MedusaRule4Cells(const HintRecord& hint, const Board& board);
+// Rule 4: the cells, ascending, that lose the digit, as the hit concluded them.
+std::vector<int> MedusaRule4Cells(const HintRecord& hint);
 
 // Kind 37: the counting pattern of the four digits on the board.
 struct MultiFishPattern {

@@ -99,7 +99,7 @@ void MultiColors(HintPainter& p, const HintRecord& h) {
 // `digitAt(i)` is the digit of entry i.
 template <typename DigitAt>
 void Loop(HintPainter& p, const HintRecord& h, DigitAt digitAt) {
-    const int count = std::min(h.HintCellCount, HintRecord::kListSize);
+    const int count = std::min(h.HintCellCount, HintRecord::kListCapacity);
     const auto cells = ListPart(h.HintCells, 1, count);
     if (count < 2 || !std::all_of(cells.begin(), cells.end(), ValidCell)) return;
     const std::vector<int> loop(cells.begin(), cells.end() - 1);

@@ -27,7 +27,7 @@ void Als(HintPainter& p, const HintRecord& h) {
 void Medusa(HintPainter& p, const HintRecord& h) {
     std::vector<MedusaCandidate> coloured;
     std::vector<int> colour;  // the sign of each entry's colour
-    for (int i = 1; i <= std::min(h.HintCellCount, HintRecord::kListSize); ++i) {
+    for (int i = 1; i <= std::min(h.HintCellCount, HintRecord::kListCapacity); ++i) {
         if (h.HintCells[i] < 0) continue;
         coloured.push_back(DecodeMedusa(h.HintCells[i]));
         colour.push_back(h.HintValues[i] < 0 ? -1 : 1);
@@ -62,7 +62,7 @@ void Medusa(HintPainter& p, const HintRecord& h) {
                 if (colourOf(b.cell, d) == 0) p.ZetAttackedCell(b.cell, d);
             break;
         case 4:
-            for (int c : MedusaRule4Cells(h, p.board()))
+            for (int c : MedusaRule4Cells(h))
                 p.ZetAttackedCell(c, h.HintNumber);
             break;
         case 5: p.ZetAttackedCell(b.cell, h.HintNumber); break;

@@ -62,7 +62,7 @@ std::string MultiColoring(const HintRecord& h) {
 // `digits` set, each followed by "/" and its digit.
 std::string LoopSteps(const HintRecord& h, int first, int last, bool digits) {
     std::string s;
-    for (int i = first; i <= last && i <= HintRecord::kListSize; ++i) {
+    for (int i = first; i <= last && i <= HintRecord::kListCapacity; ++i) {
         s += " " + CellText(At(h.HintCells, i));
         if (digits) s += "/" + Number(At(h.HintValues, i));
     }

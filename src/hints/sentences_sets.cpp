@@ -84,7 +84,7 @@ std::string Medusa(const HintRecord& h, const Board& board) {
                    chain + ", results in opposite coloured candidates " + n + " in cells " +
                    CellText(a.cell) + " and " + CellText(b.cell) + "." +
                    " Therefore this candidate can be removed from cell(s) " +
-                   Cells(MedusaRule4Cells(h, board), ", ") + ".";
+                   Cells(MedusaRule4Cells(h), ", ") + ".";
         case 5:
             return s +
                    "If an uncoloured candidate can see that candidate coloured elsewhere and an "

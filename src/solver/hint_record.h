@@ -65,7 +65,12 @@ inline std::string FormatConclusions(const ConclusionList& list) {
 }
 
 struct HintRecord {
+    // The size of a list as the fixed-size kinds read it.
     static constexpr int kListSize = 30;
+    // What a list can hold: a chain or a colouring may run past kListSize, and is
+    // kept whole (at most every candidate of the board once).
+    static constexpr int kListCapacity = 81 * 9;
+    using List = std::array<int, kListCapacity + 1>;
 
     int HintKind = 0;     // 1..37: selects the sentence and the caption
     int HintVariant = 0;  // the form of the kind; signed (kind 5 uses negative values)
@@ -76,9 +81,9 @@ struct HintRecord {
 
     // 1-based lists; entry 0 is unused. Kinds 12, 21, 27 and 33 keep cells in
     // HintValues, and kinds 35 and 36 keep a cell or a digit in HintCellCount.
-    std::array<int, kListSize + 1> HintCells{};
+    List HintCells{};
     int HintCellCount = 0;
-    std::array<int, kListSize + 1> HintValues{};
+    List HintValues{};
     int HintValueCount = 0;
 
     // What the hit concludes, in order. Emptied by the walk before each rung.

@@ -3,8 +3,6 @@
 // the primitives, raises SolvingLevel to its own level and answers true. Under
 // HintOnly it changes nothing and fills the hint record instead.
 //
-// Routines whose technique is still to be built are defined in
-// pending_techniques.cpp, where each answers that it found nothing.
 #pragma once
 
 #include "solver/solve_context.h"

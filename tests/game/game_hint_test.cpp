@@ -148,21 +148,20 @@ TEST_F(Hints, WithoutPencilmarksTheHintComesInTwoStages) {
 }
 
 TEST_F(Hints, WhereTheLogicEndsAHintCostsNothing) {
-    // A puzzle the ladder can't finish, as record 1 of the Outlaw file. With the
-    // forcing chains on the ladder a generated puzzle is almost never one, so the
-    // givens of one are taken away, first to last, until the logic and a single
-    // guess no longer end it; the solution it keeps is still one of its own.
-    GeneratedPuzzle outlaw = GeneratedPuzzles(1)[0];
-    const auto finishes = [](const Digits& puzzle) {
+    // A puzzle the ladder can't finish, as record 1 of the Outlaw file: two rows
+    // and one digit leave the rest wide open, with one two-candidate cell whose
+    // guesses both leave it open. (The generated puzzles are all solved by now.)
+    const Digits puzzle = DigitsOf(
+        "123456789456789123000000000000000000000000000000000000000000000000000000900000000");
+    const Digits solution = DigitsOf(
+        "123456789456789123789123456214365897365897214897214365531642978642978531978531642");
+    {
         SolveContext ctx;
         ctx.board = BoardFromPuzzle(puzzle);
-        return SolveSudoku(ctx, {});
-    };
-    for (int c = 0; c < 81 && finishes(outlaw.puzzle); ++c)
-        outlaw.puzzle[c] = 0;
-    ASSERT_FALSE(finishes(outlaw.puzzle));
+        ASSERT_FALSE(SolveSudoku(ctx, {}));
+    }
     WriteSudokuRecord(PuzzleFile(folders.AppFolder, LevelStem(9)), 1,
-                      SudokuRecord{outlaw.puzzle, outlaw.solution, 0, 0});
+                      SudokuRecord{puzzle, solution, 0, 0});
     Game& g = Playing(9);
     g.CommandAutoSolve();
     EXPECT_EQ(g.TextHint(),

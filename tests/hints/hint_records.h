@@ -36,8 +36,7 @@ class Record {
     const HintRecord& get() const { return h_; }
 
   private:
-    Record& Fill(std::array<int, HintRecord::kListSize + 1>& list, int& count,
-                 std::initializer_list<int> values) {
+    Record& Fill(HintRecord::List& list, int& count, std::initializer_list<int> values) {
         count = 0;
         for (int v : values)
             list[++count] = v;

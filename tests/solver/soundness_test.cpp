@@ -6,7 +6,6 @@
 
 #include <fstream>
 #include <iostream>
-#include <set>
 #include <sstream>
 
 #include "grid/candidates.h"
@@ -103,63 +102,7 @@ std::vector<GeneratedPuzzle> GravePuzzles() {
     return out;
 }
 
-// Every rung on its own, at every state that the ladder passes through, so that a
-// rung is checked on many boards even where an easier rung would have come first.
-TEST(Soundness, EveryRungAtEveryStateKeepsTheSolution) {
-    const auto& generated = testing::GeneratedPuzzles(kPuzzles);
-    std::vector<GeneratedPuzzle> puzzles(generated.begin(), generated.begin() + 300);
-    const auto graves = GravePuzzles();
-    EXPECT_GE(graves.size(), 20u);
-    puzzles.insert(puzzles.end(), graves.begin(), graves.end());
-    const auto rungs = LadderRungs();
-    std::vector<int> hits(rungs.size());
-    for (size_t k = 0; k < puzzles.size(); ++k) {
-        const auto& p = puzzles[k];
-        // The grave puzzles are there for the rare rungs; Bifurcation's trials on
-        // their hard boards would only cost time.
-        const bool grave = k >= 300;
-        SolveContext ctx(Side::Workbench);
-        ctx.board = BoardFromPuzzle(p.puzzle);
-        int step = 0;
-        std::string failure;
-        WorkbenchRun run;
-        run.observer.hit = [&](const Rung&) {
-            ++step;
-            for (size_t r = 0; r < rungs.size() && failure.empty(); ++r) {
-                if (grave && rungs[r].number == kBifurcationTechnique) continue;
-                SolveContext trial = ctx;
-                if (!rungs[r].run(trial).found) continue;
-                ++hits[r];
-                const std::string fault = FaultAgainst(trial.board, p.solution);
-                if (!fault.empty()) failure = Describe(p, rungs[r], step, fault);
-            }
-        };
-        SolveSudoku(ctx, run);
-        ASSERT_EQ(failure, "");
-    }
-    // How often each rung found something, for the log.
-    for (size_t r = 0; r < rungs.size(); ++r)
-        if (hits[r])
-            std::cout << "rung " << rungs[r].number << " " << rungs[r].Name() << ": " << hits[r]
-                      << " hits\n";
-    // The rungs that exist today all had something to do; those that rest on
-    // rarer patterns at least twenty times.
-    for (size_t r = 0; r < 10; ++r)
-        EXPECT_GT(hits[r], 0) << rungs[r].Name();
-    for (size_t r = 0; r < rungs.size(); ++r) {
-        const int n = rungs[r].number;
-        // The ordered rungs that have landed; the rest are still placeholders.
-        static const std::set<int> kLanded = {8,  9,  10, 11, 12, 13, 14, 15, 17, 18,
-                                              20, 22, 23, 24, 25, 26, 27, 31, 34, 36, 37};
-        if (kLanded.count(n)) {
-            EXPECT_GE(hits[r], 20) << rungs[r].Name();
-        }
-    }
-}
-
-// The hardest puzzles the generator found, kept in tests/data: at every state where
-// the head of the ladder has nothing left, every ordered rung on its own. These are
-// the boards the hard techniques live on.
+// The hardest puzzles the generator found, kept in tests/data.
 std::vector<GeneratedPuzzle> HardPuzzles() {
     std::ifstream file(std::string(TAVI_TEST_DATA_DIR) + "/hard_puzzles.txt");
     std::vector<GeneratedPuzzle> out;
@@ -171,31 +114,47 @@ std::vector<GeneratedPuzzle> HardPuzzles() {
     return out;
 }
 
-TEST(Soundness, EveryOrderedRungOnTheHardestPuzzles) {
-    const auto puzzles = HardPuzzles();
-    ASSERT_GE(puzzles.size(), 300u) << "tests/data/hard_puzzles.txt";
+// Every rung on its own, so that a rung is checked on many boards even where an
+// easier rung would have come first: at every state that the ladder passes through
+// on generated puzzles (and on the grave puzzles, kept for the rare rungs), and at
+// every state of the hardest puzzles where the head of the ladder has nothing left.
+TEST(Soundness, EveryRungOnItsOwnKeepsTheSolution) {
+    const auto& generated = testing::GeneratedPuzzles(kPuzzles);
+    std::vector<GeneratedPuzzle> puzzles(generated.begin(), generated.begin() + 300);
+    const auto graves = GravePuzzles();
+    EXPECT_GE(graves.size(), 20u);
+    puzzles.insert(puzzles.end(), graves.begin(), graves.end());
+    const size_t firstHard = puzzles.size();
+    const auto hard = HardPuzzles();
+    ASSERT_GE(hard.size(), 300u) << "tests/data/hard_puzzles.txt";
+    puzzles.insert(puzzles.end(), hard.begin(), hard.end());
+
     const auto rungs = LadderRungs();
     std::vector<int> hits(rungs.size());
-    for (const auto& p : puzzles) {
+    for (size_t k = 0; k < puzzles.size(); ++k) {
+        const auto& p = puzzles[k];
+        // Bifurcation's trials on the hard boards would only cost time.
+        const bool rare = k >= 300, stalledOnly = k >= firstHard;
         SolveContext ctx(Side::Workbench);
         ctx.board = BoardFromPuzzle(p.puzzle);
-        std::string failure;
-        bool tried = false;  // this pass of the ladder has had its rungs tried
         int step = 0;
-        WorkbenchRun run;
-        run.observer.before = [&](const Rung& rung) {
-            if (tried || rung.number < kFirstOrderedTechnique || !failure.empty()) return;
+        bool tried = false;  // this state has had every rung tried
+        std::string failure;
+        auto tryEveryRung = [&] {
             tried = true;
-            for (size_t r = 0; r < rungs.size(); ++r) {
-                if (rungs[r].number < kFirstOrderedTechnique ||
-                    rungs[r].number == kBifurcationTechnique)
-                    continue;
+            for (size_t r = 0; r < rungs.size() && failure.empty(); ++r) {
+                if (rare && rungs[r].number == kBifurcationTechnique) continue;
+                if (stalledOnly && rungs[r].number < kFirstOrderedTechnique) continue;
                 SolveContext trial = ctx;
                 if (!rungs[r].run(trial).found) continue;
                 ++hits[r];
                 const std::string fault = FaultAgainst(trial.board, p.solution);
                 if (!fault.empty()) failure = Describe(p, rungs[r], step, fault);
             }
+        };
+        WorkbenchRun run;
+        run.observer.before = [&](const Rung& rung) {
+            if (!tried && (!stalledOnly || rung.number >= kFirstOrderedTechnique)) tryEveryRung();
         };
         run.observer.hit = [&](const Rung& rung) {
             ++step;
@@ -206,10 +165,20 @@ TEST(Soundness, EveryOrderedRungOnTheHardestPuzzles) {
         SolveSudoku(ctx, run);
         ASSERT_EQ(failure, "");
     }
-    std::cout << "hits per ordered rung on the hardest puzzles:";
+    std::cout << "hits per rung:";
     for (size_t r = 0; r < rungs.size(); ++r)
         if (hits[r]) std::cout << ' ' << RungKey(rungs[r]) << ':' << hits[r];
     std::cout << '\n';
+    // Every rung had something to do, the ordered ones at least twenty times.
+    // MultiFish needs four digits missing from whole rows, which generated puzzles
+    // never leave; its cases are built by hand in the rung cases.
+    for (size_t r = 0; r < rungs.size(); ++r) {
+        const int n = rungs[r].number;
+        if (n < kFirstOrderedTechnique)
+            EXPECT_GT(hits[r], 0) << rungs[r].Name();
+        else if (n != 35 && n != kBifurcationTechnique)
+            EXPECT_GE(hits[r], 20) << rungs[r].Name();
+    }
 }
 
 }  // namespace
