@@ -278,8 +278,10 @@ void Game::CommandScan() {
     scanStop_ = false;
     for (long n = from; n <= to && !scanStop_; ++n) {
         position_.PuzzleNumber[level] = int(n);
-        LoadPuzzle(false);
-        if (!gridEnabled_) break;
+        if (!LoadPuzzle(false)) break;
+        // With pencil marks off the board shows every digit as a mark: the
+        // autosolver needs the real candidates.
+        RebuildMarks();
         ctx_.AutosolveActive = true;
         position_.SudokuAutosolved = true;
         const bool halted = AutoSolveBoard();

@@ -100,14 +100,16 @@ TEST(CliRate, GivesTheWorkbenchRatingAndOutlawWhenTheLadderFails) {
         expected.push_back(Text(p.puzzle) + "\t" + std::to_string(level) + "\t" +
                            std::string(LevelName(level)));
     }
-    for (auto [puzzle, rating] :
-         {std::pair{FiveHoles(), "1\tEasy"}, {DeadCell(), "9\tOutlaw"}, {clash, "9\tOutlaw"}}) {
+    for (auto [puzzle, rating] : {std::pair{FiveHoles(), "1\tEasy"},
+                                  {DeadCell(), "9\tOutlaw"},
+                                  {clash, "invalid\tclashing givens"}}) {
         input += FormatDigits(puzzle, '0') + "\n";
         expected.push_back(FormatDigits(puzzle, '0') + "\t" + rating);
     }
     const Output o = RunRate(input);
-    EXPECT_EQ(o.status, 0);
+    EXPECT_EQ(o.status, 1);  // the clash is reported, not rated
     EXPECT_EQ(Split(o.out, '\n'), expected);
+    EXPECT_NE(o.err.find("line 23: invalid puzzle"), std::string::npos) << o.err;
 }
 
 TEST(CliRate, SummaryCountsEachLevelOnStandardError) {
@@ -152,7 +154,7 @@ TEST(CliSolve, SaysUniqueNoneOrMultiple) {
 }
 
 // Every command reports a line that is no puzzle with its number, goes on with
-// the rest, and ends with status 1.
+// the rest, and ends with status 2.
 TEST(CliInput, BadLinesAreReportedAndTheRestIsProcessed) {
     const std::string good = Text(FiveHoles());
     std::string badChar = good;
@@ -161,7 +163,7 @@ TEST(CliInput, BadLinesAreReportedAndTheRestIsProcessed) {
                               " trailing\n" + good.substr(0, 80) + "\n";
     for (auto command : {RunRate, RunSolve, RunSteps}) {
         const Output o = command(input);
-        EXPECT_EQ(o.status, 1);
+        EXPECT_EQ(o.status, 2);
         const auto errors = Split(o.err, '\n');
         ASSERT_EQ(errors.size(), 3u) << o.err;
         EXPECT_NE(errors[0].find("line 2"), std::string::npos) << errors[0];
@@ -265,9 +267,9 @@ TEST(CliProgram, ExitStatusTellsWhetherEveryLineWasAPuzzle) {
     EXPECT_EQ(written(), RunRate(Text(FiveHoles()) + "\n" + Text(DeadCell()) + "\n").out);
     EXPECT_EQ(run("rate < " + good.string()), 0);
     EXPECT_EQ(Split(written(), '\n').size(), 2u);
-    EXPECT_EQ(run("solve " + bad.string()), 1);
+    EXPECT_EQ(run("solve " + bad.string()), 2);
     EXPECT_EQ(Split(written(), '\n').size(), 1u);
-    EXPECT_EQ(run("steps < " + bad.string()), 1);
+    EXPECT_EQ(run("steps < " + bad.string()), 2);
     std::filesystem::remove_all(dir);
 }
 

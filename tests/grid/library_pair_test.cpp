@@ -17,6 +17,7 @@ using testing::MakeLevelFiles;
 using testing::RecordingNotifier;
 using testing::RecordOf;
 using testing::TempDir;
+using testing::WriteBytes;
 
 constexpr std::string_view kStem = "Sudoku_Medium.sd";
 
@@ -84,15 +85,28 @@ TEST(AppendToPair, AddsAtCountPlusOneInBothFiles) {
     EXPECT_EQ(number, 1);
 }
 
-TEST(AppendToPair, RefusesAPairOutOfStep) {
+TEST(AppendToPair, RefusesHalfAPairAndRepairsOneOutOfStep) {
     TempDir dir;
     MakeLevelFiles(dir.path(), kStem, 4, /*withLog=*/false);
     const auto before = FileBytes(PuzzleFile(dir.path(), kStem));
     std::string why;
     EXPECT_FALSE(AppendToPair(dir.path(), kStem, RecordOf(5), {}, nullptr, &why));
-    EXPECT_NE(why.find("out of step"), std::string::npos) << why;
+    EXPECT_NE(why.find("Only one file"), std::string::npos) << why;
     EXPECT_EQ(FileBytes(PuzzleFile(dir.path(), kStem)), before);
     EXPECT_FALSE(fs::exists(LogFile(dir.path(), kStem)));
+
+    // A log two records too long and a torn puzzle tail: cut to the 4 whole
+    // puzzles, and the append goes on as record 5.
+    WriteBytes(LogFile(dir.path(), kStem), std::vector<char>(6 * kSudokuLogRecordSize, 0));
+    std::ofstream(PuzzleFile(dir.path(), kStem), std::ios::app) << "torn";
+    long number = 0;
+    ASSERT_TRUE(AppendToPair(dir.path(), kStem, RecordOf(5), BusyLog(5), &number, &why)) << why;
+    EXPECT_EQ(number, 5);
+    EXPECT_NE(why.find("4 records were kept"), std::string::npos) << why;
+    SudokuRecord r;
+    SudokuLogRecord l;
+    ASSERT_TRUE(ReadPair(dir.path(), kStem, 5, r, l, nullptr));
+    EXPECT_EQ(l, BusyLog(5));
 }
 
 struct OutlawLibrary {
