@@ -270,6 +270,28 @@ TEST(CliProgram, ExitStatusTellsWhetherEveryLineWasAPuzzle) {
     EXPECT_EQ(run("solve " + bad.string()), 2);
     EXPECT_EQ(Split(written(), '\n').size(), 1u);
     EXPECT_EQ(run("steps < " + bad.string()), 2);
+
+    // Paths that are no readable file, and binary input: a message naming the
+    // file (and line), status 2, for every command.
+    const auto junk = dir / "junk.bin";
+    std::ofstream(junk, std::ios::binary) << Text(FiveHoles()) << "\n"
+                                          << std::string("\x7f\x00\x01\x02ELF", 7);
+    const std::string d = dir.string();
+    const std::pair<std::string, std::string> cases[] = {
+        {"rate " + d, d + ": is a folder"},
+        {"hint " + d + "/none.txt", d + "/none.txt: not found"},
+        {"library export " + d, d + ": is a folder"},
+        {"library export " + d + "/none.sds", "none.sds: not found"},
+        {"library import " + d + " --level 1 --dir " + d, d + ": is a folder"},
+        {"rate " + junk.string(), junk.string() + ", line 2: binary data"},
+        {"solve < " + junk.string(), "standard input, line 2: binary data"},
+    };
+    for (const auto& [args, said] : cases) {
+        EXPECT_EQ(run(args), 2) << args;
+        std::ifstream f(dir / "err.txt");
+        const std::string err(std::istreambuf_iterator<char>(f), {});
+        EXPECT_NE(err.find(said), std::string::npos) << args << ": " << err;
+    }
     std::filesystem::remove_all(dir);
 }
 
