@@ -18,7 +18,13 @@ int main(int argc, char** argv) {
     QApplication::setApplicationVersion(QStringLiteral("1.6"));
 
     const tavi::LibraryFolders folders = tavi::ui::ProgramFolders();
-    tavi::ui::QSettingsStore store;
+    // A settings file that can't be read is left alone: the run keeps its
+    // settings in memory, and the game says why at start.
+    tavi::ui::QSettingsStore fileStore;
+    tavi::MemorySettingsStore memoryStore;
+    memoryStore.SetProblem(fileStore.Problem());
+    tavi::SettingsStore& store =
+        fileStore.Problem().empty() ? static_cast<tavi::SettingsStore&>(fileStore) : memoryStore;
     tavi::Options options;
     tavi::ui::QtPrompter prompter;
     tavi::ui::QtSoundPlayer sounds(folders.AppFolder);

@@ -33,48 +33,67 @@ std::string ExplainStep(const Rung& rung, const Board& board) {
     return SchrijfHint(look.hint, board);
 }
 
+int Status(int badLines, int invalid) {
+    return badLines ? kExitBadInput : invalid ? kExitSomeInvalid : kExitOk;
+}
+
 }  // namespace
 
-int Rate(std::istream& in, std::ostream& out, std::ostream& err, const RateOptions& options) {
+int Rate(std::istream& in, std::ostream& out, std::ostream& err, const RateOptions& options,
+         std::string_view source) {
     SolveContext ctx(Side::Workbench);
     const WorkbenchRun run;
     std::array<long, 10> perLevel{};
     long total = 0;
+    int invalid = 0;
     const auto start = std::chrono::steady_clock::now();
-    const int bad = ForEachPuzzle(in, err, [&](const PuzzleLine& p) {
-        const int level = RatePuzzle(ctx, p.digits, run);
-        ++perLevel[level];
-        ++total;
-        out << p.text << '\t' << level << '\t' << LevelName(level) << '\n';
-    });
+    const int bad = ForEachPuzzle(
+        in, err,
+        [&](const PuzzleLine& p) {
+            if (ReportClash(p, source, err)) {
+                ++invalid;
+                out << p.text << "\tinvalid\tclashing givens\n";
+                return;
+            }
+            const int level = RatePuzzle(ctx, p.digits, run);
+            ++perLevel[level];
+            ++total;
+            out << p.text << '\t' << level << '\t' << LevelName(level) << '\n';
+        },
+        source);
     if (options.summary) {
         const double seconds =
             std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
         for (int level = 1; level <= kLevelCount; ++level)
             err << LevelName(level) << '\t' << perLevel[level] << '\n';
         err << "puzzles\t" << total << '\n';
+        if (invalid) err << "invalid\t" << invalid << '\n';
         err << "puzzles per second\t" << long(seconds > 0 ? total / seconds : 0) << '\n';
     }
-    return bad ? 1 : 0;
+    return Status(bad, invalid);
 }
 
-int Solve(std::istream& in, std::ostream& out, std::ostream& err) {
+int Solve(std::istream& in, std::ostream& out, std::ostream& err, std::string_view source) {
     SolveContext ctx(Side::Workbench);
-    const int bad = ForEachPuzzle(in, err, [&](const PuzzleLine& p) {
-        ctx.board = Board{};
-        ctx.board.Puzzle = p.digits;
-        bool contradiction = false;
-        const int found = BruteForceSolutions(ctx, contradiction);
-        out << p.text << '\t'
-            << (found == 0   ? "none"
-                : found == 1 ? "unique"
-                             : "multiple")
-            << '\t' << (found == 1 ? FormatDigits(ctx.board.CurrentGrid) : "-") << '\n';
-    });
-    return bad ? 1 : 0;
+    const int bad = ForEachPuzzle(
+        in, err,
+        [&](const PuzzleLine& p) {
+            ctx.board = Board{};
+            ctx.board.Puzzle = p.digits;
+            bool contradiction = false;
+            const int found = BruteForceSolutions(ctx, contradiction);
+            out << p.text << '\t'
+                << (found == 0   ? "none"
+                    : found == 1 ? "unique"
+                                 : "multiple")
+                << '\t' << (found == 1 ? FormatDigits(ctx.board.CurrentGrid) : "-") << '\n';
+        },
+        source);
+    return Status(bad, 0);
 }
 
-int Steps(std::istream& in, std::ostream& out, std::ostream& err, bool explain) {
+int Steps(std::istream& in, std::ostream& out, std::ostream& err, bool explain,
+          std::string_view source) {
     SolveContext ctx(Side::Workbench);
     int step = 0;
     Board before;
@@ -86,16 +105,25 @@ int Steps(std::istream& in, std::ostream& out, std::ostream& err, bool explain) 
         if (explain) out << '\t' << ExplainStep(rung, before);
         out << '\n';
     };
-    const int bad = ForEachPuzzle(in, err, [&](const PuzzleLine& p) {
-        step = 0;
-        const int level = RatePuzzle(ctx, p.digits, run);
-        out << "result\t" << (level == kOutlaw ? "unsolved" : "solved") << '\t' << level << '\t'
-            << LevelName(level) << '\n';
-    });
-    return bad ? 1 : 0;
+    int invalid = 0;
+    const int bad = ForEachPuzzle(
+        in, err,
+        [&](const PuzzleLine& p) {
+            if (ReportClash(p, source, err)) {
+                ++invalid;
+                out << "result\tinvalid\tclashing givens\n";
+                return;
+            }
+            step = 0;
+            const int level = RatePuzzle(ctx, p.digits, run);
+            out << "result\t" << (level == kOutlaw ? "unsolved" : "solved") << '\t' << level << '\t'
+                << LevelName(level) << '\n';
+        },
+        source);
+    return Status(bad, invalid);
 }
 
-int Signature(std::istream& in, std::ostream& out, std::ostream& err) {
+int Signature(std::istream& in, std::ostream& out, std::ostream& err, std::string_view source) {
     SolveContext ctx(Side::Workbench);
     const auto rungs = LadderRungs();
     std::vector<int> hits(rungs.size()), totals(rungs.size());
@@ -115,33 +143,46 @@ int Signature(std::istream& in, std::ostream& out, std::ostream& err) {
                 s += (s.empty() ? "" : " ") + RungKey(rungs[i]) + ":" + std::to_string(counts[i]);
         return s;
     };
-    const int bad = ForEachPuzzle(in, err, [&](const PuzzleLine& p) {
-        steps = placed = removed = 0;
-        std::fill(hits.begin(), hits.end(), 0);
-        const int level = RatePuzzle(ctx, p.digits, run);
-        for (size_t i = 0; i < hits.size(); ++i)
-            totals[i] += hits[i];
-        out << p.text << '\t' << level << '\t' << steps << '\t' << placed << '\t' << removed << '\t'
-            << format(hits) << '\n';
-    });
+    int invalid = 0;
+    const int bad = ForEachPuzzle(
+        in, err,
+        [&](const PuzzleLine& p) {
+            if (ReportClash(p, source, err)) {
+                ++invalid;
+                out << p.text << "\tinvalid\n";
+                return;
+            }
+            steps = placed = removed = 0;
+            std::fill(hits.begin(), hits.end(), 0);
+            const int level = RatePuzzle(ctx, p.digits, run);
+            for (size_t i = 0; i < hits.size(); ++i)
+                totals[i] += hits[i];
+            out << p.text << '\t' << level << '\t' << steps << '\t' << placed << '\t' << removed
+                << '\t' << format(hits) << '\n';
+        },
+        source);
     out << "hits\t" << format(totals) << '\n';
-    return bad ? 1 : 0;
+    return Status(bad, invalid);
 }
 
-int Hint(std::istream& in, std::ostream& out, std::ostream& err, bool paint) {
+int Hint(std::istream& in, std::ostream& out, std::ostream& err, bool paint,
+         std::string_view source) {
     const TechniqueTables defaults;
-    const int bad = ForEachPuzzle(in, err, [&](const PuzzleLine& p) {
-        SolveContext ctx(Side::Game);
-        ctx.board = BoardFromPuzzle(p.digits);
-        const bool clash = GivensClash(p.digits);
-        const Rung* hit = clash ? nullptr : FindHint(ctx, defaults);
-        out << p.text << '\t'
-            << (hit ? SchrijfHint(ctx.hint, ctx.board) : std::string(kNoLogicalHints)) << '\n';
-        if (paint && hit)
-            for (const HintPaint& each : PaintHint(ctx.hint, ctx.board))
-                out << '\t' << DescribePaint(each) << '\n';
-    });
-    return bad ? 1 : 0;
+    const int bad = ForEachPuzzle(
+        in, err,
+        [&](const PuzzleLine& p) {
+            SolveContext ctx(Side::Game);
+            ctx.board = BoardFromPuzzle(p.digits);
+            const bool clash = GivensClash(p.digits);
+            const Rung* hit = clash ? nullptr : FindHint(ctx, defaults);
+            out << p.text << '\t'
+                << (hit ? SchrijfHint(ctx.hint, ctx.board) : std::string(kNoLogicalHints)) << '\n';
+            if (paint && hit)
+                for (const HintPaint& each : PaintHint(ctx.hint, ctx.board))
+                    out << '\t' << DescribePaint(each) << '\n';
+        },
+        source);
+    return Status(bad, 0);
 }
 
 }  // namespace tavi::cli

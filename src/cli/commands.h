@@ -1,10 +1,13 @@
 // The commands of tavi-sudoku-cli, each over streams so that tests can drive them.
-// Every command answers the process exit status: 0, or 1 when some input line was
-// no puzzle (the other lines are still processed).
+// Every command answers the process exit status (puzzle_lines.h): 0; 1 when some
+// puzzle was invalid (clashing givens: reported, not rated); 2 when some input
+// line was no puzzle or the input was binary or unreadable (the other lines are
+// still processed). `source` names the input in messages.
 #pragma once
 
 #include <istream>
 #include <ostream>
+#include <string_view>
 
 namespace tavi::cli {
 
@@ -13,42 +16,49 @@ struct RateOptions {
 };
 
 // Per puzzle: the 81 characters, the level 1..9 and its name; the workbench
-// ladder in the default order, Outlaw when it fails.
-int Rate(std::istream& in, std::ostream& out, std::ostream& err, const RateOptions& options = {});
+// ladder in the default order, Outlaw when it fails. A puzzle with clashing
+// givens gets "invalid" in place of its level and name.
+int Rate(std::istream& in, std::ostream& out, std::ostream& err, const RateOptions& options = {},
+         std::string_view source = "standard input");
 
 // Per puzzle: the 81 characters, "unique", "none" or "multiple", and the solution
 // or "-".
-int Solve(std::istream& in, std::ostream& out, std::ostream& err);
+int Solve(std::istream& in, std::ostream& out, std::ostream& err,
+          std::string_view source = "standard input");
 
 // Per puzzle: a line per ladder hit ("step", its number, the technique number,
 // the technique's name, the changes), then "result" with "solved" or "unsolved",
 // the level and its name.
 // With `explain`, each step line ends in the hint sentence of the step: what the
 // rung reports under HintOnly on the board before it.
-int Steps(std::istream& in, std::ostream& out, std::ostream& err, bool explain = false);
+int Steps(std::istream& in, std::ostream& out, std::ostream& err, bool explain = false,
+          std::string_view source = "standard input");
 
 // A deterministic signature of the ladder: per puzzle the 81 characters, the
 // level, the number of steps, of digits placed and of candidates removed, and the
 // hits of each rung; a last line "hits" adds up the rungs' hits. Kept for a fixed
 // list in the tests, so that no change of behaviour goes unnoticed.
-int Signature(std::istream& in, std::ostream& out, std::ostream& err);
+int Signature(std::istream& in, std::ostream& out, std::ostream& err,
+              std::string_view source = "standard input");
 
 // Per puzzle: the 81 characters and the sentence that Hint gives on the fresh
 // board with the default options, or "No logical hints, ..."; with `paint`, the
 // hint's paints follow, one per line, each after a tab.
-int Hint(std::istream& in, std::ostream& out, std::ostream& err, bool paint = false);
+int Hint(std::istream& in, std::ostream& out, std::ostream& err, bool paint = false,
+         std::string_view source = "standard input");
 
 // Runs technique `technique` once on each board line (see FormatBoardLine) on the
 // workbench side: the givens, a tab, and the changes ("B3-7 A1=5") or "none".
 // With `hint` the game side looks instead, and the hint's sentence follows after
-// another tab. A malformed line is reported with its number; the status is then 1.
+// another tab. A malformed line is reported with its number; the status is then 2.
 int RungCommand(int technique, std::istream& in, std::ostream& out, std::ostream& err,
-                bool hint = false);
+                bool hint = false, std::string_view source = "standard input");
 
 // For each puzzle, the board line of every state at which the rating run had to
 // go past the fixed head of the ladder (rungs 3 to 7 had nothing): the boards on
 // which the ordered techniques work, for the rung command. With `all`, every
 // state the run passes through.
-int States(std::istream& in, std::ostream& out, std::ostream& err, bool all = false);
+int States(std::istream& in, std::ostream& out, std::ostream& err, bool all = false,
+           std::string_view source = "standard input");
 
 }  // namespace tavi::cli

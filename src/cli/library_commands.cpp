@@ -13,6 +13,8 @@
 #include "grid/levels.h"
 #include "library/library_files.h"
 #include "library/library_pair.h"
+#include "library/library_setup.h"
+#include "library/pair_guard.h"
 #include "solver/brute_force.h"
 #include "solver/generator.h"
 #include "solver/ladder.h"
@@ -23,7 +25,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr int kUsageError = 2;
+constexpr int kUsageError = kExitBadInput;
 
 // The level the workbench gives a puzzle: the ladder's, Outlaw when it fails.
 int RateForLibrary(SolveContext& ctx, const Digits& puzzle) {
@@ -36,24 +38,6 @@ std::string BestTime(const SudokuRecord& r) {
     std::ostringstream s;
     s << r.BestMinutes << ':' << std::setw(2) << std::setfill('0') << r.BestSeconds;
     return s.str();
-}
-
-// Makes the log file of a pair whose puzzle file has none yet, one empty record
-// per puzzle, as the first run of the game would.
-bool EnsureLogFile(const fs::path& dir, std::string_view stem, std::ostream& err) {
-    const fs::path sdl = LogFile(dir, stem);
-    if (fs::exists(sdl)) return true;
-    const long puzzles = WholeRecords(PuzzleFile(dir, stem), kSudokuRecordSize);
-    const SudokuLogRecord empty;
-    for (long i = 1; i <= puzzles; ++i) {
-        std::string why;
-        if (!WriteSudokuLogRecord(sdl, i, empty, &why)) {
-            err << "tavi-sudoku-cli: " << why << '\n';
-            return false;
-        }
-    }
-    if (puzzles > 0) err << "made " << sdl.string() << " with " << puzzles << " empty records\n";
-    return true;
 }
 
 // Options of the form --name VALUE after the command words.
@@ -164,60 +148,72 @@ int BuildLibrary(const BuildOptions& options, std::ostream& out, std::ostream& e
 }
 
 int ExportLibrary(const fs::path& sdsFile, std::ostream& out, std::ostream& err) {
+    if (const std::string problem = InputFileProblem(sdsFile); !problem.empty())
+        return Problem(err, problem);
     std::vector<SudokuRecord> records;
+    std::vector<std::string> damaged;
     std::size_t trailing = 0;
     std::string why;
-    if (!ReadSudokuFile(sdsFile, records, &trailing, &why)) return Problem(err, why);
+    if (!ReadSudokuFile(sdsFile, records, &trailing, &why, &damaged)) return Problem(err, why);
     for (const SudokuRecord& r : records)
         out << FormatDigits(r.Puzzle) << '\t' << FormatDigits(r.Solution) << '\t' << BestTime(r)
             << '\n';
-    if (trailing) {
+    for (const std::string& each : damaged)
+        err << sdsFile.string() << ": " << each << " It was left out.\n";
+    if (trailing)
         err << sdsFile.string() << " is damaged: " << trailing
             << " bytes after the last whole record were left out\n";
-        return 1;
-    }
-    return 0;
+    return trailing || !damaged.empty() ? kExitBadInput : kExitOk;
 }
 
 int ImportLibrary(std::istream& in, int level, const fs::path& dir, std::ostream& out,
-                  std::ostream& err) {
+                  std::ostream& err, std::string_view source) {
     if (!IsLevel(level)) return Problem(err, "the level must be 1 to 9");
     const std::string_view stem = LevelStem(level);
-    if (!EnsureLogFile(dir, stem, err)) return kUsageError;
+    std::string made;
+    if (!EnsureLogFile(dir, stem, &made))
+        return Problem(err, "can't make " + LogFile(dir, stem).string());
+    if (!made.empty()) err << made << '\n';
+
+    std::string repaired;
+    if (OpenPair(dir, stem, &repaired) >= 0 && !repaired.empty()) err << repaired << '\n';
 
     SolveContext ctx(Side::Workbench);
     long added = 0, first = 0;
     int skipped = 0;
     bool failed = false;
-    skipped += ForEachPuzzle(in, err, [&](const PuzzleLine& p) {
-        if (failed) return;
-        ctx.board = Board{};
-        ctx.board.Puzzle = p.digits;
-        bool contradiction = false;
-        const int solutions = BruteForceSolutions(ctx, contradiction);
-        if (solutions != 1) {
-            err << "line " << p.lineNumber << ": "
-                << (solutions == 0 ? "no solution" : "more than one solution") << ", skipped\n";
-            ++skipped;
-            return;
-        }
-        const SudokuRecord record{p.digits, ctx.board.CurrentGrid, 0, 0};
-        long number = 0;
-        std::string why;
-        if (!AppendToPair(dir, stem, record, SudokuLogRecord{}, &number, &why)) {
-            err << "tavi-sudoku-cli: " << why << '\n';
-            failed = true;
-            return;
-        }
-        if (!added++) first = number;
-    });
+    const int bad = ForEachPuzzle(
+        in, err,
+        [&](const PuzzleLine& p) {
+            if (failed) return;
+            ctx.board = Board{};
+            ctx.board.Puzzle = p.digits;
+            bool contradiction = false;
+            const int solutions = BruteForceSolutions(ctx, contradiction);
+            if (solutions != 1) {
+                err << Where(source, p.lineNumber)
+                    << (solutions == 0 ? "no solution" : "more than one solution") << ", skipped\n";
+                ++skipped;
+                return;
+            }
+            const SudokuRecord record{p.digits, ctx.board.CurrentGrid, 0, 0};
+            long number = 0;
+            std::string why;
+            if (!AppendToPair(dir, stem, record, SudokuLogRecord{}, &number, &why)) {
+                err << "tavi-sudoku-cli: " << why << '\n';
+                failed = true;
+                return;
+            }
+            if (!added++) first = number;
+        },
+        source);
     if (added)
         out << "added " << added << " puzzles to " << PuzzleFileName(stem) << " as records "
             << first << " to " << first + added - 1 << '\n';
     else
         out << "added no puzzles to " << PuzzleFileName(stem) << '\n';
-    if (failed) return kUsageError;
-    return skipped ? 1 : 0;
+    if (failed || bad) return kUsageError;
+    return skipped ? kExitSomeInvalid : kExitOk;
 }
 
 int GenerateCommand(const std::vector<std::string>& args, std::ostream& out, std::ostream& err) {
@@ -262,9 +258,10 @@ int LibraryCommand(const std::vector<std::string>& args, std::ostream& out, std:
         const auto level = Number(a.Get("level"), 1);
         if (a.positional.size() != 1 || !level || *level > kLevelCount || !a.Get("dir"))
             return Problem(err, "library import needs TEXTFILE, --level 1..9 and --dir DIR");
-        std::ifstream in(a.positional[0]);
-        if (!in) return Problem(err, "cannot open " + a.positional[0]);
-        return ImportLibrary(in, int(*level), *a.Get("dir"), out, err);
+        if (const std::string problem = InputFileProblem(a.positional[0]); !problem.empty())
+            return Problem(err, problem);
+        std::ifstream in(a.positional[0], std::ios::binary);
+        return ImportLibrary(in, int(*level), *a.Get("dir"), out, err, a.positional[0]);
     }
     return Problem(err, "library needs build, export or import");
 }

@@ -28,14 +28,17 @@ struct BuildOptions {
 // count per level.
 int BuildLibrary(const BuildOptions& options, std::ostream& out, std::ostream& err);
 
-// One line per record: puzzle, tab, solution, tab, best time as m:ss.
+// One line per record: puzzle, tab, solution, tab, best time as m:ss. Damaged
+// records and a torn tail are named on `err` (status 2); the sound records are
+// still written.
 int ExportLibrary(const std::filesystem::path& sdsFile, std::ostream& out, std::ostream& err);
 
 // Appends the puzzles of `in` to the pair of `level` in `dir` with their
 // brute-force solutions; lines that are no puzzle or have no unique solution are
-// reported by line number and skipped.
+// reported by line number and skipped. A pair left out of step is repaired first
+// and the repair reported.
 int ImportLibrary(std::istream& in, int level, const std::filesystem::path& dir, std::ostream& out,
-                  std::ostream& err);
+                  std::ostream& err, std::string_view source = "standard input");
 
 // The command lines: args[0] is "generate" or "library".
 int GenerateCommand(const std::vector<std::string>& args, std::ostream& out, std::ostream& err);

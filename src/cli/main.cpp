@@ -7,6 +7,7 @@
 
 #include "cli/commands.h"
 #include "cli/library_commands.h"
+#include "cli/puzzle_lines.h"
 #include "grid/levels.h"
 
 namespace {
@@ -110,23 +111,29 @@ int main(int argc, char** argv) {
             return Usage("more than one input file");
     }
 
+    const bool known = command == "rate" || command == "solve" || command == "steps" ||
+                       command == "hint" || command == "signature";
+    if (!known) return Usage("unknown command " + command);
     std::ifstream fileStream;
+    std::string source(tavi::cli::kStandardInput);
     if (!file.empty() && file != "-") {
-        fileStream.open(file);
-        if (!fileStream) {
-            std::cerr << "tavi-sudoku-cli: cannot open " << file << '\n';
-            return 2;
+        if (const std::string problem = tavi::cli::InputFileProblem(file); !problem.empty()) {
+            std::cerr << "tavi-sudoku-cli: " << problem << '\n';
+            return tavi::cli::kExitBadInput;
         }
+        fileStream.open(file, std::ios::binary);
+        source = file;
     }
     std::istream& in = fileStream.is_open() ? fileStream : std::cin;
     std::ios::sync_with_stdio(false);
 
-    if (command == "rate") return tavi::cli::Rate(in, std::cout, std::cerr, rateOptions);
-    if (command == "solve") return tavi::cli::Solve(in, std::cout, std::cerr);
-    if (command == "steps") return tavi::cli::Steps(in, std::cout, std::cerr, explain);
-    if (command == "hint") return tavi::cli::Hint(in, std::cout, std::cerr, paint);
-    if (command == "signature") return tavi::cli::Signature(in, std::cout, std::cerr);
-    if (command == "states") return tavi::cli::States(in, std::cout, std::cerr, all);
-    if (command == "rung") return tavi::cli::RungCommand(technique, in, std::cout, std::cerr, hint);
+    if (command == "rate") return tavi::cli::Rate(in, std::cout, std::cerr, rateOptions, source);
+    if (command == "solve") return tavi::cli::Solve(in, std::cout, std::cerr, source);
+    if (command == "steps") return tavi::cli::Steps(in, std::cout, std::cerr, explain, source);
+    if (command == "hint") return tavi::cli::Hint(in, std::cout, std::cerr, paint, source);
+    if (command == "signature") return tavi::cli::Signature(in, std::cout, std::cerr, source);
+    if (command == "states") return tavi::cli::States(in, std::cout, std::cerr, all, source);
+    if (command == "rung")
+        return tavi::cli::RungCommand(technique, in, std::cout, std::cerr, hint, source);
     return Usage("unknown command " + command);
 }

@@ -11,7 +11,8 @@
 
 namespace tavi::cli {
 
-int RungCommand(int technique, std::istream& in, std::ostream& out, std::ostream& err, bool hint) {
+int RungCommand(int technique, std::istream& in, std::ostream& out, std::ostream& err, bool hint,
+                std::string_view source) {
     int bad = 0, lineNumber = 0;
     std::string line;
     while (std::getline(in, line)) {
@@ -20,7 +21,7 @@ int RungCommand(int technique, std::istream& in, std::ostream& out, std::ostream
         std::string why;
         const auto board = ParseBoardLine(line, &why);
         if (!board) {
-            err << "line " << lineNumber << ": " << why << '\n';
+            err << source << ", line " << lineNumber << ": " << why << '\n';
             ++bad;
             continue;
         }
@@ -38,10 +39,11 @@ int RungCommand(int technique, std::istream& in, std::ostream& out, std::ostream
         if (hint) out << '\t' << (hit ? SchrijfHint(ctx.hint, *board) : "");
         out << '\n';
     }
-    return bad ? 1 : 0;
+    return bad ? kExitBadInput : kExitOk;
 }
 
-int States(std::istream& in, std::ostream& out, std::ostream& err, bool all) {
+int States(std::istream& in, std::ostream& out, std::ostream& err, bool all,
+           std::string_view source) {
     SolveContext ctx(Side::Workbench);
     bool written = false;  // this pass of the ladder has written its board
     WorkbenchRun run;
@@ -51,12 +53,15 @@ int States(std::istream& in, std::ostream& out, std::ostream& err, bool all) {
         written = true;
     };
     run.observer.hit = [&](const Rung&) { written = false; };
-    const int bad = ForEachPuzzle(in, err, [&](const PuzzleLine& p) {
-        ctx.board = BoardFromPuzzle(p.digits);
-        written = false;
-        SolveSudoku(ctx, run);
-    });
-    return bad ? 1 : 0;
+    const int bad = ForEachPuzzle(
+        in, err,
+        [&](const PuzzleLine& p) {
+            ctx.board = BoardFromPuzzle(p.digits);
+            written = false;
+            SolveSudoku(ctx, run);
+        },
+        source);
+    return bad ? kExitBadInput : kExitOk;
 }
 
 }  // namespace tavi::cli

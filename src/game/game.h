@@ -88,6 +88,7 @@ inline constexpr std::string_view kPlayingHintText =
     "Press [Hint] if you get stuck !!! Minimize Window to pause. DoubleClick this window to pop "
     "up the small Hint Window.";
 inline constexpr int kNoHover = 729;
+inline constexpr std::string_view kSettingsProblemTitle = "Settings not read";
 inline constexpr int kNoLine = 9;  // SelectedRow and SelectedColumn when nothing is picked
 inline constexpr Color kClueColor = 0x00800000;  // dark blue
 inline constexpr Color kDimmedMarkColor = 0x00D0D010;
@@ -213,7 +214,7 @@ class Game : private MoveListener {
     bool WellsVisible() const { return options_.Wells; }
     bool DigitCompleted(int digit) const;
 
-    int HoverCell = 81;
+    int HoverCell = kNoHover;  // the mark under the pointer, (digit - 1) * 81 + cell, or none
     int SelectedRow = kNoLine;
     int SelectedColumn = kNoLine;
     int HintStage = 0;
@@ -251,8 +252,9 @@ class Game : private MoveListener {
     // Puzzles.
     // Leaves the game on the board: saves or asks, as the options say.
     void LeaveBoard();
-    // Lays record PuzzleNumber(level) of the chosen level on the board.
-    void LoadPuzzle(bool askToGoOn);
+    // Lays record PuzzleNumber(level) of the chosen level on the board. False when
+    // it can't be read: the message has been shown and the game is as it was.
+    bool LoadPuzzle(bool askToGoOn);
     bool OpenLastSudoku();
     void RestoreProgress();
     void AfterLoad();
@@ -261,8 +263,8 @@ class Game : private MoveListener {
     // The candidates as the automatic marks have them: all digits but those the
     // peers hold.
     void RebuildMarks();
-    // Stops the game's commands after a load that failed.
-    void LoadFailed();
+    // Says so when the settings could not be read, or some of their values.
+    void ReportSettingsProblems();
     // Saves the position keys and the options: every way out ends here.
     void WriteSettingsOnExit();
     void OpenPage(const std::string& page);

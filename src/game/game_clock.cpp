@@ -2,6 +2,8 @@
 #include "game/display_text.h"
 #include "game/game.h"
 
+#include <algorithm>
+
 namespace tavi {
 
 namespace {
@@ -39,7 +41,7 @@ void Game::ShowClock() {
 void Game::WindowMinimised() {
     if (position_.SudokuSolved || !options_.TimeOn) return;
     Tick();
-    logRecord_.ElapsedMinutes = std::int16_t(clockSeconds_ / 60);
+    logRecord_.ElapsedMinutes = std::int16_t(std::min(clockSeconds_ / 60, 32767));
     logRecord_.ElapsedSeconds = std::int16_t(clockSeconds_ % 60);
     clockPaused_ = true;
 }
@@ -58,7 +60,8 @@ void Game::SetupWells() {
     for (auto& digit : wells_)
         digit.fill(false);
     for (int c = 0; c < 81; ++c)
-        if (const int d = ctx_.board.CurrentGrid[c]) wells_[d][Global::BoxOfCell[c]] = true;
+        if (const int d = ctx_.board.CurrentGrid[c]; d >= 1 && d <= 9)
+            wells_[d][Global::BoxOfCell[c]] = true;
 }
 
 bool Game::DigitCompleted(int digit) const {

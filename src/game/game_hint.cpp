@@ -283,8 +283,10 @@ void Game::CommandScan() {
     scanStop_ = false;
     for (long n = from; n <= to && !scanStop_; ++n) {
         position_.PuzzleNumber[level] = int(n);
-        LoadPuzzle(false);
-        if (!gridEnabled_) break;
+        if (!LoadPuzzle(false)) break;
+        // With pencil marks off the board shows every digit as a mark: the
+        // autosolver needs the real candidates.
+        RebuildMarks();
         ModeScope autosolving(ctx_, ctx_.Mode().With(SolveMode::kAutosolveActive));
         position_.SudokuAutosolved = true;
         if (AutoSolveBoard()) break;

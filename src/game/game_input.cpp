@@ -113,7 +113,8 @@ void Game::CandidateRemoved(int digit, int cell) {
 }
 
 void Game::MarkMouseMove(int digit, int cell) {
-    if (options_.Dimmed) HoverCell = (digit - 1) * 81 + cell;
+    const bool onBoard = digit >= 1 && digit <= 9 && cell >= 0 && cell <= 80;
+    if (options_.Dimmed) HoverCell = onBoard ? (digit - 1) * 81 + cell : kNoHover;
 }
 
 void Game::GridMouseMove() { HoverCell = kNoHover; }

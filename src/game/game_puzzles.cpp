@@ -38,7 +38,7 @@ void Game::CommandNew() {
     ResetHintStage();
     LeaveBoard();
     const int level = position_.ChosenLevel;
-    const double count = SudokuCount(PuzzleFile(folders_.DataFolder, LevelStem(level)));
+    const long count = CheckedPair(folders_.DataFolder, LevelStem(level), &services_.prompter);
     // File order, back to the first after the last.
     int& number = position_.PuzzleNumber[level];
     number = count > number ? number + 1 : 1;
@@ -50,8 +50,7 @@ void Game::CommandOpen() {
     ResetHintStage();
     LeaveBoard();
     const int level = position_.ChosenLevel;
-    const long count =
-        WholeRecords(PuzzleFile(folders_.DataFolder, LevelStem(level)), kSudokuRecordSize);
+    const long count = CheckedPair(folders_.DataFolder, LevelStem(level), &services_.prompter);
     if (count < 1) {
         services_.prompter.Beep();
         services_.prompter.Ask("Can't open sudoko",
@@ -72,19 +71,23 @@ void Game::CommandOpen() {
     LoadPuzzle(true);
 }
 
-void Game::LoadPuzzle(bool askToGoOn) {
+bool Game::LoadPuzzle(bool askToGoOn) {
+    const int level = position_.ChosenLevel;
+    const int number = position_.PuzzleNumber[level];
+    // Read before anything changes: a record that can't be read leaves the game,
+    // its board, clock and commands as they were.
+    SudokuRecord sudoku;
+    SudokuLogRecord log;
+    if (!ReadPair(folders_.DataFolder, LevelStem(level), number, sudoku, log, &services_.prompter))
+        return false;
+    sudoku_ = sudoku;
+    logRecord_ = log;
     position_.SudokuSolved = false;
     position_.SudokuAutosolved = false;
     ClearGrid();
     position_.OpenLevel = 0;
     position_.OpenRecord = 0;
-
-    const int level = position_.ChosenLevel;
-    const int number = position_.PuzzleNumber[level];
-    if (!ReadPair(folders_.DataFolder, LevelStem(level), number, sudoku_, logRecord_,
-                  &services_.prompter)) {
-        return LoadFailed();
-    }
+    clockSeconds_ = 0;  // a new game starts its own clock; a resumed one reads it
     EnableGrid();
     log_.clear();
     position_.CurrentStep = 0;
@@ -110,6 +113,7 @@ void Game::LoadPuzzle(bool askToGoOn) {
         SetPlayingCommands(false);
     }
     AfterLoad();
+    return true;
 }
 
 // The game as it was saved: digits, marks, the move log for undo, and the clock
@@ -124,7 +128,7 @@ void Game::RestoreProgress() {
                    logRecord_.LogRowMarks[i], logRecord_.LogBoxMarks[i]};
     ShowStepCount();
     for (int c = 0; c < 81; ++c) {
-        const int d = logRecord_.Grid[c] <= 9 ? logRecord_.Grid[c] : 0;
+        const int d = logRecord_.Grid[c] <= 9 ? logRecord_.Grid[c] : 0;  // checked on read
         ctx_.board.CurrentGrid[c] = std::uint8_t(d);
         ctx_.board.Candidates[c] =
             d ? 0 : CandidateMask((logRecord_.SavedCandidates[c] >> 1) & kAllCandidates);
@@ -168,20 +172,10 @@ void Game::SetPlayingCommands(bool progressRestored) {
     commands_.Redo = false;
 }
 
-void Game::LoadFailed() {
-    // The board stays empty and takes no clicks; nothing of the former game answers.
-    ClearSudokuData();
-    DisableGrid();
-    timerRunning_ = false;
-    labelTijd_.clear();
-    commands_.Undo = commands_.Redo = commands_.ResetCell = commands_.Hint = false;
-    commands_.AutoSolve = commands_.Solution = false;
-}
-
 bool Game::OpenLastSudoku() {
     const int level = position_.ChosenLevel;
     const int number = position_.PuzzleNumber[level];
-    if (SudokuCount(PuzzleFile(folders_.DataFolder, LevelStem(level))) <= 0) return false;
+    if (CheckedPair(folders_.DataFolder, LevelStem(level), &services_.prompter) <= 0) return false;
     SudokuRecord sudoku;
     SudokuLogRecord log;
     if (!ReadPair(folders_.DataFolder, LevelStem(level), number, sudoku, log, nullptr))

@@ -32,6 +32,7 @@ bool Game::Start() {
     MakeMode = false;
     SelectedRow = SelectedColumn = kNoLine;
     HaalOpties(services_.store, options_);
+    ReportSettingsProblems();
     if (!services_.sounds || !services_.sounds->Available()) options_.Sounds = false;
 
     if (!PrepareLogFiles(folders_, options_, services_.store, services_.prompter)) return false;
@@ -42,7 +43,7 @@ bool Game::Start() {
     ClearGrid();
     DisableGrid();
     ClearSudokuData();
-    HoverCell = 81;
+    HoverCell = kNoHover;
 
     position_.OpenLevel = 0;
     position_.OpenRecord = 0;
@@ -68,6 +69,18 @@ bool Game::Start() {
     WindowTitle = "Tavi Sudoku 1";
     caption_ = WindowTitle;
     return true;
+}
+
+void Game::ReportSettingsProblems() {
+    const SettingsStore& store = services_.store;
+    std::string text = store.Problem();
+    if (!store.Unreadable().empty()) {
+        if (!text.empty()) text += "\n\n";
+        text += "These settings could not be read and their defaults are used:";
+        for (const std::string& each : store.Unreadable())
+            text += "\n" + each;
+    }
+    if (!text.empty()) services_.prompter.Message(kSettingsProblemTitle, text);
 }
 
 void Game::OptionType(int level) {

@@ -25,10 +25,11 @@ void ForEachLoggedPeer(const MoveStep& step, F f) {
 void Game::CommandUndo() {
     if (busy_) return;  // a search is running
     if (position_.CurrentStep <= 0 || position_.CurrentStep > LastStep()) return;
+    const MoveStep& step = log_[position_.CurrentStep - 1];
+    if (step.LogCell < 0 || step.LogCell > 80) return;  // no step of this board
     ResetHintStage();
     Speel(kSoundUndoRedo);
     commands_.Redo = true;
-    const MoveStep& step = log_[position_.CurrentStep - 1];
     const int v = step.LogDigit, c = step.LogCell;
     auto& candidates = ctx_.board.Candidates;
     if (v >= -9 && v <= -1) {
@@ -49,7 +50,8 @@ void Game::CommandUndo() {
 
 void Game::CommandRedo() {
     if (busy_) return;  // a search is running
-    if (position_.CurrentStep >= LastStep()) return;
+    if (position_.CurrentStep < 0 || position_.CurrentStep >= LastStep()) return;
+    if (log_[position_.CurrentStep].LogCell < 0 || log_[position_.CurrentStep].LogCell > 80) return;
     ResetHintStage();
     Speel(kSoundUndoRedo);
     ++position_.CurrentStep;

@@ -12,10 +12,9 @@ namespace {
 
 std::string LevelSection(int level) { return "SudokuLevel" + std::to_string(level); }
 
-// Record numbers are 16-bit in the store; anything else is no number.
+// Any record number a pair can hold; anything else is no number.
 int ReadRecordNumber(const SettingsStore& store, int level) {
-    const int n = ReadInt(store, LevelSection(level), "Number", 0);
-    return n >= 0 ? n : 0;
+    return int(ReadWhole(store, LevelSection(level), "Number", 0, 0, kMaxRecords));
 }
 
 void FileError(Notifier* notifier, std::string_view text) {

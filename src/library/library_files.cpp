@@ -3,6 +3,9 @@
 #include <fstream>
 #include <system_error>
 
+#include "library/record_checks.h"
+#include "library/record_journal.h"
+
 namespace tavi {
 
 namespace fs = std::filesystem;
@@ -47,6 +50,7 @@ long WholeRecords(const fs::path& file, std::size_t recordSize) {
 
 bool ReadRecordBytes(const fs::path& file, long number, std::span<std::uint8_t> bytes,
                      std::string* why) {
+    FinishPendingWrites(file);
     const auto length = LengthOf(file);
     if (!length) {
         Say(why, file.string() + " was not found.");
@@ -82,8 +86,8 @@ bool WriteRecordBytes(const fs::path& file, long number, std::span<const std::ui
     // Compared as record numbers first, so that no huge number can wrap the offset.
     const std::uintmax_t whole = *length / size;
     const bool inPlace = number >= 1 && std::uintmax_t(number) <= whole;
-    const bool append = number >= 1 && *length % size == 0 && std::uintmax_t(number) == whole + 1;
-    const std::uintmax_t offset = inPlace || append ? std::uintmax_t(number - 1) * size : 0;
+    const bool append = number >= 1 && number <= kMaxRecords && *length % size == 0 &&
+                        std::uintmax_t(number) == whole + 1;
     if (!inPlace && !append) {
         if (*length % size != 0)
             Say(why, Name(file) + " is damaged: its length " + std::to_string(*length) +
@@ -91,34 +95,32 @@ bool WriteRecordBytes(const fs::path& file, long number, std::span<const std::ui
                          "; nothing can be added to it.");
         else
             Say(why, "Record " + std::to_string(number) + " can't be written to " + Name(file) +
-                         ", which holds " + std::to_string(*length / size) + " records.");
+                         ", which holds " + std::to_string(*length / size) + " records" +
+                         (number > kMaxRecords ? ", the most a library file can hold." : "."));
         return false;
+    }
+    if (inPlace) {
+        const RecordWrite write{file, number, {bytes.begin(), bytes.end()}};
+        return WriteRecordsInPlace({&write, 1}, why);
     }
 
     bool ok;
     {
-        // in|out keeps what is there; a missing file has to be made first.
-        std::fstream io;
-        if (exists)
-            io.open(file, std::ios::in | std::ios::out | std::ios::binary);
-        else
-            io.open(file, std::ios::out | std::ios::binary);
-        ok = io.is_open();
+        // Appended at the end: a kill half way leaves a torn tail, cut off on open.
+        std::ofstream out(file, std::ios::binary | std::ios::app);
+        ok = out.is_open();
         if (ok) {
-            io.seekp(std::streamoff(offset));
-            io.write(reinterpret_cast<const char*>(bytes.data()), std::streamsize(size));
-            io.flush();
-            ok = bool(io);
+            out.write(reinterpret_cast<const char*>(bytes.data()), std::streamsize(size));
+            out.flush();
+            ok = bool(out);
         }
     }
     if (!ok) {
         // An append that failed half way is cut back, so the file is as it was.
-        if (append) {
-            if (exists)
-                fs::resize_file(file, *length, ec);
-            else
-                fs::remove(file, ec);
-        }
+        if (exists)
+            fs::resize_file(file, *length, ec);
+        else
+            fs::remove(file, ec);
         Say(why, "Error writing record " + std::to_string(number) + " to " + file.string() + ".");
     }
     return ok;
@@ -127,7 +129,12 @@ bool WriteRecordBytes(const fs::path& file, long number, std::span<const std::ui
 bool ReadSudokuRecord(const fs::path& file, long number, SudokuRecord& record, std::string* why) {
     SudokuRecordBytes bytes;
     if (!ReadRecordBytes(file, number, bytes, why)) return false;
-    record = SudokuRecordFromBytes(bytes);
+    const SudokuRecord read = SudokuRecordFromBytes(bytes);
+    if (const std::string wrong = CheckSudokuRecord(read); !wrong.empty()) {
+        Say(why, DamagedRecord(file, number, wrong));
+        return false;
+    }
+    record = read;
     return true;
 }
 
@@ -140,7 +147,12 @@ bool ReadSudokuLogRecord(const fs::path& file, long number, SudokuLogRecord& rec
                          std::string* why) {
     SudokuLogRecordBytes bytes;
     if (!ReadRecordBytes(file, number, bytes, why)) return false;
-    record = SudokuLogRecordFromBytes(bytes);
+    const SudokuLogRecord read = SudokuLogRecordFromBytes(bytes);
+    if (const std::string wrong = CheckSudokuLogRecord(read); !wrong.empty()) {
+        Say(why, DamagedRecord(file, number, wrong));
+        return false;
+    }
+    record = read;
     return true;
 }
 
@@ -181,8 +193,12 @@ bool WriteSudokuFile(const fs::path& file, std::span<const SudokuRecord> records
     return true;
 }
 
+std::string DamagedRecord(const fs::path& file, long number, const std::string& wrong) {
+    return "Record " + std::to_string(number) + " of " + Name(file) + " is damaged: " + wrong + ".";
+}
+
 bool ReadSudokuFile(const fs::path& file, std::vector<SudokuRecord>& records, std::size_t* trailing,
-                    std::string* why) {
+                    std::string* why, std::vector<std::string>* damaged) {
     const auto length = LengthOf(file);
     if (!length) {
         Say(why, file.string() + " was not found.");
@@ -192,9 +208,20 @@ bool ReadSudokuFile(const fs::path& file, std::vector<SudokuRecord>& records, st
     records.clear();
     records.reserve(std::size_t(*length / kSudokuRecordSize));
     SudokuRecordBytes bytes;
-    while (in.read(reinterpret_cast<char*>(bytes.data()), std::streamsize(bytes.size())))
-        records.push_back(SudokuRecordFromBytes(bytes));
-    if (records.size() != *length / kSudokuRecordSize) {
+    long number = 0;
+    while (in.read(reinterpret_cast<char*>(bytes.data()), std::streamsize(bytes.size()))) {
+        const SudokuRecord r = SudokuRecordFromBytes(bytes);
+        ++number;
+        if (const std::string wrong = CheckSudokuRecord(r); wrong.empty()) {
+            records.push_back(r);
+        } else if (damaged) {
+            damaged->push_back(DamagedRecord(file, number, wrong));
+        } else {
+            Say(why, DamagedRecord(file, number, wrong));
+            return false;
+        }
+    }
+    if (std::uintmax_t(number) != *length / kSudokuRecordSize) {
         Say(why, "Could not read " + file.string() + ".");
         return false;
     }

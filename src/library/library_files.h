@@ -5,7 +5,9 @@
 // Record numbers start at 1. A read must find the whole record inside the file. A
 // write goes over a whole record that is there, or appends exactly at the end (a
 // missing file counts as empty); it never leaves a gap, and a write that fails
-// leaves the file as it was.
+// leaves the file as it was. A write over a record goes through a note
+// (record_journal.h), so a kill leaves the old record or the new one; an append
+// killed half way leaves a torn tail, which the pair's open cuts off.
 #pragma once
 
 #include <cstddef>
@@ -20,6 +22,10 @@
 #include "library/records.h"
 
 namespace tavi {
+
+// The most records a library file holds: record numbers are 32-bit wherever they
+// are kept. A pair is never grown past it.
+inline constexpr long kMaxRecords = 2147483647;
 
 // The program's folder, where the delivered library lies, and the user's data
 // folder, where all game files are read and written.
@@ -55,6 +61,9 @@ bool ReadRecordBytes(const std::filesystem::path& file, long number, std::span<s
 bool WriteRecordBytes(const std::filesystem::path& file, long number,
                       std::span<const std::uint8_t> bytes, std::string* why = nullptr);
 
+// The two record readers also check every field (record_checks.h): a damaged
+// record is refused with its file, number and first wrong field, and `record`
+// keeps what it held.
 bool ReadSudokuRecord(const std::filesystem::path& file, long number, SudokuRecord& record,
                       std::string* why = nullptr);
 bool WriteSudokuRecord(const std::filesystem::path& file, long number, const SudokuRecord& record,
@@ -70,9 +79,14 @@ bool WriteSudokuLogRecord(const std::filesystem::path& file, long number,
 // new file replaces the old one only when it was written in full.
 bool WriteSudokuFile(const std::filesystem::path& file, std::span<const SudokuRecord> records,
                      std::string* why = nullptr);
-// Every whole record of a `.sds` file. `trailing` gets the bytes after the last
-// whole record (0 for a sound file).
+// Every sound whole record of a `.sds` file. `trailing` gets the bytes after the
+// last whole record (0 for a sound file). A damaged record fails the read, or,
+// given `damaged`, is left out and named there.
 bool ReadSudokuFile(const std::filesystem::path& file, std::vector<SudokuRecord>& records,
-                    std::size_t* trailing = nullptr, std::string* why = nullptr);
+                    std::size_t* trailing = nullptr, std::string* why = nullptr,
+                    std::vector<std::string>* damaged = nullptr);
+
+// "Record 5 of Sudoku_Easy.sds is damaged: ...".
+std::string DamagedRecord(const std::filesystem::path& file, long number, const std::string& wrong);
 
 }  // namespace tavi

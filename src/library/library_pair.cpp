@@ -1,8 +1,11 @@
 #include "library/library_pair.h"
 
+#include <algorithm>
 #include <system_error>
 
 #include "grid/levels.h"
+#include "library/pair_guard.h"
+#include "library/record_journal.h"
 
 namespace tavi {
 
@@ -14,22 +17,24 @@ void Say(std::string* why, std::string text) {
     if (why) *why = std::move(text);
 }
 
-// The renamed copy of a file that a rewrite works from: "2" before its name.
-fs::path Renamed(const fs::path& file) {
-    return file.parent_path() / ("2" + file.filename().string());
-}
-
 }  // namespace
 
 std::string SourceFileNotFound(std::string_view stem) {
     return "Source file: " + std::string(stem) + "*" + " not found!";
 }
 
+long CheckedPair(const fs::path& dataFolder, std::string_view stem, Notifier* notifier) {
+    std::string repaired;
+    const long count = OpenPair(dataFolder, stem, &repaired);
+    if (!repaired.empty() && notifier) notifier->Message(kPairRepairedTitle, repaired);
+    return count;
+}
+
 bool ReadPair(const fs::path& dataFolder, std::string_view stem, long number, SudokuRecord& sudoku,
               SudokuLogRecord& log, Notifier* notifier) {
     const fs::path sds = PuzzleFile(dataFolder, stem), sdl = LogFile(dataFolder, stem);
     std::string why;
-    if (!FileExists(sds) || !FileExists(sdl)) {
+    if (CheckedPair(dataFolder, stem, notifier) < 0) {
         why = SourceFileNotFound(stem);
     } else {
         SudokuRecord s;
@@ -47,38 +52,62 @@ bool ReadPair(const fs::path& dataFolder, std::string_view stem, long number, Su
 bool WritePair(const fs::path& dataFolder, std::string_view stem, long number,
                const SudokuRecord& sudoku, const SudokuLogRecord& log, std::string* why) {
     const fs::path sds = PuzzleFile(dataFolder, stem), sdl = LogFile(dataFolder, stem);
-    // What the puzzle file holds now, to put back if the log file fails.
-    SudokuRecordBytes before;
-    const bool replacing = ReadRecordBytes(sds, number, before);
-    const bool existed = FileExists(sds);
+    if (log.StepCount < 0 || log.StepCount > kLogSteps) {
+        Say(why, "A saved game holds at most " + std::to_string(kLogSteps) + " steps.");
+        return false;
+    }
+    const long count = OpenPair(dataFolder, stem);
+    if (count < 0 && (FileExists(sds) || FileExists(sdl))) {
+        Say(why, SourceFileNotFound(stem));
+        return false;
+    }
+    if (number >= 1 && number <= count) {
+        const auto s = ToBytes(sudoku);
+        const auto l = ToBytes(log);
+        const RecordWrite both[] = {{sds, number, {s.begin(), s.end()}},
+                                    {sdl, number, {l.begin(), l.end()}}};
+        return WriteRecordsInPlace(both, why);
+    }
+    if (number != std::max(count, 0L) + 1) {
+        Say(why, "Record " + std::to_string(number) + " can't be written to the pair " +
+                     std::string(stem) + "*, which holds " + std::to_string(std::max(count, 0L)) +
+                     " records.");
+        return false;
+    }
+    // An append: the log record first, so that the puzzle file's length never
+    // counts a record whose log is missing.
     std::error_code ec;
-    const std::uintmax_t lengthBefore = existed ? fs::file_size(sds, ec) : 0;
-
-    if (!WriteSudokuRecord(sds, number, sudoku, why)) return false;
-    if (WriteSudokuLogRecord(sdl, number, log, why)) return true;
-
-    if (replacing)
-        WriteRecordBytes(sds, number, before);
-    else if (existed)
-        fs::resize_file(sds, lengthBefore, ec);
+    const bool hadLog = FileExists(sdl);
+    const std::uintmax_t logLength = hadLog ? fs::file_size(sdl, ec) : 0;
+    if (!WriteSudokuLogRecord(sdl, number, log, why)) return false;
+    if (WriteSudokuRecord(sds, number, sudoku, why)) return true;
+    if (hadLog)
+        fs::resize_file(sdl, logLength, ec);
     else
-        fs::remove(sds, ec);
+        fs::remove(sdl, ec);
     return false;
 }
 
 bool AppendToPair(const fs::path& dataFolder, std::string_view stem, const SudokuRecord& sudoku,
                   const SudokuLogRecord& log, long* number, std::string* why) {
-    const fs::path sds = PuzzleFile(dataFolder, stem), sdl = LogFile(dataFolder, stem);
-    const double puzzles = RecordCount(sds, kSudokuRecordSize).value_or(0);
-    const double logs = RecordCount(sdl, kSudokuLogRecordSize).value_or(0);
-    if (puzzles != long(puzzles) || logs != long(logs) || puzzles != logs) {
-        Say(why, "The files of " + std::string(stem) + "* are out of step: " +
-                     PuzzleFileName(stem) + " holds " + std::to_string(puzzles) + " records, " +
-                     LogFileName(stem) + " " + std::to_string(logs) + "; nothing was added.");
+    std::string repaired;
+    long count = OpenPair(dataFolder, stem, &repaired);
+    if (count < 0) {
+        // A new pair starts from nothing; half a pair is the user's to sort out.
+        if (FileExists(PuzzleFile(dataFolder, stem)) || FileExists(LogFile(dataFolder, stem))) {
+            Say(why, "Only one file of " + std::string(stem) + "* is there; nothing was added.");
+            return false;
+        }
+        count = 0;
+    }
+    if (count >= kMaxRecords) {
+        Say(why, "The files of " + std::string(stem) + "* hold " + std::to_string(count) +
+                     " records, the most they can; nothing was added.");
         return false;
     }
-    const long next = long(puzzles) + 1;
+    const long next = count + 1;
     if (!WritePair(dataFolder, stem, next, sudoku, log, why)) return false;
+    if (why && !repaired.empty()) *why = repaired;
     if (number) *number = next;
     return true;
 }
@@ -91,50 +120,23 @@ bool ExportSudoku(const fs::path& dataFolder, int currentSud, const SudokuRecord
         if (notifier) notifier->Message(kFileErrorTitle, text);
         return false;
     };
-    const long n = WholeRecords(sds, kSudokuRecordSize);
-    if (!FileExists(sds) || !FileExists(sdl)) return fail(SourceFileNotFound(stem));
-    if (WholeRecords(sdl, kSudokuLogRecordSize) != n)
-        return fail("The files of " + std::string(stem) + "* are out of step; nothing was moved.");
+    const long n = CheckedPair(dataFolder, stem, notifier);
+    if (n < 0) return fail(SourceFileNotFound(stem));
     if (currentSud < 1 || currentSud > n)
         return fail("Record " + std::to_string(currentSud) + " is not in " + sds.string() + ".");
 
+    // Copied out first: a kill between the two steps leaves the puzzle in both
+    // pairs, never in neither.
     std::string why;
     if (!AppendToPair(dataFolder, kExportedStem, sudoku, log, nullptr, &why)) return fail(why);
 
-    std::error_code ec;
-    if (n == 1) {
-        fs::remove(sds, ec);
-        fs::remove(sdl, ec);
-        return true;
-    }
-
-    // Work from renamed copies and write the pair anew without the record; on a
-    // failure the new files go and the copies get their names back.
-    const fs::path oldSds = Renamed(sds), oldSdl = Renamed(sdl);
-    fs::rename(sds, oldSds, ec);
-    if (ec) return fail(std::string(kWriteErrorText));
-    fs::rename(sdl, oldSdl, ec);
-    if (ec) {
-        fs::rename(oldSds, sds, ec);
-        return fail(std::string(kWriteErrorText));
-    }
-    bool ok = true;
-    for (long i = 1; ok && i <= n; ++i) {
-        if (i == currentSud) continue;
-        SudokuRecord s;
-        SudokuLogRecord l;
-        ok = ReadSudokuRecord(oldSds, i, s, &why) && ReadSudokuLogRecord(oldSdl, i, l, &why) &&
-             WritePair(dataFolder, stem, i < currentSud ? i : i - 1, s, l, &why);
-    }
-    if (!ok) {
-        fs::remove(sds, ec);
-        fs::remove(sdl, ec);
-        fs::rename(oldSds, sds, ec);
-        fs::rename(oldSdl, sdl, ec);
-        return fail(why);
-    }
-    fs::remove(oldSds, ec);
-    fs::remove(oldSdl, ec);
+    // The Outlaw pair is written anew without the record, as a whole; the
+    // records are carried over as they are on disk, damaged ones included.
+    const auto source = [&](long i, SudokuRecordBytes& s, SudokuLogRecordBytes& l) {
+        const long from = i < currentSud ? i : i + 1;
+        return ReadRecordBytes(sds, from, s, &why) && ReadRecordBytes(sdl, from, l, &why);
+    };
+    if (!RewritePair(dataFolder, stem, n - 1, source, &why)) return fail(why);
     return true;
 }
 

@@ -17,22 +17,30 @@ namespace tavi {
 
 inline constexpr std::string_view kFileErrorTitle = "File Error";
 inline constexpr std::string_view kWriteErrorText = "Error writing sudoku to file !";
+inline constexpr std::string_view kPairRepairedTitle = "Library repaired";
 // "Source file: Sudoku_Easy.sd* not found!": the star stands for either file.
 std::string SourceFileNotFound(std::string_view stem);
 
-// Record `number` of both files. A missing file is reported as "Source file:
+// The pair opened for use (pair_guard.h): what a kill left is finished or cut
+// off, with a message under "Library repaired" when something was. The number of
+// records, or -1 when a file is missing.
+long CheckedPair(const std::filesystem::path& dataFolder, std::string_view stem,
+                 Notifier* notifier);
+
+// Record `number` of both files, after CheckedPair. A missing file is reported as "Source file:
 // <stem>* not found!", any other failure with what went wrong, both under "File
 // Error". Nothing is changed in `sudoku` or `log` unless both were read.
 bool ReadPair(const std::filesystem::path& dataFolder, std::string_view stem, long number,
               SudokuRecord& sudoku, SudokuLogRecord& log, Notifier* notifier);
 
-// Both records at `number`, in place or appended at the end of both files.
+// Both records at `number`: in place under one note, or appended at the end of
+// both files, the log first.
 bool WritePair(const std::filesystem::path& dataFolder, std::string_view stem, long number,
                const SudokuRecord& sudoku, const SudokuLogRecord& log, std::string* why = nullptr);
 
-// Adds both records at count + 1. Refuses when the two files don't hold the same
-// number of whole records, or the puzzle file is damaged. `number` gets the new
-// record number.
+// Adds both records at count + 1, after repairing a pair left out of step (then
+// `why` gets what was repaired). Refuses a pair of which one file is missing and
+// a pair that holds kMaxRecords. `number` gets the new record number.
 bool AppendToPair(const std::filesystem::path& dataFolder, std::string_view stem,
                   const SudokuRecord& sudoku, const SudokuLogRecord& log, long* number = nullptr,
                   std::string* why = nullptr);
@@ -40,7 +48,8 @@ bool AppendToPair(const std::filesystem::path& dataFolder, std::string_view stem
 // A maintenance routine for the Outlaw pair: appends the given records to the
 // "Exported_Sudokus.sd" pair and takes record `currentSud` out of the Outlaw pair,
 // the records after it moving up one. With one record left the Outlaw files go.
-// On any failure the Outlaw pair stays as it was.
+// On any failure, or a kill, the Outlaw pair stays as it was or is wholly the new
+// one; the puzzle is never in neither pair.
 bool ExportSudoku(const std::filesystem::path& dataFolder, int currentSud,
                   const SudokuRecord& sudoku, const SudokuLogRecord& log, Notifier* notifier);
 

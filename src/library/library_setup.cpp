@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "grid/levels.h"
+#include "library/library_pair.h"
 
 namespace tavi {
 
@@ -20,9 +21,11 @@ fs::path TemporaryBeside(const fs::path& file) {
     return temp;
 }
 
+}  // namespace
+
 // `count` empty log records in one go. The records are all zero, so a block of
 // them is written as often as needed.
-bool WriteEmptyLog(const fs::path& file, long count) {
+bool MakeEmptyLog(const fs::path& file, long count) {
     const fs::path temp = TemporaryBeside(file);
     std::error_code ec;
     bool ok;
@@ -47,8 +50,6 @@ bool WriteEmptyLog(const fs::path& file, long count) {
     return true;
 }
 
-}  // namespace
-
 void CopyLibraryFiles(const LibraryFolders& folders) {
     // The order in which the levels have always been visited.
     constexpr std::array<int, 9> kOrder = {1, 2, 3, 4, 7, 6, 5, 8, 9};
@@ -66,6 +67,17 @@ void CopyLibraryFiles(const LibraryFolders& folders) {
     }
 }
 
+bool EnsureLogFile(const fs::path& folder, std::string_view stem, std::string* made) {
+    const fs::path sdl = LogFile(folder, stem);
+    std::error_code ec;
+    if (fs::exists(sdl, ec) || ec) return !ec;
+    if (!FileExists(PuzzleFile(folder, stem))) return true;  // a new pair starts whole
+    const long count = WholeRecords(PuzzleFile(folder, stem), kSudokuRecordSize);
+    if (!MakeEmptyLog(sdl, count)) return false;
+    if (made) *made = sdl.string() + " was made with " + std::to_string(count) + " empty records";
+    return true;
+}
+
 bool MaakSudLog(const LibraryFolders& folders, Notifier& notifier) {
     notifier.Message(kFirstRunTitle, kFirstRunText);
     for (int level = 1; level <= kLevelCount; ++level) {
@@ -78,8 +90,10 @@ bool MaakSudLog(const LibraryFolders& folders, Notifier& notifier) {
                              std::string(kCouldNotOpenSource) + source.string());
             return false;
         }
-        // One log record for each whole puzzle record.
-        if (!WriteEmptyLog(LogFile(folders.DataFolder, stem), long(count))) return false;
+        // A log that is there holds the user's games: it is only brought in step.
+        if (!EnsureLogFile(folders.DataFolder, stem) ||
+            CheckedPair(folders.DataFolder, stem, &notifier) < 0)
+            return false;
     }
     return true;
 }

@@ -3,6 +3,8 @@
 // record.
 #pragma once
 
+#include <filesystem>
+#include <string>
 #include <string_view>
 
 #include "library/library_files.h"
@@ -22,10 +24,21 @@ inline constexpr std::string_view kCouldNotOpenSource = "Could not open source f
 // fails leaves no half file behind.
 void CopyLibraryFiles(const LibraryFolders& folders);
 
-// Makes the nine `.sdl` files afresh, one empty log record per puzzle. Stops with
-// false at the first level whose `.sds` file is missing or holds no whole record (after saying
-// which), or when a log file can't be written; a level already done stays done,
-// and the next start does them all again.
+// `count` empty log records as the file `sdl`, through a temporary file: a kill
+// leaves no half file under the name.
+bool MakeEmptyLog(const std::filesystem::path& sdl, long count);
+
+// Makes the `.sdl` file of a pair that has none, one empty record per puzzle. A
+// log file that is there is never touched. `made` says what was made.
+bool EnsureLogFile(const std::filesystem::path& folder, std::string_view stem,
+                   std::string* made = nullptr);
+
+// Makes the `.sdl` files that are missing, one empty log record per puzzle, and
+// brings the ones that are there in step with their puzzle files: an existing
+// log is never rewritten or emptied, so a first run taken by mistake loses
+// nothing. Stops with false at the first level whose `.sds` file is missing or
+// holds no whole record (after saying which), or when a log file can't be
+// written.
 bool MaakSudLog(const LibraryFolders& folders, Notifier& notifier);
 
 }  // namespace tavi

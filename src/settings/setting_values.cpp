@@ -46,21 +46,30 @@ std::optional<long long> ParseWhole(std::string_view text, long long low, long l
 
 bool ReadBool(const SettingsStore& store, std::string_view section, std::string_view key,
               bool fallback) {
-    return ParseBool(store.Read(section, key, BoolText(fallback))).value_or(fallback);
+    const std::string text = store.Read(section, key, BoolText(fallback));
+    const auto value = ParseBool(text);
+    if (!value) store.NoteUnreadable(section, key, text);
+    return value.value_or(fallback);
 }
 
 int ReadInt(const SettingsStore& store, std::string_view section, std::string_view key,
             int fallback) {
-    const auto value =
-        ParseWhole(store.Read(section, key, std::to_string(fallback)), -32768, 32767);
-    return value ? int(*value) : fallback;
+    return int(ReadWhole(store, section, key, fallback, -32768, 32767));
+}
+
+long long ReadWhole(const SettingsStore& store, std::string_view section, std::string_view key,
+                    long long fallback, long long low, long long high) {
+    const std::string text = store.Read(section, key, std::to_string(fallback));
+    const auto value = ParseWhole(text, low, high);
+    if (!value) store.NoteUnreadable(section, key, text);
+    return value.value_or(fallback);
 }
 
 std::uint32_t ReadColor(const SettingsStore& store, std::string_view section, std::string_view key,
                         std::uint32_t fallback) {
-    const auto value =
-        ParseWhole(store.Read(section, key, ColorText(fallback)), -2147483648LL, 4294967295LL);
-    return value ? static_cast<std::uint32_t>(*value) : fallback;
+    const auto value = ReadWhole(store, section, key, static_cast<std::int32_t>(fallback),
+                                 -2147483648LL, 4294967295LL);
+    return static_cast<std::uint32_t>(value);
 }
 
 std::string ColorText(std::uint32_t color) {

@@ -1,6 +1,7 @@
 // Typed values over the text of the store. The store may hold anything a person
 // or another program put there; a value that can't be read as its type gives the
-// default, so a damaged settings file never stops the program.
+// default, so a damaged settings file never stops the program, and is noted in
+// the store (SettingsStore::Unreadable) so that the program can say so.
 #pragma once
 
 #include <cstdint>
@@ -21,6 +22,9 @@ inline std::string BoolText(bool value) { return value ? "True" : "False"; }
 
 bool ReadBool(const SettingsStore& store, std::string_view section, std::string_view key,
               bool fallback);
+// A whole number from `low` to `high`.
+long long ReadWhole(const SettingsStore& store, std::string_view section, std::string_view key,
+                    long long fallback, long long low, long long high);
 // A 16-bit whole number.
 int ReadInt(const SettingsStore& store, std::string_view section, std::string_view key,
             int fallback);

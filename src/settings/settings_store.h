@@ -7,6 +7,7 @@
 #include <string>
 #include <string_view>
 #include <utility>
+#include <vector>
 
 namespace tavi {
 
@@ -20,6 +21,24 @@ class SettingsStore {
     // Puts what was written where it survives the end of the program. Writers of
     // keys that must not wait for the exit call it; the rest goes out at the end.
     virtual void Flush() {}
+
+    // Why the store could not be read, empty when it was: the program then runs
+    // on defaults in memory and never writes over the file.
+    const std::string& Problem() const { return problem_; }
+    void SetProblem(std::string text) { problem_ = std::move(text); }
+
+    // The values read so far that could not be understood, as "Section/Key=value";
+    // the default stood in for each.
+    const std::vector<std::string>& Unreadable() const { return unreadable_; }
+    void NoteUnreadable(std::string_view section, std::string_view key,
+                        std::string_view value) const {
+        unreadable_.push_back(std::string(section) + "/" + std::string(key) + "=" +
+                              std::string(value));
+    }
+
+  private:
+    std::string problem_;
+    mutable std::vector<std::string> unreadable_;
 };
 
 // A store that forgets everything when it goes; for tests and for a run without

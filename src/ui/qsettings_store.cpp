@@ -1,5 +1,7 @@
 #include "ui/qsettings_store.h"
 
+#include <QFileInfo>
+
 namespace tavi::ui {
 
 namespace {
@@ -17,10 +19,28 @@ QString Path(std::string_view section, std::string_view key) {
 
 QSettingsStore::QSettingsStore()
     : settings_(std::make_unique<QSettings>(QSettings::IniFormat, QSettings::UserScope,
-                                            kApplication, kApplication)) {}
+                                            kApplication, kApplication)) {
+    CheckReadable();
+}
 
 QSettingsStore::QSettingsStore(const QString& iniFile)
-    : settings_(std::make_unique<QSettings>(iniFile, QSettings::IniFormat)) {}
+    : settings_(std::make_unique<QSettings>(iniFile, QSettings::IniFormat)) {
+    CheckReadable();
+}
+
+void QSettingsStore::CheckReadable() {
+    const QFileInfo file(settings_->fileName());
+    std::string why;
+    if (file.exists() && (!file.isFile() || !file.isReadable()))
+        why = "it can't be read";
+    else if (settings_->status() == QSettings::AccessError)
+        why = "it can't be read";
+    else if (settings_->status() == QSettings::FormatError)
+        why = "it is no settings file";
+    if (!why.empty())
+        SetProblem("The settings file " + file.filePath().toStdString() + " was not used: " + why +
+                   ". Tavi Sudoku runs on its default settings and leaves that file as it is.");
+}
 
 std::string QSettingsStore::Read(std::string_view section, std::string_view key,
                                  std::string_view fallback) const {

@@ -27,6 +27,9 @@ class QSettingsStore : public SettingsStore {
     QString FileName() const { return settings_->fileName(); }
 
   private:
+    // Sets the store's Problem when the file is there but can't be read.
+    void CheckReadable();
+
     std::unique_ptr<QSettings> settings_;
 };
 

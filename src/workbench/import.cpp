@@ -6,7 +6,7 @@
 #include "grid/candidates.h"
 #include "library/library_files.h"
 #include "library/library_pair.h"
-#include "library/pair_rewrite.h"
+#include "library/pair_guard.h"
 #include "solver/brute_force.h"
 #include "solver/ladder.h"
 
@@ -57,7 +57,7 @@ ImportReport ImportPuzzles(const std::filesystem::path& dataFolder, std::istream
     // What the library holds already, to refuse a puzzle a second time.
     std::unordered_set<std::string> known;
     for (int level = 1; level <= kLevelCount; ++level) {
-        RecoverPair(dataFolder, LevelStem(level));
+        OpenPair(dataFolder, LevelStem(level));
         std::vector<SudokuRecord> records;
         ReadSudokuFile(PuzzleFile(dataFolder, LevelStem(level)), records);
         for (const auto& r : records)

@@ -3,6 +3,7 @@
 #include "grid/candidates.h"
 #include "library/library_files.h"
 #include "library/library_pair.h"
+#include "library/pair_guard.h"
 #include "library/pair_rewrite.h"
 #include "solver/brute_force.h"
 #include "solver/ladder.h"
@@ -63,7 +64,9 @@ void Workbench::ReportFileError(const std::string& why) {
 void Workbench::Command1(int level) {
     if (batchRunning_ || !IsLevel(level)) return;
     const auto stem = LevelStem(level);
-    RecoverPair(dataFolder_, stem);
+    std::string repaired;
+    OpenPair(dataFolder_, stem, &repaired);
+    if (!repaired.empty()) prompter_.Message(kFileErrorTitle, repaired);
     const auto sds = PuzzleFile(dataFolder_, stem);
     const long count = WholeRecords(sds, kSudokuRecordSize);
     if (count < 1) {
@@ -233,7 +236,7 @@ bool Workbench::WriteInPlace() {
 
 bool Workbench::Compact(const std::vector<bool>& drop) {
     std::string why;
-    const bool ok = RewritePair(
+    const bool ok = KeepInPair(
         dataFolder_, LevelStem(workLevel_),
         [&](long n) { return n > long(drop.size()) || !drop[size_t(n - 1)]; }, &why);
     if (!ok) ReportFileError(why);

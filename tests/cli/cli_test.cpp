@@ -100,14 +100,16 @@ TEST(CliRate, GivesTheWorkbenchRatingAndOutlawWhenTheLadderFails) {
         expected.push_back(Text(p.puzzle) + "\t" + std::to_string(level) + "\t" +
                            std::string(LevelName(level)));
     }
-    for (auto [puzzle, rating] :
-         {std::pair{FiveHoles(), "1\tEasy"}, {DeadCell(), "9\tOutlaw"}, {clash, "9\tOutlaw"}}) {
+    for (auto [puzzle, rating] : {std::pair{FiveHoles(), "1\tEasy"},
+                                  {DeadCell(), "9\tOutlaw"},
+                                  {clash, "invalid\tclashing givens"}}) {
         input += FormatDigits(puzzle, '0') + "\n";
         expected.push_back(FormatDigits(puzzle, '0') + "\t" + rating);
     }
     const Output o = RunRate(input);
-    EXPECT_EQ(o.status, 0);
+    EXPECT_EQ(o.status, 1);  // the clash is reported, not rated
     EXPECT_EQ(Split(o.out, '\n'), expected);
+    EXPECT_NE(o.err.find("line 23: invalid puzzle"), std::string::npos) << o.err;
 }
 
 TEST(CliRate, SummaryCountsEachLevelOnStandardError) {
@@ -152,7 +154,7 @@ TEST(CliSolve, SaysUniqueNoneOrMultiple) {
 }
 
 // Every command reports a line that is no puzzle with its number, goes on with
-// the rest, and ends with status 1.
+// the rest, and ends with status 2.
 TEST(CliInput, BadLinesAreReportedAndTheRestIsProcessed) {
     const std::string good = Text(FiveHoles());
     std::string badChar = good;
@@ -161,7 +163,7 @@ TEST(CliInput, BadLinesAreReportedAndTheRestIsProcessed) {
                               " trailing\n" + good.substr(0, 80) + "\n";
     for (auto command : {RunRate, RunSolve, RunSteps}) {
         const Output o = command(input);
-        EXPECT_EQ(o.status, 1);
+        EXPECT_EQ(o.status, 2);
         const auto errors = Split(o.err, '\n');
         ASSERT_EQ(errors.size(), 3u) << o.err;
         EXPECT_NE(errors[0].find("line 2"), std::string::npos) << errors[0];
@@ -251,7 +253,7 @@ TEST(CliRung, RunsOneTechniqueOnWrittenOutBoardsAndNamesBadLines) {
     const std::string input = line + "\n" + line.substr(0, 170) + "\n" + clash + "\n" + line + "\n";
     const auto out = RunCommand(
         [](auto& in, auto& o, auto& e) { return RungCommand(4, in, o, e, true); }, input);
-    EXPECT_EQ(out.status, 1);
+    EXPECT_EQ(out.status, 2);
     const auto lines = Split(out.out, '\n');
     ASSERT_EQ(lines.size(), 2u);
     EXPECT_EQ(Split(lines[0], '\t')[0], FormatDigits(FiveHoles()));
@@ -287,9 +289,31 @@ TEST(CliProgram, ExitStatusTellsWhetherEveryLineWasAPuzzle) {
     EXPECT_EQ(written(), RunRate(Text(FiveHoles()) + "\n" + Text(DeadCell()) + "\n").out);
     EXPECT_EQ(run("rate < " + good.string()), 0);
     EXPECT_EQ(Split(written(), '\n').size(), 2u);
-    EXPECT_EQ(run("solve " + bad.string()), 1);
+    EXPECT_EQ(run("solve " + bad.string()), 2);
     EXPECT_EQ(Split(written(), '\n').size(), 1u);
-    EXPECT_EQ(run("steps < " + bad.string()), 1);
+    EXPECT_EQ(run("steps < " + bad.string()), 2);
+
+    // Paths that are no readable file, and binary input: a message naming the
+    // file (and line), status 2, for every command.
+    const auto junk = dir / "junk.bin";
+    std::ofstream(junk, std::ios::binary) << Text(FiveHoles()) << "\n"
+                                          << std::string("\x7f\x00\x01\x02ELF", 7);
+    const std::string d = dir.string();
+    const std::pair<std::string, std::string> cases[] = {
+        {"rate " + d, d + ": is a folder"},
+        {"hint " + d + "/none.txt", d + "/none.txt: not found"},
+        {"library export " + d, d + ": is a folder"},
+        {"library export " + d + "/none.sds", "none.sds: not found"},
+        {"library import " + d + " --level 1 --dir " + d, d + ": is a folder"},
+        {"rate " + junk.string(), junk.string() + ", line 2: binary data"},
+        {"solve < " + junk.string(), "standard input, line 2: binary data"},
+    };
+    for (const auto& [args, said] : cases) {
+        EXPECT_EQ(run(args), 2) << args;
+        std::ifstream f(dir / "err.txt");
+        const std::string err(std::istreambuf_iterator<char>(f), {});
+        EXPECT_NE(err.find(said), std::string::npos) << args << ": " << err;
+    }
     std::filesystem::remove_all(dir);
 }
 

@@ -259,8 +259,11 @@ TEST_F(Input, BrushesPaintAndDoNotPlay) {
 TEST_F(Input, HoverOnlyWithDimmedMarks) {
     Game& g = Playing(2);
     g.MarkMouseMove(3, 10);
-    EXPECT_EQ(g.HoverCell, 81);
+    EXPECT_EQ(g.HoverCell, kNoHover);
     options.Dimmed = true;
+    g.MarkMouseMove(0, 81);  // off the board: no mark is hovered
+    EXPECT_EQ(g.HoverCell, kNoHover);
+    EXPECT_TRUE(g.MarkDimmed(2, 0));
     g.MarkMouseMove(3, 10);
     EXPECT_EQ(g.HoverCell, 2 * 81 + 10);
     EXPECT_FALSE(g.MarkDimmed(3, 10));

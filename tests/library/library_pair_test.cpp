@@ -5,6 +5,8 @@
 #include "grid/candidates.h"
 #include "grid/levels.h"
 #include "library/library_test_support.h"
+#include "library/pair_guard.h"
+#include "library/record_journal.h"
 #include "solver/brute_force.h"
 
 namespace tavi {
@@ -17,6 +19,7 @@ using testing::MakeLevelFiles;
 using testing::RecordingNotifier;
 using testing::RecordOf;
 using testing::TempDir;
+using testing::WriteBytes;
 
 constexpr std::string_view kStem = "Sudoku_Medium.sd";
 
@@ -84,15 +87,28 @@ TEST(AppendToPair, AddsAtCountPlusOneInBothFiles) {
     EXPECT_EQ(number, 1);
 }
 
-TEST(AppendToPair, RefusesAPairOutOfStep) {
+TEST(AppendToPair, RefusesHalfAPairAndRepairsOneOutOfStep) {
     TempDir dir;
     MakeLevelFiles(dir.path(), kStem, 4, /*withLog=*/false);
     const auto before = FileBytes(PuzzleFile(dir.path(), kStem));
     std::string why;
     EXPECT_FALSE(AppendToPair(dir.path(), kStem, RecordOf(5), {}, nullptr, &why));
-    EXPECT_NE(why.find("out of step"), std::string::npos) << why;
+    EXPECT_NE(why.find("Only one file"), std::string::npos) << why;
     EXPECT_EQ(FileBytes(PuzzleFile(dir.path(), kStem)), before);
     EXPECT_FALSE(fs::exists(LogFile(dir.path(), kStem)));
+
+    // A log two records too long and a torn puzzle tail: cut to the 4 whole
+    // puzzles, and the append goes on as record 5.
+    WriteBytes(LogFile(dir.path(), kStem), std::vector<char>(6 * kSudokuLogRecordSize, 0));
+    std::ofstream(PuzzleFile(dir.path(), kStem), std::ios::app) << "torn";
+    long number = 0;
+    ASSERT_TRUE(AppendToPair(dir.path(), kStem, RecordOf(5), BusyLog(5), &number, &why)) << why;
+    EXPECT_EQ(number, 5);
+    EXPECT_NE(why.find("4 records were kept"), std::string::npos) << why;
+    SudokuRecord r;
+    SudokuLogRecord l;
+    ASSERT_TRUE(ReadPair(dir.path(), kStem, 5, r, l, nullptr));
+    EXPECT_EQ(l, BusyLog(5));
 }
 
 struct OutlawLibrary {
@@ -196,6 +212,78 @@ TEST(WriteBruteForceSolution, TheFoundSolutionGoesToTheFileAtItsNumber) {
     ASSERT_EQ(notifier.messages.size(), 1u);
     EXPECT_EQ(notifier.messages[0], std::make_pair(std::string("File Error"),
                                                    std::string("Error writing sudoku to file !")));
+}
+
+}  // namespace
+}  // namespace tavi
+
+namespace tavi {
+namespace {
+
+using testing::BusyLog;
+using testing::FileBytes;
+using testing::MakeLevelFiles;
+using testing::RecordOf;
+using testing::TempDir;
+using testing::WriteBytes;
+
+// The states a kill can leave a pair in, one by one: each opens as the old pair
+// or the new one, whole. An append is cut at every 37th byte; the rewrite
+// and the note are stopped between their steps.
+TEST(OpenPair, EveryStateAKillCanLeaveOpensAsTheOldPairOrTheNew) {
+    TempDir dir;
+    const std::string_view stem = "Sudoku_Hard.sd";
+    const fs::path sds = PuzzleFile(dir.path(), stem), sdl = LogFile(dir.path(), stem);
+    MakeLevelFiles(dir.path(), stem, 3);
+    const auto oldSds = FileBytes(sds), oldSdl = FileBytes(sdl);
+    const auto s = ToBytes(RecordOf(9));
+    const auto l = ToBytes(BusyLog(2));
+    for (std::size_t cut = 0; cut < l.size() + s.size(); cut += 37) {
+        auto a = oldSdl, b = oldSds;
+        a.insert(a.end(), l.begin(), l.begin() + std::min(cut, l.size()));
+        if (cut > l.size()) b.insert(b.end(), s.begin(), s.begin() + (cut - l.size()));
+        WriteBytes(sdl, a);
+        WriteBytes(sds, b);
+        ASSERT_EQ(OpenPair(dir.path(), stem), 3) << cut;
+        ASSERT_EQ(FileBytes(sds), oldSds);
+        ASSERT_EQ(FileBytes(sdl), oldSdl);
+    }
+
+    // A rewrite to one record (the first), stopped at each step.
+    const std::vector<char> newSds(oldSds.begin(), oldSds.begin() + kSudokuRecordSize);
+    const std::vector<char> newSdl(oldSdl.begin(), oldSdl.begin() + kSudokuLogRecordSize);
+    const fs::path nextSds = dir / "Sudoku_Hard.sds.next", nextSdl = dir / "Sudoku_Hard.sdl.next";
+    const fs::path mark = dir / "Sudoku_Hard.sdc";
+    enum Step { kHalfWritten, kMarked, kOneRenamed };
+    for (const Step step : {kHalfWritten, kMarked, kOneRenamed}) {
+        WriteBytes(sds, oldSds);
+        WriteBytes(sdl, oldSdl);
+        WriteBytes(nextSds, newSds);
+        WriteBytes(nextSdl, step == kHalfWritten ? std::vector<char>(100, 1) : newSdl);
+        if (step != kHalfWritten) std::ofstream(mark) << "";
+        if (step == kOneRenamed) fs::rename(nextSds, sds);
+        const bool isNew = step != kHalfWritten;
+        ASSERT_EQ(OpenPair(dir.path(), stem), isNew ? 1 : 3);
+        EXPECT_EQ(FileBytes(sds), isNew ? newSds : oldSds);
+        EXPECT_EQ(FileBytes(sdl), isNew ? newSdl : oldSdl);
+        EXPECT_FALSE(fs::exists(mark) || fs::exists(nextSds) || fs::exists(nextSdl));
+    }
+
+    // A note cut short is dropped; a whole one is carried out by the next reader.
+    const std::vector<std::uint8_t> log(l.begin(), l.end());
+    const RecordWrite write{sdl, 1, log};  // the pair holds one record now
+    fs::rename(sdl, dir / "away");
+    EXPECT_FALSE(WriteRecordsInPlace({&write, 1}));  // the note stays, nothing was written
+    fs::rename(dir / "away", sdl);
+    const auto note = FileBytes(NoteFile(sdl));
+    WriteBytes(NoteFile(sdl), {note.begin(), note.end() - 1});
+    SudokuLogRecord read;
+    ASSERT_TRUE(ReadSudokuLogRecord(sdl, 1, read));
+    EXPECT_EQ(read, SudokuLogRecord{});
+    WriteBytes(NoteFile(sdl), note);
+    ASSERT_TRUE(ReadSudokuLogRecord(sdl, 1, read));
+    EXPECT_EQ(read, BusyLog(2));
+    EXPECT_FALSE(fs::exists(NoteFile(sdl)));
 }
 
 }  // namespace

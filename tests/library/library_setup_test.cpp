@@ -55,13 +55,21 @@ TEST(MaakSudLog, MakesOneEmptyLogRecordPerPuzzle) {
     Library lib;
     for (int level = 1; level <= 9; ++level)
         MakeLevelFiles(lib.data.path(), LevelStem(level), level + 1, false);
-    // An old log with progress in it is replaced.
-    WriteBytes(LogFile(lib.data.path(), LevelStem(2)), std::vector<char>(1449 * 7, 5));
+    // An old log with progress in it is kept and only brought in step: its two
+    // records stay, the third puzzle gets an empty one.
+    const std::vector<char> saved(1449 * 2, 5);
+    WriteBytes(LogFile(lib.data.path(), LevelStem(2)), saved);
     RecordingNotifier notifier;
 
     ASSERT_TRUE(MaakSudLog(lib.folders, notifier));
 
-    ASSERT_EQ(notifier.messages.size(), 1u);
+    ASSERT_EQ(notifier.messages.size(), 2u);
+    EXPECT_NE(notifier.messages[1].second.find("3 records were kept, 1 of them with an empty log"),
+              std::string::npos);
+    auto kept = FileBytes(LogFile(lib.data.path(), LevelStem(2)));
+    ASSERT_EQ(kept.size(), 1449u * 3);
+    EXPECT_TRUE(std::equal(saved.begin(), saved.end(), kept.begin()));
+    WriteBytes(LogFile(lib.data.path(), LevelStem(2)), std::vector<char>(1449 * 3, 0));
     EXPECT_EQ(notifier.messages[0].first, "Tavi Sudoku - 1st run initiation");
     EXPECT_EQ(notifier.messages[0].second,
               "A number of logfiles has to be created, normally this must be done only once on "

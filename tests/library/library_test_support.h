@@ -15,12 +15,19 @@
 
 namespace tavi::testing {
 
+// The folder for scratch files that many small writes go through: memory where
+// the system has it, else the usual temporary folder.
+inline std::filesystem::path FastScratch() {
+    std::error_code ec;
+    return std::filesystem::is_directory("/dev/shm", ec) ? std::filesystem::path("/dev/shm")
+                                                         : std::filesystem::temp_directory_path();
+}
+
 class TempDir {
   public:
-    TempDir() {
+    explicit TempDir(const std::filesystem::path& base = std::filesystem::temp_directory_path()) {
         std::random_device rd;
-        path_ = std::filesystem::temp_directory_path() /
-                ("tavi-test-" + std::to_string(rd()) + "-" + std::to_string(rd()));
+        path_ = base / ("tavi-test-" + std::to_string(rd()) + "-" + std::to_string(rd()));
         std::filesystem::create_directories(path_);
     }
     ~TempDir() {

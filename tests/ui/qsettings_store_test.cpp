@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 
@@ -56,6 +57,15 @@ TEST(QSettingsStore, OptionsRoundTripAndAHandEditedValueFallsBack) {
     EXPECT_FALSE(o.Sounds);
     EXPECT_EQ(o.techniques.Order[8], 9);
     EXPECT_EQ(o.techniques.Order[9], 8);
+    ASSERT_EQ(store.Unreadable().size(), 1u);  // said at start
+    EXPECT_EQ(store.Unreadable()[0], "Options/Sounds=loud");
+    EXPECT_EQ(store.Problem(), "");
+
+    // Something at the file's place that can't be read as one: the store says so.
+    ASSERT_TRUE(QDir(dir.path()).mkpath("Folder.ini"));
+    const QSettingsStore folder(dir.filePath("Folder.ini"));
+    EXPECT_NE(folder.Problem().find("Folder.ini was not used: it can't be read"), std::string::npos)
+        << folder.Problem();
 }
 
 TEST(QSettingsStore, TheUsersStoreIsNamedAfterTheApplication) {

@@ -14,6 +14,7 @@
 #include "grid/candidates.h"
 #include "library/library_files.h"
 #include "library/library_pair.h"
+#include "library/pair_guard.h"
 #include "library/pair_rewrite.h"
 #include "solver/ladder.h"
 #include "support/game_fixture.h"
@@ -127,11 +128,18 @@ class WorkbenchTest : public ::testing::Test {
     void Add(int level, const GeneratedPuzzle& p) {
         ASSERT_TRUE(AppendToPair(root, LevelStem(level), {p.puzzle, p.solution, 0, 0}, {}));
     }
-    // A puzzle no logic solves: two givens of one digit in a row.
+    // A puzzle no logic solves: two rows and one digit, with many solutions, one
+    // of them on file; relabelled by `i`, so that each is a puzzle of its own.
     GeneratedPuzzle Broken(int i) {
-        GeneratedPuzzle p = other[i];
-        p.puzzle[0] = p.puzzle[1] = 0;
-        p.puzzle[0] = p.puzzle[1] = 7;
+        const Digits puzzle = testing::DigitsOf(
+            "123456789456789123000000000000000000000000000000000000000000000000000000900000000");
+        const Digits solution = testing::DigitsOf(
+            "123456789456789123789123456214365897365897214897214365531642978642978531978531642");
+        GeneratedPuzzle p{puzzle, solution};
+        for (int c = 0; c < 81; ++c) {
+            if (p.puzzle[c]) p.puzzle[c] = std::uint8_t((p.puzzle[c] + i - 1) % 9 + 1);
+            p.solution[c] = std::uint8_t((p.solution[c] + i - 1) % 9 + 1);
+        }
         return p;
     }
     long Count(int level) { return WholeRecords(PuzzleFile(root, LevelStem(level)), 166); }
@@ -219,7 +227,7 @@ TEST_F(WorkbenchTest, SolveRatesInPlaceOrMovesAndDeleteOfTheOnlyRecordLeavesNoFi
 
 TEST_F(WorkbenchTest, BruteForceAnswersAndRemoveDuplicatesKeepsTheFirst) {
     GeneratedPuzzle two = easy[1];
-    two.solution[0] = 0;  // a record without its solution gets it back
+    two.solution = Digits{};  // a record without its solution gets it back
     Add(2, two);
     Add(2, easy[2]);
     Add(2, easy[1]);
@@ -245,9 +253,11 @@ TEST_F(WorkbenchTest, ImportRatesChecksAndFilesEachPuzzleByItsLevel) {
     Digits loose{};
     for (int c = 0, kept = 0; c < 81 && kept < 8; ++c)
         if (easy[1].puzzle[c]) loose[c] = easy[1].puzzle[c], ++kept;
+    Digits clash = easy[3].puzzle;  // no solution: two sevens in row A
+    clash[0] = clash[1] = 7;
     std::istringstream file(
         FormatDigits(easy[0].puzzle, '.') + "\n" + FormatDigits(easy[2].puzzle, '.') + " 1.2\n" +
-        FormatDigits(Broken(0).puzzle, '.') + "\n" + FormatDigits(loose, '.') + "\nnot a puzzle\n" +
+        FormatDigits(clash, '.') + "\n" + FormatDigits(loose, '.') + "\nnot a puzzle\n" +
         FormatDigits(other[3].puzzle, '0') + "\n" + FormatDigits(easy[2].puzzle, '.') + "\n");
     const ImportReport report = ImportPuzzles(root, file);
     SolveContext ctx;
@@ -290,13 +300,13 @@ TEST(PairRewrite, AKillAtAnyInstantLeavesTheOldOrTheNewPair) {
         }
         const pid_t child = fork();
         if (child == 0) {
-            RewritePair(root, stem, [](long n) { return n % 3 != 0; });
+            KeepInPair(root, stem, [](long n) { return n % 3 != 0; });
             _exit(0);
         }
         usleep(std::uniform_int_distribution<useconds_t>(0, 4000)(random));
         ::kill(child, SIGKILL);
         waitpid(child, nullptr, 0);
-        RecoverPair(root, stem);
+        OpenPair(root, stem);
         std::vector<SudokuRecord> puzzles;
         ASSERT_TRUE(ReadSudokuFile(PuzzleFile(root, stem), puzzles));
         const long logs = WholeRecords(LogFile(root, stem), kSudokuLogRecordSize);

@@ -1,0 +1,228 @@
+// Kills in the middle of every writer of a pair: a child process appends,
+// imports, saves or exports until it is killed at a random instant, and then the
+// pair must open whole, as one of the states the writer passes through, with
+// every record adding up.
+#include <gtest/gtest.h>
+#include <signal.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <functional>
+#include <random>
+#include <sstream>
+
+#include "cli/library_commands.h"
+#include "game/library_position.h"
+#include "grid/levels.h"
+#include "library/library_pair.h"
+#include "library/library_test_support.h"
+#include "library/pair_guard.h"
+#include "library/record_journal.h"
+
+namespace tavi {
+namespace {
+
+namespace fs = std::filesystem;
+using testing::BusyLog;
+using testing::FileBytes;
+using testing::RecordOf;
+using testing::TempDir;
+
+constexpr int kKills = 200;
+constexpr std::string_view kStem = "Sudoku_Hard.sd";
+
+template <typename Record>
+std::vector<char> Bytes(const Record& r) {
+    const auto b = ToBytes(r);
+    return {b.begin(), b.end()};
+}
+
+std::vector<char> Concat(const std::vector<std::vector<char>>& parts) {
+    std::vector<char> all;
+    for (const auto& p : parts)
+        all.insert(all.end(), p.begin(), p.end());
+    return all;
+}
+
+// Whether a kill left work for the next open: a note, a rewrite, a torn tail or
+// a pair out of step.
+bool LeftSomething(const fs::path& folder, std::string_view stem) {
+    const fs::path sds = PuzzleFile(folder, stem), sdl = LogFile(folder, stem);
+    std::error_code ec;
+    if (fs::exists(NoteFile(sds), ec) || fs::exists(folder / (std::string(stem) + "c"), ec))
+        return true;
+    const auto a = fs::file_size(sds, ec), b = ec ? 0 : fs::file_size(sdl, ec);
+    return !ec && (a % kSudokuRecordSize || b != a / kSudokuRecordSize * kSudokuLogRecordSize);
+}
+
+// `kKills` times: `reset`, run `writer` in a child until it is killed after a
+// random pause, then `check`. How many kills left something to finish (a note, a
+// rewrite, a torn or uneven pair) goes to the test's record as "interrupted": it
+// depends on the machine's load, so it is reported, not asked for.
+void KillRuns(const std::function<void()>& reset, const std::function<void()>& writer,
+              const std::function<void()>& check, const fs::path& folder, std::string_view stem,
+              int longestPauseMicros) {
+    std::mt19937 rng(7);
+    int interrupted = 0;
+    RecordOf(0);  // the puzzles are made once, before the children share them
+    for (int k = 0; k < kKills && !::testing::Test::HasFatalFailure(); ++k) {
+        reset();
+        int started[2];
+        if (pipe(started) != 0) {
+            ADD_FAILURE() << "no pipe";
+            return;
+        }
+        const pid_t child = fork();
+        if (child == 0) {
+            close(started[0]);
+            [[maybe_unused]] const auto sent = write(started[1], "!", 1);
+            writer();
+            _exit(0);
+        }
+        // The pause counts from the moment the writer runs, however busy the
+        // machine is.
+        close(started[1]);
+        char ready;
+        [[maybe_unused]] const auto got = read(started[0], &ready, 1);
+        close(started[0]);
+        usleep(useconds_t(rng() % longestPauseMicros));
+        kill(child, SIGKILL);
+        int status = 0;
+        waitpid(child, &status, 0);
+        interrupted += LeftSomething(folder, stem);
+        check();
+    }
+    ::testing::Test::RecordProperty("interrupted", interrupted);
+}
+
+TEST(KillTest, AppendLeavesEveryRecordWhole) {
+    TempDir dir(testing::FastScratch());
+    // The pair grows from kill to kill, each writer going on from the repaired
+    // pair, and starts again at 200 records.
+    const auto writer = [&] {
+        for (long j = std::max(OpenPair(dir.path(), kStem), 0L) + 1;; ++j)
+            AppendToPair(dir.path(), kStem, RecordOf(int(j)), BusyLog(j % 9), nullptr, nullptr);
+    };
+    const auto check = [&] {
+        const long count = OpenPair(dir.path(), kStem);
+        if (count < 0) return;  // killed before the first record
+        std::vector<std::vector<char>> sds, sdl;
+        for (int j = 1; j <= count; ++j) {
+            sds.push_back(Bytes(RecordOf(j)));
+            sdl.push_back(Bytes(BusyLog(j % 9)));
+        }
+        ASSERT_EQ(FileBytes(PuzzleFile(dir.path(), kStem)), Concat(sds));
+        ASSERT_EQ(FileBytes(LogFile(dir.path(), kStem)), Concat(sdl));
+    };
+    const auto reset = [&] {
+        if (WholeRecords(PuzzleFile(dir.path(), kStem), kSudokuRecordSize) < 200) return;
+        fs::remove(PuzzleFile(dir.path(), kStem));
+        fs::remove(LogFile(dir.path(), kStem));
+    };
+    KillRuns(reset, writer, check, dir.path(), kStem, 10000);
+}
+
+TEST(KillTest, ImportLeavesThePuzzlesBeforeTheKillWhole) {
+    TempDir dir(testing::FastScratch());
+    const auto& puzzles = testing::GeneratedPuzzles(8);
+    std::string text;
+    for (int i = 0; i < 4000; ++i)
+        text += FormatDigits(puzzles[i % 8].puzzle) + "\n";
+    const auto writer = [&] {
+        std::istringstream in(text);
+        std::ostringstream out, err;
+        cli::ImportLibrary(in, 3, dir.path(), out, err);
+    };
+    const auto check = [&] {
+        const long count = OpenPair(dir.path(), kStem);
+        if (count < 0) return;  // killed before the first record
+        std::vector<std::vector<char>> sds;
+        for (long j = 0; j < count; ++j)
+            sds.push_back(
+                Bytes(SudokuRecord{puzzles[j % 8].puzzle, puzzles[j % 8].solution, 0, 0}));
+        ASSERT_EQ(FileBytes(PuzzleFile(dir.path(), kStem)), Concat(sds));
+        ASSERT_EQ(FileBytes(LogFile(dir.path(), kStem)),
+                  std::vector<char>(count * kSudokuLogRecordSize, 0));
+    };
+    const auto reset = [&] {
+        fs::remove(PuzzleFile(dir.path(), kStem));
+        fs::remove(LogFile(dir.path(), kStem));
+    };
+    KillRuns(reset, writer, check, dir.path(), kStem, 6000);
+}
+
+// Saves and best times over record 2, by turns: record 2 is always one of the
+// states written, whole, and the records beside it never change.
+TEST(KillTest, SaveAndBestTimeLeaveTheOldRecordOrTheNew) {
+    TempDir dir(testing::FastScratch());
+    const LibraryFolders folders{dir.path(), dir.path()};
+    LibraryPosition position;
+    position.OpenLevel = 3;
+    position.OpenRecord = 2;
+    const auto reset = [&] { testing::MakeLevelFiles(dir.path(), kStem, 3); };
+    reset();
+    const auto sdsBefore = FileBytes(PuzzleFile(dir.path(), kStem));
+    const auto sdlBefore = FileBytes(LogFile(dir.path(), kStem));
+    const auto writer = [&] {
+        for (int j = 0;; ++j) {
+            SaveGameLog(folders, position, BusyLog(j % 2 + 1), nullptr);
+            BewaarBestTime(folders, position, RecordOf(j % 2 ? 1 : 4), nullptr);
+        }
+    };
+    const auto check = [&] {
+        ASSERT_EQ(OpenPair(dir.path(), kStem), 3);
+        auto sds = FileBytes(PuzzleFile(dir.path(), kStem));
+        auto sdl = FileBytes(LogFile(dir.path(), kStem));
+        const std::vector<char> s(sds.begin() + kSudokuRecordSize,
+                                  sds.begin() + 2 * kSudokuRecordSize);
+        const std::vector<char> l(sdl.begin() + kSudokuLogRecordSize,
+                                  sdl.begin() + 2 * kSudokuLogRecordSize);
+        ASSERT_TRUE(s == Bytes(RecordOf(1)) || s == Bytes(RecordOf(4)));
+        ASSERT_TRUE(l == std::vector<char>(kSudokuLogRecordSize, 0) || l == Bytes(BusyLog(1)) ||
+                    l == Bytes(BusyLog(2)));
+        std::copy(sdsBefore.begin() + kSudokuRecordSize, sdsBefore.begin() + 2 * kSudokuRecordSize,
+                  sds.begin() + kSudokuRecordSize);
+        std::copy(sdlBefore.begin() + kSudokuLogRecordSize,
+                  sdlBefore.begin() + 2 * kSudokuLogRecordSize, sdl.begin() + kSudokuLogRecordSize);
+        ASSERT_EQ(sds, sdsBefore);
+        ASSERT_EQ(sdl, sdlBefore);
+    };
+    KillRuns(reset, writer, check, dir.path(), kStem, 5000);
+}
+
+// Record 1 of Outlaw moved out again and again: the Outlaw pair is always the
+// originals from some m on, and the exported pair the originals before m, with
+// at most the next one twice (a kill between the copy and the rewrite). Nothing
+// is ever in neither.
+TEST(KillTest, ExportLosesNoOutlawRecord) {
+    TempDir dir(testing::FastScratch());
+    constexpr int kCount = 30;
+    const std::string_view outlaw = LevelStem(kOutlaw);
+    const auto reset = [&] {
+        fs::remove(PuzzleFile(dir.path(), kExportedStem));
+        fs::remove(LogFile(dir.path(), kExportedStem));
+        testing::MakeLevelFiles(dir.path(), outlaw, kCount);
+    };
+    const auto writer = [&] {
+        SudokuRecord s;
+        SudokuLogRecord l;
+        while (ReadPair(dir.path(), outlaw, 1, s, l, nullptr))
+            ExportSudoku(dir.path(), 1, s, l, nullptr);
+    };
+    const auto check = [&] {
+        const long left = std::max(OpenPair(dir.path(), outlaw), 0L);
+        const long out = std::max(OpenPair(dir.path(), kExportedStem), 0L);
+        const long m = kCount - left;
+        ASSERT_TRUE(out == m || out == m + 1) << left << " " << out;
+        std::vector<std::vector<char>> kept, moved;
+        for (int j = 0; j < kCount; ++j)
+            (j < m ? moved : kept).push_back(Bytes(RecordOf(j)));
+        if (out == m + 1) moved.push_back(Bytes(RecordOf(int(m))));
+        if (left) ASSERT_EQ(FileBytes(PuzzleFile(dir.path(), outlaw)), Concat(kept));
+        if (out) ASSERT_EQ(FileBytes(PuzzleFile(dir.path(), kExportedStem)), Concat(moved));
+    };
+    KillRuns(reset, writer, check, dir.path(), outlaw, 6000);
+}
+
+}  // namespace
+}  // namespace tavi

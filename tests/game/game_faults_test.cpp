@@ -1,0 +1,151 @@
+// The game against damaged files, unreadable settings, large libraries and a
+// clock or a scan that carried state from one puzzle to the next.
+#include <gtest/gtest.h>
+
+#include "grid/levels.h"
+#include "library/library_test_support.h"
+#include "support/game_fixture.h"
+
+namespace tavi::testing {
+namespace {
+
+namespace fs = std::filesystem;
+
+class Faults : public GameFixture {};
+
+// A damaged record is refused by file and number, and the game in play stays
+// as it was: board, record and commands.
+TEST_F(Faults, ADamagedRecordIsNamedAndTheGameStaysAsItWas) {
+    struct Case {
+        bool log;
+        std::size_t offset;
+        std::vector<std::uint8_t> bytes;
+        std::string said;
+    };
+    const Case cases[] = {
+        {false,
+         sds_offset::Puzzle + 5,
+         {12},
+         "Record 2 of Sudoku_Hard.sds is damaged: puzzle cell A6 holds 12"},
+        {false, sds_offset::Solution + 80, {0}, "solution cell J9 holds 0"},
+        {false, sds_offset::BestSeconds, {75, 0}, "the best time"},
+        {true,
+         sdl_offset::Grid + 3,
+         {200},
+         "Record 2 of Sudoku_Hard.sdl is damaged: grid cell A4 holds 200"},
+        // A saved step on no cell of the board: undo would have indexed with it.
+        {true, sdl_offset::StepCount, {1, 0}, ""},
+        {true, sdl_offset::LogCell, {0xF4, 0x01}, "step 1 (digit 0, cell 500)"},
+        {true, sdl_offset::StepCount, {101, 0}, "claims 101 steps"},
+    };
+    for (const Case& c : cases) {
+        Game& g = Playing(3);
+        PlaceOne();
+        const Digits grid = g.board().CurrentGrid;
+        const CommandStates commands = g.commands();
+        const fs::path file = c.log ? LogFile(folders.DataFolder, LevelStem(3))
+                                    : PuzzleFile(folders.DataFolder, LevelStem(3));
+        const std::size_t size = c.log ? kSudokuLogRecordSize : kSudokuRecordSize;
+        auto bytes = FileBytes(file);
+        std::copy(c.bytes.begin(), c.bytes.end(), bytes.begin() + size + c.offset);
+        WriteBytes(file, bytes);
+        if (c.said.empty()) continue;  // sets up the next case
+
+        options.AutoSave = false;
+        options.AskSave = false;
+        prompter.shown.clear();
+        g.CommandNew();
+        ASSERT_FALSE(prompter.shown.empty());
+        EXPECT_EQ(prompter.shown.back().title, "File Error");
+        EXPECT_NE(prompter.shown.back().text.find(c.said), std::string::npos)
+            << prompter.shown.back().text;
+        EXPECT_EQ(g.board().CurrentGrid, grid);
+        EXPECT_EQ(g.position().OpenRecord, 1);
+        EXPECT_TRUE(g.GridEnabled());
+        EXPECT_EQ(g.commands().Undo, commands.Undo);
+        EXPECT_EQ(g.commands().Hint, commands.Hint);
+        fs::remove_all(folders.DataFolder);  // a fresh library for the next case
+        store = {};
+    }
+}
+
+// A settings file the program can't read, or a value in it it can't, is said
+// at start; the first run that follows only adds, so a saved game survives.
+TEST_F(Faults, UnreadableSettingsAreSaidAndNoSavedGameIsLost) {
+    Game& g = Playing(2);
+    PlaceOne();
+    g.CommandSave();
+    const SudokuLogRecord saved = LogOf(2, 1);
+    ASSERT_GT(saved.StepCount, 0);
+    for (const bool wholeFile : {false, true}) {
+        MemorySettingsStore fresh;
+        if (wholeFile)
+            fresh.SetProblem("The settings file x.ini was not used: it can't be read.");
+        else
+            fresh.Write("Options", "Logfiles", "Yes");
+        store = fresh;
+        prompter.shown.clear();
+        Started();
+        ASSERT_GE(prompter.shown.size(), 2u);
+        EXPECT_EQ(prompter.shown[0].title, "Settings not read");
+        EXPECT_NE(prompter.shown[0].text.find(wholeFile ? "x.ini" : "Options/Logfiles=Yes"),
+                  std::string::npos);
+        EXPECT_EQ(prompter.shown[1].title, "Tavi Sudoku - 1st run initiation");
+        EXPECT_EQ(LogOf(2, 1), saved);
+    }
+}
+
+// Record numbers past 16 bits open, save and come back at the next start.
+TEST_F(Faults, ARecordNumberAbove32767OpensSavesAndResumes) {
+    constexpr long kNumber = 40000;
+    Game& g = Started();
+    const fs::path sds = PuzzleFile(folders.DataFolder, LevelStem(4));
+    const fs::path sdl = LogFile(folders.DataFolder, LevelStem(4));
+    fs::resize_file(sds, (kNumber - 1) * kSudokuRecordSize);
+    fs::resize_file(sdl, (kNumber - 1) * kSudokuLogRecordSize);
+    ASSERT_TRUE(WritePair(folders.DataFolder, LevelStem(4), kNumber, RecordOf(1), {}));
+
+    g.OptionType(4);
+    prompter.inputs = {std::to_string(kNumber)};
+    g.CommandOpen();
+    ASSERT_EQ(g.position().OpenRecord, kNumber);
+    PlaceOne();
+    prompter.answers = {Answer::Yes};  // quit
+    ASSERT_TRUE(g.CommandExit());
+    EXPECT_EQ(store.Read("SudokuLevel4", "Number", ""), std::to_string(kNumber));
+    EXPECT_GT(LogOf(4, kNumber).StepCount, 0);
+
+    prompter.answers = {Answer::Yes};
+    Game& again = Started();
+    EXPECT_EQ(again.position().OpenRecord, kNumber);
+    EXPECT_EQ(again.CurrentStep(), 1);
+}
+
+// Every puzzle starts its own clock: the seconds of the last one don't count.
+TEST_F(Faults, TheClockStartsAtZeroWithEveryNewPuzzle) {
+    Game& g = Playing(3);
+    clock.now += 100;
+    g.Tick();
+    ASSERT_EQ(g.ClockSeconds(), 100);
+    g.CommandNew();  // untouched, so nothing to save
+    g.Tick();
+    EXPECT_EQ(g.ClockSeconds(), 0);
+    EXPECT_EQ(g.LabelTijd(), "00:00");
+}
+
+// Scan with pencil marks off solves on the real candidates, not on the marks
+// shown (every digit in every cell).
+TEST_F(Faults, ScanWithPencilMarksOffPlacesOnlyRightDigits) {
+    options.PencilmarksOff = true;
+    Game& g = Started();
+    options.PencilmarksOff = true;
+    g.OptionType(2);
+    prompter.inputs = {"1", "3"};
+    g.CommandScan();
+    ASSERT_EQ(g.position().OpenRecord, 3);
+    for (int c = 0; c < 81; ++c)
+        if (g.board().CurrentGrid[c]) EXPECT_EQ(g.board().CurrentGrid[c], g.board().Solution[c]);
+}
+
+}  // namespace
+}  // namespace tavi::testing
