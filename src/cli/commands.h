@@ -17,8 +17,9 @@ struct RateOptions {
 int Rate(std::istream& in, std::ostream& out, std::ostream& err, const RateOptions& options = {});
 
 // Per puzzle: the 81 characters, "unique", "none" or "multiple", and the solution
-// or "-".
-int Solve(std::istream& in, std::ostream& out, std::ostream& err);
+// or "-". The input is read and answered a block of lines at a time, the block
+// shared out over `threads`; the output is the same for any number of them.
+int Solve(std::istream& in, std::ostream& out, std::ostream& err, int threads = 1);
 
 // Per puzzle: a line per ladder hit ("step", its number, the technique number,
 // the technique's name, the changes), then "result" with "solved" or "unsolved",

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "cli/commands.h"
+#include "cli/in_order.h"
 #include "cli/library_commands.h"
 
 namespace {
@@ -19,16 +20,19 @@ constexpr const char* kUsage =
     "\n"
     "commands:\n"
     "  rate [--summary]   puzzle, level number and level name\n"
-    "  solve              puzzle, unique/none/multiple, and the solution or -\n"
+    "  solve [--threads N]\n"
+    "                     puzzle, unique/none/multiple, and the solution or -;\n"
+    "                     N threads (default: every core)\n"
     "  steps [--explain]  every step of the ladder, then the result; --explain adds\n"
     "                     the hint sentence of each step\n"
     "  hint [--paint]     the sentence of the first hint on the fresh board; --paint\n"
     "                     lists the hint's colours after it\n"
     "  signature          level, steps, placements and removals of each puzzle\n"
     "\n"
-    "  generate --count N [--seed S]\n"
-    "        N minimal puzzles with one solution each, one per line\n"
-    "  library build --out DIR --per-level N [--seed S] [--minutes M]\n"
+    "  generate --count N [--seed S] [--threads T]\n"
+    "        N minimal puzzles with one solution each, one per line; T threads\n"
+    "        (default: every core), the same puzzles for any T\n"
+    "  library build --out DIR --per-level N [--seed S] [--minutes M] [--threads T]\n"
     "        generate and rate puzzles, and write the nine .sds files of a library\n"
     "        with up to N puzzles per level; stops after M minutes (default 10)\n"
     "  library export FILE.sds\n"
@@ -59,9 +63,14 @@ int main(int argc, char** argv) {
 
     tavi::cli::RateOptions rateOptions;
     bool explain = false, paint = false;
+    int threads = tavi::cli::AllCores();
     std::string file;
     for (size_t i = 1; i < args.size(); ++i) {
-        if (args[i] == "--summary" && command == "rate")
+        if (args[i] == "--threads" && command == "solve") {
+            const auto n = i + 1 < args.size() ? tavi::cli::ParseThreads(args[++i]) : std::nullopt;
+            if (!n) return Usage(tavi::cli::kThreadsProblem);
+            threads = *n;
+        } else if (args[i] == "--summary" && command == "rate")
             rateOptions.summary = true;
         else if (args[i] == "--explain" && command == "steps")
             explain = true;
@@ -87,7 +96,7 @@ int main(int argc, char** argv) {
     std::ios::sync_with_stdio(false);
 
     if (command == "rate") return tavi::cli::Rate(in, std::cout, std::cerr, rateOptions);
-    if (command == "solve") return tavi::cli::Solve(in, std::cout, std::cerr);
+    if (command == "solve") return tavi::cli::Solve(in, std::cout, std::cerr, threads);
     if (command == "steps") return tavi::cli::Steps(in, std::cout, std::cerr, explain);
     if (command == "hint") return tavi::cli::Hint(in, std::cout, std::cerr, paint);
     if (command == "signature") return tavi::cli::Signature(in, std::cout, std::cerr);
