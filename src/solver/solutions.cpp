@@ -65,10 +65,9 @@ struct State {
     std::uint32_t Placed(int d, int b) const { return may[3 * d + b] & solved[b]; }
 
     void Keep(int i, std::uint32_t bits) {
-        if (may[i] & ~bits) {
-            may[i] &= bits;
-            dirty |= 1u << i;
-        }
+        const std::uint32_t was = may[i];
+        may[i] = was & bits;
+        dirty |= std::uint32_t(may[i] != was) << i;
     }
 
     // Puts digit d at place p of band b. False when d may no longer stand there.
@@ -78,7 +77,8 @@ struct State {
         if (solved[b] & bit) return true;
         solved[b] |= bit;
         for (int e = 0; e < 9; ++e)
-            if (e != d) Keep(3 * e + b, ~bit);
+            Keep(3 * e + b, ~bit);
+        may[3 * d + b] |= bit;
         Keep(3 * d + b, ~kBandPeers[p] | bit);
         const std::uint32_t column = kColumnBits << (p % 9);
         for (int other = 0; other < 3; ++other)
@@ -133,10 +133,31 @@ struct State {
         return true;
     }
 
-    // Hidden singles of the columns. False when a digit has no place left in some
-    // column.
-    bool ColumnSingles(bool& progress) {
+    // The same narrowing across the bands: in a stack of three columns a digit
+    // takes each column once and each band once, so only the column-band pairs of
+    // some permutation stay. Then the hidden singles of the columns. False when a
+    // digit has no place left in some stack or column.
+    bool Columns(bool& progress) {
         for (int d = 0; d < 9; ++d) {
+            std::array<std::uint32_t, 3> columns;  // per band: the columns the digit may take
+            for (int b = 0; b < 3; ++b) {
+                const std::uint32_t x = may[3 * d + b];
+                columns[b] = (x | x >> 9 | x >> 18) & kRowBits;
+            }
+            for (int stack = 0; stack < 3; ++stack) {
+                const int shift = 3 * stack;
+                const int pairs = int(columns[0] >> shift & 7) | int(columns[1] >> shift & 7) << 3 |
+                                  int(columns[2] >> shift & 7) << 6;
+                const int keep = kPermutationPairs[pairs];
+                if (!keep) return false;
+                if (keep == pairs) continue;
+                for (int b = 0; b < 3; ++b) {
+                    const std::uint32_t gone =
+                        ~std::uint32_t(keep >> (3 * b)) & 7u & (columns[b] >> shift);
+                    for (std::uint32_t g = gone; g; g &= g - 1)
+                        Keep(3 * d + b, ~(kColumnBits << (shift + std::countr_zero(g))));
+                }
+            }
             std::uint32_t one = 0, two = 0, placed = 0;
             for (int b = 0; b < 3; ++b) {
                 const std::uint32_t open = Open(d, b), done = Placed(d, b);
@@ -172,8 +193,8 @@ struct State {
             bool progress = false;
             if (!NakedSingles(progress)) return false;
             if (progress) continue;
-            if (!ColumnSingles(progress)) return false;
-            if (!progress) return true;
+            if (!Columns(progress)) return false;
+            if (!progress && !dirty) return true;
         }
     }
 
@@ -182,20 +203,35 @@ struct State {
     // The open cell with the fewest digits, as band and place; its count is at
     // least 2 after Propagate.
     void FewestDigits(int& band, int& place) const {
+        // Cells with two digits are the usual answer and the cheapest to find.
+        for (int b = 0; b < 3; ++b) {
+            const std::uint32_t open = ~solved[b] & kBandBits;
+            std::uint32_t one = 0, two = 0, three = 0;
+            for (int d = 0; d < 9; ++d) {
+                const std::uint32_t x = may[3 * d + b] & open;
+                three |= two & x;
+                two |= one & x;
+                one |= x;
+            }
+            if (const std::uint32_t pairs = two & ~three) {
+                band = b, place = std::countr_zero(pairs);
+                return;
+            }
+        }
         std::array<std::array<std::uint32_t, 4>, 3> sum{};  // a 4-bit count per cell
         for (int b = 0; b < 3; ++b) {
             const std::uint32_t open = ~solved[b] & kBandBits;
             auto& s = sum[b];
             for (int d = 0; d < 9; ++d) {
                 std::uint32_t carry = may[3 * d + b] & open;
-                for (int i = 0; i < 4 && carry; ++i) {
+                for (int i = 0; i < 4; ++i) {
                     const std::uint32_t next = s[i] & carry;
                     s[i] ^= carry;
                     carry = next;
                 }
             }
         }
-        for (int k = 2; k <= 9; ++k)
+        for (int k = 3; k <= 9; ++k)
             for (int b = 0; b < 3; ++b) {
                 std::uint32_t m = ~solved[b] & kBandBits;
                 for (int i = 0; i < 4; ++i)
