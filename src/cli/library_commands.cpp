@@ -119,7 +119,7 @@ std::optional<double> Minutes(const std::optional<std::string>& text) {
 // puzzles that other threads make.
 class NumberedGenerator {
   public:
-    explicit NumberedGenerator(std::uint64_t seed) : generator_(seed) {}
+    explicit NumberedGenerator(std::uint64_t start) : generator_(start) {}
     GeneratedPuzzle operator()(long i) {
         generator_.Skip(std::uint64_t(i - next_));
         next_ = i + 1;
@@ -139,7 +139,7 @@ struct RatedPuzzle {
 
 class RatingGenerator {
   public:
-    explicit RatingGenerator(std::uint64_t seed) : generator_(seed) {}
+    explicit RatingGenerator(std::uint64_t start) : generator_(start) {}
     RatedPuzzle operator()(long i) {
         RatedPuzzle r{generator_(i), 0};
         r.level = RateForLibrary(ctx_, r.puzzle.puzzle);
