@@ -277,15 +277,26 @@ struct Search {
 }  // namespace
 
 SolutionCount Solutions(const Digits& givens, int limit) {
+    // The givens go in all at once: per digit, where it is given and which
+    // places its givens see. A given that sees another of its digit is a clash.
+    std::array<std::uint32_t, 27> given{}, seen{};
     State s;
-    s.may.fill(kBandBits);
     s.solved.fill(0);
-    s.dirty = 0;
     for (int cell = 0; cell < 81; ++cell) {
         const int digit = givens[cell];
         if (digit < 1 || digit > 9) continue;
-        if (!s.Place(digit - 1, cell / 27, cell % 27)) return {};
+        const int d = digit - 1, b = cell / 27, p = cell % 27;
+        const std::uint32_t bit = 1u << p;
+        if (seen[3 * d + b] & bit) return {};
+        given[3 * d + b] |= bit;
+        s.solved[b] |= bit;
+        seen[3 * d + b] |= kBandPeers[p];
+        for (int other = 0; other < 3; ++other)
+            if (other != b) seen[3 * d + other] |= kColumnBits << (p % 9);
     }
+    for (int i = 0; i < 27; ++i)
+        s.may[i] = (kBandBits & ~s.solved[i % 3] & ~seen[i]) | given[i];
+    s.dirty = kBandBits;
     Search search{limit < 1 ? 1 : limit, {}};
     if (s.Propagate()) search.Run(s);
     return search.answer;
