@@ -2,11 +2,15 @@
 // items_per_second reads as puzzles per second.
 #include <benchmark/benchmark.h>
 
+#include <sstream>
+
+#include "cli/library_commands.h"
 #include "grid/candidates.h"
 #include "puzzle_sets.h"
 #include "solver/brute_force.h"
 #include "solver/generator.h"
 #include "solver/ladder.h"
+#include "solver/solutions.h"
 
 namespace tavi::bench {
 namespace {
@@ -113,28 +117,57 @@ void BM_GenerateMinimal(benchmark::State& state) {
 }
 BENCHMARK(BM_GenerateMinimal);
 
+// The generate command on 1 and 2 threads: minimal puzzles per second of wall time.
+void BM_GenerateThreads(benchmark::State& state) {
+    constexpr long kPerRun = 64;
+    std::uint64_t start = 1;
+    for (auto _ : state) {
+        std::ostringstream out;
+        cli::Generate(kPerRun, start++, out, int(state.range(0)));
+        benchmark::DoNotOptimize(out.str().size());
+    }
+    state.SetItemsProcessed(state.iterations() * kPerRun);
+}
+BENCHMARK(BM_GenerateThreads)->Arg(1)->Arg(2)->UseRealTime();
+
 }  // namespace
 }  // namespace tavi::bench
 
 namespace tavi::bench {
 namespace {
 
+// The solution counter, Solutions(..., 2), over the same lists as the brute-force
+// search above, so the two read side by side.
 void CountAll(benchmark::State& state, const std::vector<Digits>& puzzles) {
+    if (puzzles.empty()) {
+        state.SkipWithError("no puzzles");
+        return;
+    }
     size_t i = 0;
     for (auto _ : state)
-        benchmark::DoNotOptimize(CountSolutions(puzzles[i++ % puzzles.size()], 2));
+        benchmark::DoNotOptimize(Solutions(puzzles[i++ % puzzles.size()], 2));
     state.SetItemsProcessed(state.iterations());
 }
-void BM_CountSolutions17Clue(benchmark::State& state) {
-    static const auto puzzles = ReadPuzzleFile("puzzles2_17_clue.txt", 5000);
+void BM_Solutions17Clue(benchmark::State& state) {
+    static const auto puzzles = ReadPuzzleFile("puzzles2_17_clue.txt");
     CountAll(state, puzzles);
 }
-BENCHMARK(BM_CountSolutions17Clue);
-void BM_CountSolutionsTop1465(benchmark::State& state) {
+BENCHMARK(BM_Solutions17Clue);
+void BM_SolutionsTop1465(benchmark::State& state) {
     static const auto puzzles = ReadPuzzleFile("puzzles3_magictour_top1465.txt");
     CountAll(state, puzzles);
 }
-BENCHMARK(BM_CountSolutionsTop1465);
+BENCHMARK(BM_SolutionsTop1465);
+void BM_SolutionsForumHardest(benchmark::State& state) {
+    static const auto puzzles = ReadPuzzleFile("puzzles6_forum_hardest_1106.txt");
+    CountAll(state, puzzles);
+}
+BENCHMARK(BM_SolutionsForumHardest);
+void BM_BruteForceTop1465(benchmark::State& state) {
+    static const auto puzzles = ReadPuzzleFile("puzzles3_magictour_top1465.txt");
+    BruteForceAll(state, puzzles);
+}
+BENCHMARK(BM_BruteForceTop1465);
 
 void BM_PreSolve17Clue(benchmark::State& state) {
     static const auto puzzles = ReadPuzzleFile("puzzles2_17_clue.txt", 5000);

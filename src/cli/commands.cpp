@@ -4,14 +4,15 @@
 #include <array>
 #include <chrono>
 
+#include "cli/in_order.h"
 #include "cli/puzzle_lines.h"
 #include "grid/candidates.h"
 #include "grid/levels.h"
 #include "hints/hint_paint.h"
 #include "hints/hint_search.h"
 #include "hints/schrijf_hint.h"
-#include "solver/brute_force.h"
 #include "solver/ladder.h"
+#include "solver/solutions.h"
 
 namespace tavi::cli {
 
@@ -73,22 +74,41 @@ int Rate(std::istream& in, std::ostream& out, std::ostream& err, const RateOptio
     return Status(bad, invalid);
 }
 
-int Solve(std::istream& in, std::ostream& out, std::ostream& err, std::string_view source) {
-    SolveContext ctx(Side::Workbench);
+int Solve(std::istream& in, std::ostream& out, std::ostream& err, std::string_view source,
+          int threads) {
+    // One block of lines in memory at a time, whatever the length of the input.
+    constexpr std::size_t kBlock = 4096;
+    struct Line {
+        std::string text;
+        Digits digits{};
+        SolutionCount answer;
+    };
+    std::vector<Line> block(kBlock);
+    std::vector<int> workers(std::size_t(std::max(1, threads)));
+    std::size_t filled = 0;
+    const auto answer = [&] {
+        ForEachInParallel(long(filled), workers, [&](long k, int&) {
+            block[std::size_t(k)].answer = Solutions(block[std::size_t(k)].digits, 2);
+        });
+        for (std::size_t k = 0; k < filled; ++k) {
+            const SolutionCount& a = block[k].answer;
+            out << block[k].text << '\t'
+                << (a.count == 0   ? "none"
+                    : a.count == 1 ? "unique"
+                                   : "multiple")
+                << '\t' << (a.count == 1 ? FormatDigits(a.first) : "-") << '\n';
+        }
+        filled = 0;
+    };
     const int bad = ForEachPuzzle(
         in, err,
         [&](const PuzzleLine& p) {
-            ctx.board = Board{};
-            ctx.board.Puzzle = p.digits;
-            bool contradiction = false;
-            const int found = BruteForceSolutions(ctx, contradiction);
-            out << p.text << '\t'
-                << (found == 0   ? "none"
-                    : found == 1 ? "unique"
-                                 : "multiple")
-                << '\t' << (found == 1 ? FormatDigits(ctx.board.CurrentGrid) : "-") << '\n';
+            block[filled].text.assign(p.text);
+            block[filled].digits = p.digits;
+            if (++filled == kBlock) answer();
         },
         source);
+    answer();
     return Status(bad, 0);
 }
 

@@ -22,9 +22,10 @@ int Rate(std::istream& in, std::ostream& out, std::ostream& err, const RateOptio
          std::string_view source = "standard input");
 
 // Per puzzle: the 81 characters, "unique", "none" or "multiple", and the solution
-// or "-".
+// or "-". The input is read and answered a block of lines at a time, the block
+// shared out over `threads`; the output is the same for any number of them.
 int Solve(std::istream& in, std::ostream& out, std::ostream& err,
-          std::string_view source = "standard input");
+          std::string_view source = "standard input", int threads = 1);
 
 // Per puzzle: a line per ladder hit ("step", its number, the technique number,
 // the technique's name, the changes), then "result" with "solved" or "unsolved",

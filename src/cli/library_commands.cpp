@@ -8,6 +8,7 @@
 #include <optional>
 #include <sstream>
 
+#include "cli/in_order.h"
 #include "cli/puzzle_lines.h"
 #include "grid/candidates.h"
 #include "grid/levels.h"
@@ -15,9 +16,9 @@
 #include "library/library_pair.h"
 #include "library/library_setup.h"
 #include "library/pair_guard.h"
-#include "solver/brute_force.h"
 #include "solver/generator.h"
 #include "solver/ladder.h"
+#include "solver/solutions.h"
 
 namespace tavi::cli {
 
@@ -98,6 +99,49 @@ std::optional<double> Minutes(const std::optional<std::string>& text) {
     return std::nullopt;
 }
 
+// Makes puzzle i of a start value on any thread: the generator jumps over the
+// puzzles that other threads make.
+class NumberedGenerator {
+  public:
+    explicit NumberedGenerator(std::uint64_t start) : generator_(start) {}
+    GeneratedPuzzle operator()(long i) {
+        generator_.Skip(std::uint64_t(i - next_));
+        next_ = i + 1;
+        return generator_.Next();
+    }
+
+  private:
+    PuzzleGenerator generator_;
+    long next_ = 0;
+};
+
+// A generated puzzle with the level the library gives it.
+struct RatedPuzzle {
+    GeneratedPuzzle puzzle;
+    int level = 0;
+};
+
+class RatingGenerator {
+  public:
+    explicit RatingGenerator(std::uint64_t start) : generator_(start) {}
+    RatedPuzzle operator()(long i) {
+        RatedPuzzle r{generator_(i), 0};
+        r.level = RateForLibrary(ctx_, r.puzzle.puzzle);
+        return r;
+    }
+
+  private:
+    NumberedGenerator generator_;
+    SolveContext ctx_{Side::Workbench};
+};
+
+// Enough puzzles per batch that starting the threads costs nothing to speak of.
+int GenerationBatch(int threads) { return 16 * threads; }
+
+std::optional<int> Threads(const std::optional<std::string>& text) {
+    return text ? ParseThreads(*text) : std::optional<int>(AllCores());
+}
+
 int Problem(std::ostream& err, const std::string& text) {
     err << "tavi-sudoku-cli: " << text << '\n';
     return kUsageError;
@@ -105,10 +149,13 @@ int Problem(std::ostream& err, const std::string& text) {
 
 }  // namespace
 
-int Generate(long count, std::uint64_t seed, std::ostream& out) {
-    PuzzleGenerator generator(seed);
-    for (long i = 0; i < count; ++i)
-        out << FormatDigits(generator.Next().puzzle) << '\n';
+int Generate(long count, std::uint64_t seed, std::ostream& out, int threads) {
+    RunInOrder<GeneratedPuzzle>(
+        count, threads, GenerationBatch(threads), [seed] { return NumberedGenerator(seed); },
+        [&](long, const GeneratedPuzzle& g) {
+            out << FormatDigits(g.puzzle) << '\n';
+            return true;
+        });
     return 0;
 }
 
@@ -118,21 +165,23 @@ int BuildLibrary(const BuildOptions& options, std::ostream& out, std::ostream& e
     if (!fs::is_directory(options.out, ec))
         return Problem(err, "can't make the folder " + options.out.string());
 
-    PuzzleGenerator generator(options.seed);
-    SolveContext ctx(Side::Workbench);
     std::array<std::vector<SudokuRecord>, 10> levels;
     const auto start = std::chrono::steady_clock::now();
     const auto limit = std::chrono::duration<double>(options.minutes * 60);
-    long made = 0;
     int full = 0;
-    while (full < kLevelCount && std::chrono::steady_clock::now() - start < limit) {
-        const GeneratedPuzzle g = generator.Next();
-        ++made;
-        auto& level = levels[RateForLibrary(ctx, g.puzzle)];
-        if (long(level.size()) >= options.perLevel) continue;
-        level.push_back({g.puzzle, g.solution, 0, 0});
-        if (long(level.size()) == options.perLevel) ++full;
-    }
+    // The puzzles are taken in the order of the generator, so the library is the
+    // same for any number of threads; only the time limit can cut it short.
+    const long made = RunInOrder<RatedPuzzle>(
+        -1, options.threads, GenerationBatch(options.threads),
+        [&] { return RatingGenerator(options.seed); },
+        [&](long, const RatedPuzzle& r) {
+            auto& level = levels[r.level];
+            if (long(level.size()) < options.perLevel) {
+                level.push_back({r.puzzle.puzzle, r.puzzle.solution, 0, 0});
+                if (long(level.size()) == options.perLevel) ++full;
+            }
+            return full < kLevelCount && std::chrono::steady_clock::now() - start < limit;
+        });
 
     int status = 0;
     for (int level = 1; level <= kLevelCount; ++level) {
@@ -178,7 +227,6 @@ int ImportLibrary(std::istream& in, int level, const fs::path& dir, std::ostream
     std::string repaired;
     if (OpenPair(dir, stem, &repaired) >= 0 && !repaired.empty()) err << repaired << '\n';
 
-    SolveContext ctx(Side::Workbench);
     long added = 0, first = 0;
     int skipped = 0;
     bool failed = false;
@@ -186,17 +234,15 @@ int ImportLibrary(std::istream& in, int level, const fs::path& dir, std::ostream
         in, err,
         [&](const PuzzleLine& p) {
             if (failed) return;
-            ctx.board = Board{};
-            ctx.board.Puzzle = p.digits;
-            bool contradiction = false;
-            const int solutions = BruteForceSolutions(ctx, contradiction);
-            if (solutions != 1) {
+            const SolutionCount solutions = Solutions(p.digits, 2);
+            if (solutions.count != 1) {
                 err << Where(source, p.lineNumber)
-                    << (solutions == 0 ? "no solution" : "more than one solution") << ", skipped\n";
+                    << (solutions.count == 0 ? "no solution" : "more than one solution")
+                    << ", skipped\n";
                 ++skipped;
                 return;
             }
-            const SudokuRecord record{p.digits, ctx.board.CurrentGrid, 0, 0};
+            const SudokuRecord record{p.digits, solutions.first, 0, 0};
             long number = 0;
             std::string why;
             if (!AppendToPair(dir, stem, record, SudokuLogRecord{}, &number, &why)) {
@@ -217,20 +263,22 @@ int ImportLibrary(std::istream& in, int level, const fs::path& dir, std::ostream
 }
 
 int GenerateCommand(const std::vector<std::string>& args, std::ostream& out, std::ostream& err) {
-    const Arguments a = Parse(args, 1, {"count", "seed"});
+    const Arguments a = Parse(args, 1, {"count", "seed", "threads"});
     if (!a.problem.empty()) return Problem(err, a.problem);
     if (!a.positional.empty()) return Problem(err, "generate takes no file");
     const auto count = Number(a.Get("count"), 0);
     const auto seed = a.Get("seed") ? Number(a.Get("seed"), 0) : std::optional<long long>(1);
     if (!count) return Problem(err, "generate needs --count N, N at least 0");
     if (!seed) return Problem(err, "--seed needs a whole number of at least 0");
-    return Generate(long(*count), std::uint64_t(*seed), out);
+    const auto threads = Threads(a.Get("threads"));
+    if (!threads) return Problem(err, kThreadsProblem);
+    return Generate(long(*count), std::uint64_t(*seed), out, *threads);
 }
 
 int LibraryCommand(const std::vector<std::string>& args, std::ostream& out, std::ostream& err) {
     const std::string action = args.size() > 1 ? args[1] : "";
     if (action == "build") {
-        const Arguments a = Parse(args, 2, {"out", "per-level", "seed", "minutes"});
+        const Arguments a = Parse(args, 2, {"out", "per-level", "seed", "minutes", "threads"});
         if (!a.problem.empty()) return Problem(err, a.problem);
         BuildOptions options;
         const auto perLevel = Number(a.Get("per-level"), 1);
@@ -240,6 +288,9 @@ int LibraryCommand(const std::vector<std::string>& args, std::ostream& out, std:
             return Problem(err, "library build needs --out DIR and --per-level N");
         if (!seed) return Problem(err, "--seed needs a whole number of at least 0");
         if (!minutes) return Problem(err, "--minutes needs a number above 0");
+        const auto threads = Threads(a.Get("threads"));
+        if (!threads) return Problem(err, kThreadsProblem);
+        options.threads = *threads;
         options.out = *a.Get("out");
         options.perLevel = long(*perLevel);
         options.seed = std::uint64_t(*seed);

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "cli/commands.h"
+#include "cli/in_order.h"
 #include "cli/library_commands.h"
 #include "cli/puzzle_lines.h"
 #include "grid/levels.h"
@@ -21,7 +22,9 @@ constexpr const char* kUsage =
     "\n"
     "commands:\n"
     "  rate [--summary]   puzzle, level number and level name\n"
-    "  solve              puzzle, unique/none/multiple, and the solution or -\n"
+    "  solve [--threads N]\n"
+    "                     puzzle, unique/none/multiple, and the solution or -;\n"
+    "                     N threads (default: every core)\n"
     "  steps [--explain]  every step of the ladder, then the result; --explain adds\n"
     "                     the hint sentence of each step\n"
     "  hint [--paint]     the sentence of the first hint on the fresh board; --paint\n"
@@ -34,9 +37,10 @@ constexpr const char* kUsage =
     "                     digits, 729 candidates); --hint looks on the game side\n"
     "                     and adds the sentence\n"
     "\n"
-    "  generate --count N [--seed S]\n"
-    "        N minimal puzzles with one solution each, one per line\n"
-    "  library build --out DIR --per-level N [--seed S] [--minutes M]\n"
+    "  generate --count N [--seed S] [--threads T]\n"
+    "        N minimal puzzles with one solution each, one per line; T threads\n"
+    "        (default: every core), the same puzzles for any T\n"
+    "  library build --out DIR --per-level N [--seed S] [--minutes M] [--threads T]\n"
     "        generate and rate puzzles, and write the nine .sds files of a library\n"
     "        with up to N puzzles per level; stops after M minutes (default 10)\n"
     "  library check DIR [--level L]\n"
@@ -91,9 +95,14 @@ int main(int argc, char** argv) {
 
     tavi::cli::RateOptions rateOptions;
     bool explain = false, paint = false, hint = false, all = false;
+    int threads = tavi::cli::AllCores();
     std::string file;
     for (size_t i = first; i < args.size(); ++i) {
-        if (args[i] == "--summary" && command == "rate")
+        if (args[i] == "--threads" && command == "solve") {
+            const auto n = i + 1 < args.size() ? tavi::cli::ParseThreads(args[++i]) : std::nullopt;
+            if (!n) return Usage(tavi::cli::kThreadsProblem);
+            threads = *n;
+        } else if (args[i] == "--summary" && command == "rate")
             rateOptions.summary = true;
         else if (args[i] == "--explain" && command == "steps")
             explain = true;
@@ -128,7 +137,7 @@ int main(int argc, char** argv) {
     std::ios::sync_with_stdio(false);
 
     if (command == "rate") return tavi::cli::Rate(in, std::cout, std::cerr, rateOptions, source);
-    if (command == "solve") return tavi::cli::Solve(in, std::cout, std::cerr, source);
+    if (command == "solve") return tavi::cli::Solve(in, std::cout, std::cerr, source, threads);
     if (command == "steps") return tavi::cli::Steps(in, std::cout, std::cerr, explain, source);
     if (command == "hint") return tavi::cli::Hint(in, std::cout, std::cerr, paint, source);
     if (command == "signature") return tavi::cli::Signature(in, std::cout, std::cerr, source);

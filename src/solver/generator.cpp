@@ -3,6 +3,7 @@
 #include <array>
 
 #include "grid/candidates.h"
+#include "solver/solutions.h"
 
 namespace tavi {
 
@@ -25,8 +26,10 @@ struct UnitMasks {
     }
 };
 
-// Depth first with the most constrained cell first. `order` permutes the digits
-// tried (for random grids); the count stops at `limit`.
+// Fills a grid depth first, the most constrained cell first, trying the digits in
+// the random `order`: the first grid found is the random solved grid. (Counting
+// solutions is left to Solutions; this walk only makes the grid, and it stays as
+// it is so that a start value keeps giving the same puzzles.)
 struct Search {
     Digits grid;
     UnitMasks units;
@@ -65,23 +68,11 @@ struct Search {
 
 }  // namespace
 
-int CountSolutions(const Digits& puzzle, int limit, Digits* first) {
-    if (GivensClash(puzzle)) return 0;
-    Search s;
-    s.grid = puzzle;
-    s.limit = limit;
-    s.first = first;
-    for (int c = 0; c < 81; ++c)
-        if (puzzle[c]) s.units.Toggle(c, puzzle[c]);
-    s.Run();
-    return s.found;
-}
-
 Digits PuzzleGenerator::RandomSolvedGrid() {
     std::array<int, 9> order{1, 2, 3, 4, 5, 6, 7, 8, 9};
     for (int i = 8; i > 0; --i)
         std::swap(order[i], order[Below(i + 1)]);
-    // Seed the first row at random, then let the search fill the rest with the
+    // Fill the first row at random, then let the search fill the rest with the
     // digits in a random order of preference.
     Search s;
     s.grid = {};
@@ -111,7 +102,7 @@ GeneratedPuzzle PuzzleGenerator::Next() {
     for (int c : cells) {
         const std::uint8_t kept = g.puzzle[c];
         g.puzzle[c] = 0;
-        if (CountSolutions(g.puzzle, 2) != 1) g.puzzle[c] = kept;
+        if (Solutions(g.puzzle, 2).count != 1) g.puzzle[c] = kept;
     }
     return g;
 }

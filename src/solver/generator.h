@@ -10,11 +10,6 @@
 
 namespace tavi {
 
-// A quick count of solutions by depth-first search over the unit masks, stopping
-// at `limit`. The first solution goes to `first` when given. A puzzle whose givens
-// clash has none.
-int CountSolutions(const Digits& puzzle, int limit = 2, Digits* first = nullptr);
-
 struct GeneratedPuzzle {
     Digits puzzle;
     Digits solution;
@@ -27,6 +22,13 @@ class PuzzleGenerator {
     Digits RandomSolvedGrid();
     // A minimal puzzle with exactly one solution.
     GeneratedPuzzle Next();
+
+    // Every puzzle takes the same number of random draws, so the generator can
+    // jump over puzzles: after Skip(n), Next() gives what the (n+1)-th call of
+    // Next() would have given. Threads that share out the puzzles of one start
+    // value use this to make the same list as a single thread.
+    static constexpr int kDrawsPerPuzzle = 96;
+    void Skip(unsigned long long puzzles) { rng_.discard(puzzles * kDrawsPerPuzzle); }
 
   private:
     int Below(int n) { return int(rng_() % std::uint32_t(n)); }

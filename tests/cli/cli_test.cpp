@@ -151,6 +151,18 @@ TEST(CliSolve, SaysUniqueNoneOrMultiple) {
     EXPECT_EQ(o.status, 0);
     EXPECT_EQ(o.out, expected);
     EXPECT_EQ(o.err, "");
+
+    // More lines than one block holds, over two threads: the same answers in the
+    // same order.
+    std::string many, manyExpected;
+    for (int i = 0; i < 900; ++i) {
+        many += input;
+        manyExpected += expected;
+    }
+    const Output threaded =
+        RunCommand([](auto& in, auto& out, auto& err) { return Solve(in, out, err, "standard input", 2); }, many);
+    EXPECT_EQ(threaded.status, 0);
+    EXPECT_TRUE(threaded.out == manyExpected);
 }
 
 // Every command reports a line that is no puzzle with its number, goes on with

@@ -4,10 +4,12 @@
 
 #include <sstream>
 
+#include "cli/in_order.h"
 #include "grid/levels.h"
 #include "library/library_files.h"
 #include "library/library_test_support.h"
 #include "solver/generator.h"
+#include "solver/solutions.h"
 
 namespace tavi::cli {
 namespace {
@@ -37,7 +39,8 @@ std::vector<std::string> Lines(const std::string& text) {
 
 TEST(CliGenerate, TheSameSeedGivesTheSameMinimalUniquePuzzles) {
     const Output a = RunCommand(GenerateCommand, {"generate", "--count", "4", "--seed", "99"});
-    const Output b = RunCommand(GenerateCommand, {"generate", "--seed", "99", "--count", "4"});
+    const Output b =
+        RunCommand(GenerateCommand, {"generate", "--seed", "99", "--count", "4", "--threads", "3"});
     const Output other = RunCommand(GenerateCommand, {"generate", "--count", "4", "--seed", "100"});
     EXPECT_EQ(a.status, 0);
     EXPECT_EQ(a.out, b.out);
@@ -48,14 +51,46 @@ TEST(CliGenerate, TheSameSeedGivesTheSameMinimalUniquePuzzles) {
         const auto puzzle = ParseDigits(line);
         ASSERT_TRUE(puzzle) << line;
         EXPECT_EQ(line.size(), 81u);
-        EXPECT_EQ(CountSolutions(*puzzle), 1);
+        EXPECT_EQ(Solutions(*puzzle).count, 1);
         for (int c = 0; c < 81; ++c) {  // every clue is needed
             if (!(*puzzle)[c]) continue;
             Digits fewer = *puzzle;
             fewer[c] = 0;
-            EXPECT_EQ(CountSolutions(fewer), 2) << line << " cell " << c;
+            EXPECT_EQ(Solutions(fewer).count, 2) << line << " cell " << c;
         }
     }
+}
+
+// Threads take the puzzles out of order; the list must not show it.
+TEST(CliGenerate, TheNumberOfThreadsDoesNotChangeThePuzzles) {
+    std::ostringstream one, three;
+    ASSERT_EQ(Generate(50, 7, one, 1), 0);
+    ASSERT_EQ(Generate(50, 7, three, 3), 0);
+    EXPECT_EQ(one.str(), three.str());
+    PuzzleGenerator alone(7);
+    alone.Skip(49);
+    EXPECT_EQ(Lines(one.str()).back(), FormatDigits(alone.Next().puzzle));
+    EXPECT_EQ(RunCommand(GenerateCommand, {"generate", "--count", "1", "--threads", "0"}).status,
+              2);
+}
+
+TEST(CliInOrder, ResultsArriveInOrderAndUseCanStop) {
+    std::vector<long> seen;
+    const long used = RunInOrder<long>(
+        100, 4, 7, [] { return [](long i) { return i * i; }; },
+        [&](long i, long square) {
+            EXPECT_EQ(square, i * i);
+            seen.push_back(i);
+            return i < 60;
+        });
+    EXPECT_EQ(used, 61);
+    ASSERT_EQ(seen.size(), 61u);
+    for (long i = 0; i < 61; ++i)
+        EXPECT_EQ(seen[std::size_t(i)], i);
+    EXPECT_EQ(
+        RunInOrder<long>(
+            10, 3, 4, [] { return [](long i) { return i; }; }, [](long, long) { return true; }),
+        10);
 }
 
 TEST(CliLibrary, BuildWritesNineRatedFilesAndReportsTheCounts) {
@@ -75,9 +110,9 @@ TEST(CliLibrary, BuildWritesNineRatedFilesAndReportsTheCounts) {
         EXPECT_EQ(lines[level - 1],
                   std::string(LevelName(level)) + "\t" + std::to_string(records.size()));
         for (const SudokuRecord& r : records) {
-            Digits solution{};
-            EXPECT_EQ(CountSolutions(r.Puzzle, 2, &solution), 1);
-            EXPECT_EQ(r.Solution, solution);
+            const SolutionCount s = Solutions(r.Puzzle);
+            EXPECT_EQ(s.count, 1);
+            EXPECT_EQ(r.Solution, s.first);
             EXPECT_EQ(r.BestMinutes, 0);
             EXPECT_EQ(r.BestSeconds, 0);
         }

@@ -138,41 +138,6 @@ TEST(BruteForce, CountsNoneOneOrMany) {
     }
 }
 
-// The search against the generator's own counter: generated puzzles, the same
-// with a clue taken away, and with a clue changed to another digit.
-TEST(BruteForce, AgreesWithTheGenerator) {
-    std::mt19937 rng(11);
-    int answers[3] = {};
-    for (const auto& p : testing::GeneratedPuzzles(300)) {
-        std::vector<int> clues;
-        for (int c = 0; c < 81; ++c)
-            if (p.puzzle[c]) clues.push_back(c);
-        const int clue = clues[rng() % clues.size()];
-        Digits removed = p.puzzle, changed = p.puzzle;
-        removed[clue] = 0;
-        changed[clue] = std::uint8_t(1 + (p.puzzle[clue] + rng() % 8) % 9);
-        for (const Digits& puzzle : {p.puzzle, removed, changed}) {
-            Digits first{};
-            const int expected = CountSolutions(puzzle, 2, &first);
-            SolveContext ctx;
-            ctx.board.Puzzle = puzzle;
-            bool flag = false;
-            const int found = BruteForceSolutions(ctx, flag);
-            ASSERT_EQ(found, expected) << FormatDigits(puzzle, '.');
-            if (found == 1) {
-                ASSERT_EQ(ctx.board.CurrentGrid, first) << FormatDigits(puzzle, '.');
-            }
-            if (flag) {
-                ASSERT_EQ(found, 0) << "a contradiction is no solution";
-            }
-            ++answers[found];
-        }
-    }
-    EXPECT_GT(answers[0], 0);
-    EXPECT_GE(answers[1], 300);
-    EXPECT_GE(answers[2], 300);
-}
-
 TEST(UniqueSud, WorksOnCurrentGridAndLeavesTheCandidatesAlone) {
     const auto& p = testing::GeneratedPuzzles(2)[1];
     Digits oneClueLess = p.puzzle;

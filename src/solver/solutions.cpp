@@ -1,0 +1,305 @@
+#include "solver/solutions.h"
+
+#include <array>
+#include <bit>
+#include <cstdint>
+
+namespace tavi {
+
+namespace {
+
+// The grid is held per digit and per band of three rows: 27 bits, bit 9r + c for
+// row r of the band and column c. A set bit says the digit may still stand there
+// (or stands there, for a solved cell). Rows and boxes lie inside one band word,
+// a column is the same three bits in each of the three words.
+constexpr std::uint32_t kBandBits = 0x7FFFFFF;
+constexpr std::uint32_t kRowBits = 0x1FF;
+constexpr std::uint32_t kColumnBits = 0x40201;  // column 0 in rows 0, 1 and 2
+
+constexpr std::uint32_t BoxBits(int box) { return (0x7u | 0x7u << 9 | 0x7u << 18) << (3 * box); }
+
+// For each place in a band: its row and box inside the band, itself included.
+constexpr std::array<std::uint32_t, 27> kBandPeers = [] {
+    std::array<std::uint32_t, 27> t{};
+    for (int p = 0; p < 27; ++p)
+        t[p] = kRowBits << (9 * (p / 9)) | BoxBits(p % 9 / 3);
+    return t;
+}();
+
+// For the three rows of a band: which of its boxes a 9-bit row touches.
+constexpr std::array<std::uint8_t, 512> kRowBoxes = [] {
+    std::array<std::uint8_t, 512> t{};
+    for (int row = 0; row < 512; ++row)
+        t[row] = std::uint8_t((row & 0x7 ? 1 : 0) | (row & 0x38 ? 2 : 0) | (row & 0x1C0 ? 4 : 0));
+    return t;
+}();
+
+// A digit stands once in each row and once in each box of a band, so the rows
+// and boxes it takes there are a permutation. From the row-box pairs (bit 3r + k)
+// where it may still stand: the pairs that some permutation uses, 0 when none.
+constexpr std::array<std::uint16_t, 512> kPermutationPairs = [] {
+    std::array<std::uint16_t, 512> t{};
+    constexpr int perms[6][3] = {{0, 1, 2}, {0, 2, 1}, {1, 0, 2}, {1, 2, 0}, {2, 0, 1}, {2, 1, 0}};
+    for (int pairs = 0; pairs < 512; ++pairs)
+        for (const auto& p : perms) {
+            const int used = 1 << p[0] | 1 << (3 + p[1]) | 1 << (6 + p[2]);
+            if ((pairs & used) == used) t[pairs] |= std::uint16_t(used);
+        }
+    return t;
+}();
+
+// Three box bits of a row to the 9 places they cover.
+constexpr std::array<std::uint32_t, 8> kBoxesToRow = [] {
+    std::array<std::uint32_t, 8> t{};
+    for (int boxes = 0; boxes < 8; ++boxes)
+        t[boxes] = (boxes & 1 ? 0x7u : 0) | (boxes & 2 ? 0x38u : 0) | (boxes & 4 ? 0x1C0u : 0);
+    return t;
+}();
+
+struct State {
+    std::array<std::uint32_t, 27> may;  // index 3 * digit + band, digits 0..8
+    std::array<std::uint32_t, 3> solved;
+    std::uint32_t dirty;  // bit 3 * digit + band: that word changed since it was looked at
+
+    std::uint32_t Open(int d, int b) const { return may[3 * d + b] & ~solved[b]; }
+    std::uint32_t Placed(int d, int b) const { return may[3 * d + b] & solved[b]; }
+
+    void Keep(int i, std::uint32_t bits) {
+        const std::uint32_t was = may[i];
+        may[i] = was & bits;
+        dirty |= std::uint32_t(may[i] != was) << i;
+    }
+
+    // Puts digit d at place p of band b. False when d may no longer stand there.
+    bool Place(int d, int b, int p) {
+        const std::uint32_t bit = 1u << p;
+        if (!(may[3 * d + b] & bit)) return false;
+        if (solved[b] & bit) return true;
+        solved[b] |= bit;
+        for (int e = 0; e < 9; ++e)
+            Keep(3 * e + b, ~bit);
+        may[3 * d + b] |= bit;
+        Keep(3 * d + b, ~kBandPeers[p] | bit);
+        const std::uint32_t column = kColumnBits << (p % 9);
+        for (int other = 0; other < 3; ++other)
+            if (other != b) Keep(3 * d + other, ~column);
+        return true;
+    }
+
+    // One digit in one band: only the row-box pairs of some permutation stay,
+    // and a row left with one place puts the digit there. This finds the hidden
+    // singles of rows and boxes and the locked candidates inside the band.
+    bool Band(int i) {
+        const std::uint32_t x = may[i];
+        const int pairs =
+            kRowBoxes[x & kRowBits] | kRowBoxes[x >> 9 & kRowBits] << 3 | kRowBoxes[x >> 18] << 6;
+        const int keep = kPermutationPairs[pairs];
+        if (!keep) return false;
+        Keep(i, kBoxesToRow[keep & 7] | kBoxesToRow[keep >> 3 & 7] << 9 |
+                    kBoxesToRow[keep >> 6] << 18);
+        const int d = i / 3, b = i % 3;
+        for (int r = 0; r < 3; ++r) {
+            const std::uint32_t row = may[i] & kRowBits << (9 * r);
+            if (row & (row - 1) || row & solved[b]) continue;
+            if (!Place(d, b, std::countr_zero(row))) return false;
+        }
+        return true;
+    }
+
+    // Naked singles: cells left with one digit. False on a cell with none.
+    bool NakedSingles(bool& progress) {
+        for (int b = 0; b < 3; ++b) {
+            const std::uint32_t open = ~solved[b] & kBandBits;
+            if (!open) continue;
+            std::uint32_t one = 0, two = 0;
+            for (int d = 0; d < 9; ++d) {
+                const std::uint32_t x = may[3 * d + b] & open;
+                two |= one & x;
+                one |= x;
+            }
+            if (open & ~one) return false;
+            for (std::uint32_t singles = one & ~two; singles; singles &= singles - 1) {
+                const int p = std::countr_zero(singles);
+                for (int d = 0; d < 9; ++d)
+                    if (may[3 * d + b] >> p & 1) {
+                        // A cell emptied by an earlier placement of this pass shows
+                        // up as a cell without digits in the next pass.
+                        if (!Place(d, b, p)) return false;
+                        progress = true;
+                        break;
+                    }
+            }
+        }
+        return true;
+    }
+
+    // The same narrowing across the bands: in a stack of three columns a digit
+    // takes each column once and each band once, so only the column-band pairs of
+    // some permutation stay. Then the hidden singles of the columns. False when a
+    // digit has no place left in some stack or column.
+    bool Columns(bool& progress) {
+        for (int d = 0; d < 9; ++d) {
+            std::array<std::uint32_t, 3> columns;  // per band: the columns the digit may take
+            for (int b = 0; b < 3; ++b) {
+                const std::uint32_t x = may[3 * d + b];
+                columns[b] = (x | x >> 9 | x >> 18) & kRowBits;
+            }
+            for (int stack = 0; stack < 3; ++stack) {
+                const int shift = 3 * stack;
+                const int pairs = int(columns[0] >> shift & 7) | int(columns[1] >> shift & 7) << 3 |
+                                  int(columns[2] >> shift & 7) << 6;
+                const int keep = kPermutationPairs[pairs];
+                if (!keep) return false;
+                if (keep == pairs) continue;
+                for (int b = 0; b < 3; ++b) {
+                    const std::uint32_t gone =
+                        ~std::uint32_t(keep >> (3 * b)) & 7u & (columns[b] >> shift);
+                    for (std::uint32_t g = gone; g; g &= g - 1)
+                        Keep(3 * d + b, ~(kColumnBits << (shift + std::countr_zero(g))));
+                }
+            }
+            std::uint32_t one = 0, two = 0, placed = 0;
+            for (int b = 0; b < 3; ++b) {
+                const std::uint32_t open = Open(d, b), done = Placed(d, b);
+                for (int r = 0; r < 3; ++r) {
+                    const std::uint32_t row = open >> (9 * r) & kRowBits;
+                    two |= one & row;
+                    one |= row;
+                    placed |= done >> (9 * r) & kRowBits;
+                }
+            }
+            if (kRowBits & ~(one | placed)) return false;
+            for (std::uint32_t singles = one & ~two; singles; singles &= singles - 1) {
+                const std::uint32_t column = kColumnBits << std::countr_zero(singles);
+                for (int b = 0; b < 3; ++b)
+                    if (const std::uint32_t at = Open(d, b) & column) {
+                        if (!Place(d, b, std::countr_zero(at))) return false;
+                        progress = true;
+                        break;
+                    }
+            }
+        }
+        return true;
+    }
+
+    // Singles to a fixed point. False on a contradiction.
+    bool Propagate() {
+        for (;;) {
+            while (dirty) {
+                const int i = std::countr_zero(dirty);
+                dirty &= dirty - 1;
+                if (!Band(i)) return false;
+            }
+            bool progress = false;
+            if (!NakedSingles(progress)) return false;
+            if (progress) continue;
+            if (!Columns(progress)) return false;
+            if (!progress && !dirty) return true;
+        }
+    }
+
+    bool Full() const { return (solved[0] & solved[1] & solved[2]) == kBandBits; }
+
+    // The open cell with the fewest digits, as band and place; its count is at
+    // least 2 after Propagate.
+    void FewestDigits(int& band, int& place) const {
+        // Cells with two digits are the usual answer and the cheapest to find.
+        for (int b = 0; b < 3; ++b) {
+            const std::uint32_t open = ~solved[b] & kBandBits;
+            std::uint32_t one = 0, two = 0, three = 0;
+            for (int d = 0; d < 9; ++d) {
+                const std::uint32_t x = may[3 * d + b] & open;
+                three |= two & x;
+                two |= one & x;
+                one |= x;
+            }
+            if (const std::uint32_t pairs = two & ~three) {
+                band = b, place = std::countr_zero(pairs);
+                return;
+            }
+        }
+        std::array<std::array<std::uint32_t, 4>, 3> sum{};  // a 4-bit count per cell
+        for (int b = 0; b < 3; ++b) {
+            const std::uint32_t open = ~solved[b] & kBandBits;
+            auto& s = sum[b];
+            for (int d = 0; d < 9; ++d) {
+                std::uint32_t carry = may[3 * d + b] & open;
+                for (int i = 0; i < 4; ++i) {
+                    const std::uint32_t next = s[i] & carry;
+                    s[i] ^= carry;
+                    carry = next;
+                }
+            }
+        }
+        for (int k = 3; k <= 9; ++k)
+            for (int b = 0; b < 3; ++b) {
+                std::uint32_t m = ~solved[b] & kBandBits;
+                for (int i = 0; i < 4; ++i)
+                    m &= (k >> i & 1) ? sum[b][i] : ~sum[b][i];
+                if (m) {
+                    band = b, place = std::countr_zero(m);
+                    return;
+                }
+            }
+        band = -1, place = -1;
+    }
+
+    Digits Grid() const {
+        Digits grid{};
+        for (int d = 0; d < 9; ++d)
+            for (int b = 0; b < 3; ++b)
+                for (std::uint32_t x = may[3 * d + b]; x; x &= x - 1)
+                    grid[27 * b + std::countr_zero(x)] = std::uint8_t(d + 1);
+        return grid;
+    }
+};
+
+struct Search {
+    int limit;
+    SolutionCount answer;
+
+    void Run(const State& s) {
+        if (s.Full()) {
+            if (answer.count++ == 0) answer.first = s.Grid();
+            return;
+        }
+        int b, p;
+        s.FewestDigits(b, p);
+        if (b < 0) return;
+        for (int d = 0; d < 9 && answer.count < limit; ++d) {
+            if (!(s.may[3 * d + b] >> p & 1)) continue;
+            State t = s;
+            if (t.Place(d, b, p) && t.Propagate()) Run(t);
+        }
+    }
+};
+
+}  // namespace
+
+SolutionCount Solutions(const Digits& givens, int limit) {
+    // The givens go in all at once: per digit, where it is given and which
+    // places its givens see. A given that sees another of its digit is a clash.
+    std::array<std::uint32_t, 27> given{}, seen{};
+    State s;
+    s.solved.fill(0);
+    for (int cell = 0; cell < 81; ++cell) {
+        const int digit = givens[cell];
+        if (digit < 1 || digit > 9) continue;
+        const int d = digit - 1, b = cell / 27, p = cell % 27;
+        const std::uint32_t bit = 1u << p;
+        if (seen[3 * d + b] & bit) return {};
+        given[3 * d + b] |= bit;
+        s.solved[b] |= bit;
+        seen[3 * d + b] |= kBandPeers[p];
+        for (int other = 0; other < 3; ++other)
+            if (other != b) seen[3 * d + other] |= kColumnBits << (p % 9);
+    }
+    for (int i = 0; i < 27; ++i)
+        s.may[i] = (kBandBits & ~s.solved[i % 3] & ~seen[i]) | given[i];
+    s.dirty = kBandBits;
+    Search search{limit < 1 ? 1 : limit, {}};
+    if (s.Propagate()) search.Run(s);
+    return search.answer;
+}
+
+}  // namespace tavi

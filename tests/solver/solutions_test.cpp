@@ -1,0 +1,144 @@
+// The solution counter against the documented brute-force search, which serves
+// as the oracle: both must say none, one or several, and give the same solution
+// when there is one.
+#include "solver/solutions.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <fstream>
+#include <random>
+#include <string>
+
+#include "grid/candidates.h"
+#include "solver/brute_force.h"
+#include "support/puzzles.h"
+
+namespace tavi {
+namespace {
+
+// The oracle's answer: 0, 1 or 2 (two or more), and the solution when unique.
+SolutionCount Oracle(const Digits& puzzle) {
+    SolveContext ctx(Side::Workbench);
+    ctx.board.Puzzle = puzzle;
+    bool contradiction = false;
+    SolutionCount answer;
+    answer.count = BruteForceSolutions(ctx, contradiction);
+    if (answer.count == 1) answer.first = ctx.board.CurrentGrid;
+    return answer;
+}
+
+void ExpectAgreement(const Digits& puzzle, const std::string& what) {
+    const SolutionCount expected = Oracle(puzzle);
+    const SolutionCount got = Solutions(puzzle, 2);
+    ASSERT_EQ(got.count, expected.count) << what << ": " << FormatDigits(puzzle, '.');
+    if (expected.count == 1) {
+        ASSERT_EQ(got.first, expected.first) << what << ": " << FormatDigits(puzzle, '.');
+    }
+    if (got.count > 0) {
+        // Whatever the count, the first solution is a solution of these givens.
+        ASSERT_FALSE(GivensClash(got.first)) << what;
+        for (int c = 0; c < 81; ++c)
+            ASSERT_TRUE(!puzzle[c] || puzzle[c] == got.first[c]) << what << " cell " << c;
+        ASSERT_EQ(std::count(got.first.begin(), got.first.end(), 0), 0) << what;
+    }
+}
+
+// The first clue of `puzzle` and an empty cell that sees it.
+std::pair<int, int> ClueAndEmptyPeer(const Digits& puzzle) {
+    for (int c = 0; c < 81; ++c)
+        if (puzzle[c])
+            for (int peer : Peers[c])
+                if (!puzzle[peer]) return {c, peer};
+    return {-1, -1};
+}
+
+TEST(Solutions, AgreesWithTheBruteForceSearchOnEveryKindOfGrid) {
+    const auto& made = testing::GeneratedPuzzles(40);
+    const GeneratedPuzzle& p = made[0];
+    Digits clueLess = p.puzzle, doubled = p.puzzle, swapped = p.solution, deadCell{};
+    clueLess[ClueAndEmptyPeer(p.puzzle).first] = 0;
+    const auto [clue, peer] = ClueAndEmptyPeer(p.puzzle);
+    doubled[peer] = p.puzzle[clue];
+    std::swap(swapped[0], swapped[1]);
+    for (int c = 0; c < 8; ++c)  // A1..A8 hold 1..8, E9 holds 9: A9 has no digit left
+        deadCell[c] = std::uint8_t(c + 1);
+    deadCell[44] = 9;
+    struct Case {
+        const char* name;
+        Digits puzzle;
+        int count;
+    } cases[] = {
+        {"generated", p.puzzle, 1},
+        {"a clue removed", clueLess, 2},
+        {"a clue doubled", doubled, 0},
+        {"the empty grid", Digits{}, 2},
+        {"a full grid", p.solution, 1},
+        {"a full grid with a clash", swapped, 0},
+        {"a cell without digits", deadCell, 0},
+    };
+    for (const Case& k : cases) {
+        EXPECT_EQ(Solutions(k.puzzle).count, k.count) << k.name;
+        ExpectAgreement(k.puzzle, k.name);
+    }
+    for (const auto& g : made) {
+        ASSERT_EQ(Solutions(g.puzzle).first, g.solution);
+        ExpectAgreement(g.puzzle, "generated");
+    }
+    // The count stops at the limit.
+    for (int limit : {1, 2, 5, 40})
+        EXPECT_EQ(Solutions(Digits{}, limit).count, limit);
+    EXPECT_EQ(Solutions(clueLess, 1).count, 1);
+}
+
+// The public lists, read where they lie; without them this part is skipped.
+TEST(Solutions, AgreesWithTheBruteForceSearchOnThePublicLists) {
+    const char* dir = std::getenv("TAVI_PUZZLE_DIR");
+    const std::string folder = dir ? dir : TAVI_DEFAULT_PUZZLE_DIR;
+    int read = 0;
+    for (const char* name : {"puzzles2_17_clue.txt", "puzzles3_magictour_top1465.txt",
+                             "puzzles6_forum_hardest_1106.txt"}) {
+        std::ifstream in(folder + "/" + name);
+        std::string line;
+        for (int taken = 0; taken < 100 && std::getline(in, line);) {
+            const auto puzzle = ParseDigits(line);
+            if (!puzzle) continue;
+            ++taken, ++read;
+            ExpectAgreement(*puzzle, name);
+        }
+    }
+    if (read == 0) GTEST_SKIP() << "no public puzzle lists in " << folder;
+}
+
+// A few thousand generated puzzles, changed at random: clues taken away, added or
+// changed. The start value is new on every run and printed with any failure.
+TEST(Solutions, AgreesWithTheBruteForceSearchOnRandomChanges) {
+    const unsigned start = std::random_device{}();
+    SCOPED_TRACE("start value " + std::to_string(start));
+    std::mt19937 rng(start);
+    int answers[3] = {};
+    for (const auto& g : testing::GeneratedPuzzles(2000)) {
+        for (int round = 0; round < 2; ++round) {
+            Digits puzzle = g.puzzle;
+            const int changes = 1 + int(rng() % 3);
+            for (int i = 0; i < changes; ++i) {
+                const int cell = int(rng() % 81);
+                switch (rng() % 3) {
+                    case 0: puzzle[cell] = 0; break;
+                    case 1: puzzle[cell] = g.solution[cell]; break;
+                    default: puzzle[cell] = std::uint8_t(1 + rng() % 9); break;
+                }
+            }
+            const SolutionCount got = Solutions(puzzle);
+            ++answers[got.count];
+            ExpectAgreement(puzzle, "changed");
+        }
+    }
+    EXPECT_GT(answers[0], 0);
+    EXPECT_GT(answers[1], 0);
+    EXPECT_GT(answers[2], 0);
+}
+
+}  // namespace
+}  // namespace tavi
