@@ -7,7 +7,7 @@
 #include "library/library_files.h"
 #include "library/library_pair.h"
 #include "library/pair_guard.h"
-#include "solver/brute_force.h"
+#include "solver/solutions.h"
 #include "solver/ladder.h"
 
 namespace tavi {
@@ -68,18 +68,15 @@ ImportReport ImportPuzzles(const std::filesystem::path& dataFolder, std::istream
     for (long i = 0; i < count; ++i) {
         if (run.progress) run.progress(i + 1, count);
         const Digits& puzzle = read.puzzles[size_t(i)].puzzle;
-        SolveContext search;
-        search.board.Puzzle = puzzle;
-        bool contradiction = false;
-        const int solutions = BruteForceSolutions(search, contradiction);
-        if (solutions == 0) {
+        const SolutionCount solutions = Solutions(puzzle, 2);
+        if (solutions.count == 0) {
             ++report.noSolution;
-        } else if (solutions > 1) {
+        } else if (solutions.count > 1) {
             ++report.severalSolutions;
         } else if (!known.insert(Key(puzzle)).second) {
             ++report.duplicates;
         } else {
-            const Digits solution = search.board.CurrentGrid;
+            const Digits solution = solutions.first;
             SolveContext ctx;
             ctx.board = BoardFromPuzzle(puzzle);
             WorkbenchRun rating;

@@ -7,6 +7,7 @@
 #include "library/pair_rewrite.h"
 #include "solver/brute_force.h"
 #include "solver/ladder.h"
+#include "solver/solutions.h"
 #include "workbench/duplicates.h"
 #include "workbench/import.h"
 
@@ -203,11 +204,8 @@ void Workbench::TakeSolution(bool solved) {
     } else {
         // A puzzle the logic could not finish keeps a real solution: its own when
         // it has exactly one, else what the record held.
-        SolveContext search;
-        search.board.Puzzle = record_.Puzzle;
-        bool contradiction = false;
-        if (BruteForceSolutions(search, contradiction) == 1)
-            record_.Solution = search.board.CurrentGrid;
+        const SolutionCount solutions = Solutions(record_.Puzzle, 2);
+        if (solutions.count == 1) record_.Solution = solutions.first;
     }
     b.Solution = record_.Solution;
     b.CurrentGrid = Digits{};
