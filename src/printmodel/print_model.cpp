@@ -130,7 +130,7 @@ std::optional<PrintPuzzle> PuzzleFor(const PrintSlot& slot, const PrintSettings&
     }
     SetupCandidates(board);
     out.Grid = board.CurrentGrid;
-    if (settings.PrintPencils) out.Marks = board.Candidates;
+    out.Marks = board.Candidates;
     return out;
 }
 

@@ -33,7 +33,7 @@ struct PrintSettings {
     int PrintPages = 0;                // 1 to 10; anything else counts as 1
     bool PrintCurrent = false;         // the on-screen puzzle takes the first place
     bool PrintCurrentState = false;    // ... as it stands now, with its marks
-    bool PrintPencils = true;
+    bool PrintPencils = true;          // ... with its marks (else the digits alone)
     bool PrintSolutions = true;
     int PrintFrom = 1;
     int PrintLevelIndex = 0;  // level - 1; the list ends with "Outlaw!"
@@ -104,14 +104,14 @@ struct PrintPuzzle {
     Digits Grid{};                          // the digits to print
     Digits Puzzle{};                        // which of them are clues
     Digits Solution{};                      // all zero when unknown
-    std::array<CandidateMask, 81> Marks{};  // nothing when pencil marks are not printed
+    std::array<CandidateMask, 81> Marks{};  // the pencil marks to print
     int Number = 0;
 };
 
 // What goes on the paper for one slot. The on-screen puzzle in its current
-// state keeps its own digits and marks; any other puzzle is printed with its
-// clues and the marks SetupCandidates computes. Nothing when the record can't
-// be read.
+// state keeps its own digits, and its marks when PrintPencils asks for them; any
+// other puzzle is printed with its clues and the marks SetupCandidates computes. Nothing when the
+// record can't be read.
 std::optional<PrintPuzzle> PuzzleFor(const PrintSlot& slot, const PrintSettings& settings,
                                      const PrintSnapshot& snapshot,
                                      const std::filesystem::path& dataFolder);

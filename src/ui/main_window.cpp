@@ -20,6 +20,7 @@
 #include "ui/hint_window.h"
 #include "ui/options_dialog.h"
 #include "ui/painted_pictures.h"
+#include "ui/print_window.h"
 #include "ui/qt_convert.h"
 #include "ui/release_controls.h"
 #include "ui/revision_window.h"
@@ -269,6 +270,16 @@ void MainWindow::ShowOptions() {
     const Options before = options_;
     if (RunOptionsDialog(this, options_, game_.SoundAvailable())) game_.CommandOptions(before);
     Refresh();
+}
+
+void MainWindow::ShowPrint() {
+    if (game_.Busy()) return;
+    if (!print_) {
+        print_.emplace();
+        print_->PrintLevelIndex = std::clamp(game_.position().ChosenLevel, 1, 9) - 1;
+    }
+    PrintWindow window(*print_, PrintSnapshotOf(game_), folders_.DataFolder, this);
+    window.exec();
 }
 
 void MainWindow::ShowRevisions() {

@@ -10,8 +10,10 @@
 #include <array>
 #include <filesystem>
 #include <functional>
+#include <optional>
 
 #include "game/game.h"
+#include "printmodel/print_model.h"
 
 class QLabel;
 class QLineEdit;
@@ -86,6 +88,7 @@ class MainWindow : public QMainWindow {
     void NotAvailable(const QString& what);
     void ShowRevisions();
     void ShowOptions();
+    void ShowPrint();
     // FormHint, made when first wanted.
     HintWindow* Hints();
     void RefreshCommands();
@@ -109,6 +112,7 @@ class MainWindow : public QMainWindow {
     QLineEdit* sudTekst_ = nullptr;
     QTimer* timer_ = nullptr;
     RevisionWindow* revisions_ = nullptr;
+    std::optional<PrintSettings> print_;  // the print window's, from its first opening on
     HintWindow* hints_ = nullptr;
     int hintShows_ = 0;       // the hint window's showings the game asked for and got
     bool exiting_ = false;    // Exit has asked already: the close goes through

@@ -120,12 +120,6 @@ TEST_F(PrintJobTest, ReadsEachPuzzleWithItsMarksAndStopsAtTheFirstMissingRecord)
     EXPECT_EQ(r.puzzles[0].Solution, p.solution);
     const Board b = BoardFromPuzzle(p.puzzle);
     EXPECT_EQ(r.puzzles[0].Marks, b.Candidates);
-
-    s.PrintPencils = false;
-    s.PrintPages = 1;
-    Recorder plain;
-    EXPECT_EQ(RunPrintJob(s, {}, folder, plain), PrintResult::Done);
-    EXPECT_EQ(plain.puzzles[0].Marks, (std::array<CandidateMask, 81>{}));
 }
 
 TEST_F(PrintJobTest, TheOnScreenPuzzleInItsCurrentStateKeepsItsDigitsAndMarks) {
@@ -146,6 +140,10 @@ TEST_F(PrintJobTest, TheOnScreenPuzzleInItsCurrentStateKeepsItsDigitsAndMarks) {
     EXPECT_EQ(r.puzzles[0].Grid, snap.Grid);
     EXPECT_EQ(r.puzzles[0].Marks, snap.Marks);
     EXPECT_EQ(r.puzzles[0].Number, 9);
+    s.PrintPencils = false;
+    Recorder bare;
+    RunPrintJob(s, snap, folder, bare);
+    EXPECT_EQ(bare.puzzles[0].Marks, (std::array<CandidateMask, 81>{}));
     // Without the current state: the clues and the marks they leave.
     s.PrintCurrentState = false;
     Recorder clues;
