@@ -17,6 +17,7 @@
 #include <cmath>
 
 #include "ui/board_area.h"
+#include "ui/colors_window.h"
 #include "ui/hint_window.h"
 #include "ui/options_dialog.h"
 #include "ui/painted_pictures.h"
@@ -268,7 +269,12 @@ HintWindow* MainWindow::Hints() {
 void MainWindow::ShowOptions() {
     if (game_.Busy()) return;
     const Options before = options_;
-    if (RunOptionsDialog(this, options_, game_.SoundAvailable())) game_.CommandOptions(before);
+    const auto customizeColors = [this](QWidget* parent) {
+        ColorsWindow colors(options_.colors, store_, parent);
+        if (colors.exec() == QDialog::Accepted) Refresh();
+    };
+    if (RunOptionsDialog(this, options_, game_.SoundAvailable(), customizeColors))
+        game_.CommandOptions(before);
     Refresh();
 }
 

@@ -45,6 +45,9 @@ class MainWindow : public QMainWindow {
     void Breathe();
 
     BoardArea* Area() const { return area_; }
+    // Where the colours window writes the colours it is given; without one they
+    // count for this run only.
+    void SetStore(SettingsStore* store) { store_ = store; }
 
   protected:
     bool eventFilter(QObject* watched, QEvent* e) override;
@@ -98,6 +101,7 @@ class MainWindow : public QMainWindow {
 
     Game& game_;
     Options& options_;
+    SettingsStore* store_ = nullptr;
     LibraryFolders folders_;
     QCursor brushCursor_;
     BoardArea* area_ = nullptr;

@@ -5,6 +5,7 @@
 #include <QPrinter>
 #include <QRadioButton>
 
+#include "ui/colors_window.h"
 #include "ui/print_window.h"
 #include "window_fixture.h"
 
@@ -56,6 +57,20 @@ TEST_F(DialogShots, PrintWindow) {
     printer.setOutputFormat(QPrinter::PdfFormat);
     printer.setOutputFileName(QDir(dir).filePath("print-job.pdf"));
     print.PrintTo(printer);
+}
+
+TEST_F(DialogShots, ColorsWindow) {
+    ColorSettings colors;
+    MemorySettingsStore memory;
+    ColorsWindow window(colors, &memory);
+    window.resize(1000, 420);
+    window.show();
+    Shot(window, QStringLiteral("colors"));
+    QTest::mouseClick(window.findChild<ClickLabel*>("HintColor_4"), Qt::LeftButton);
+    window.PickSwatch(13);
+    QTest::mouseClick(window.findChild<ClickLabel*>("LabelColor_7"), Qt::LeftButton);
+    window.PickSwatch(20);
+    Shot(window, QStringLiteral("colors-picked"));
 }
 
 }  // namespace
