@@ -61,6 +61,11 @@ class PagePainter : public PrintSink {
         p_.setPen(Qt::black);
         p_.drawText(ToQRect(place.caption), Qt::AlignLeft | Qt::AlignVCenter,
                     QStringLiteral("# %1").arg(puzzle.Number));
+        if (settings_.PrintTeaching) {
+            p_.setFont(Font("Arial", 8));
+            p_.drawText(ToQRect(place.teaching), Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap,
+                        QString::fromStdString(TeachingText(puzzle.Techniques)));
+        }
         // PrintSolution: the solution in small form.
         const bool known = std::any_of(puzzle.Solution.begin(), puzzle.Solution.end(),
                                        [](auto d) { return d != 0; });

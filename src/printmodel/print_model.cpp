@@ -5,6 +5,8 @@
 #include "grid/candidates.h"
 #include "grid/levels.h"
 #include "library/library_files.h"
+#include "solver/ladder.h"
+#include "solver/solve_context.h"
 
 namespace tavi {
 
@@ -64,6 +66,7 @@ std::vector<PuzzlePlace> PuzzlePlaces(const PageGeometry& g, int perPage) {
         p.board = {x, y, side, side};
         p.caption = {x, y + side + mm(1), side / 2, mm(8)};
         p.solution = {x + side - solutionSide, y + side + mm(4), solutionSide, solutionSide};
+        p.teaching = {x, p.caption.bottom(), side - solutionSide - mm(4), solutionSide - mm(5)};
         places.push_back(p);
     };
     if (perPage == 1) {
@@ -77,6 +80,7 @@ std::vector<PuzzlePlace> PuzzlePlaces(const PageGeometry& g, int perPage) {
             p.caption = {g.area.x, y + 10 * cm + mm(1), 5 * cm, mm(8)};
             const int s = mm(45);
             p.solution = {g.area.right() - s, y + 10 * cm - s, s, s};
+            p.teaching = {p.solution.x, y, s, p.solution.y - y - mm(4)};
             places.push_back(p);
         }
     } else {
@@ -104,9 +108,12 @@ std::vector<PrintSlot> PlanJob(const PrintSettings& settings, const PrintSnapsho
     return slots;
 }
 
-std::optional<PrintPuzzle> PuzzleFor(const PrintSlot& slot, const PrintSettings& settings,
-                                     const PrintSnapshot& snapshot,
-                                     const std::filesystem::path& dataFolder) {
+namespace {
+
+std::optional<PrintPuzzle> PuzzleWithoutTechniques(const PrintSlot& slot,
+                                                   const PrintSettings& settings,
+                                                   const PrintSnapshot& snapshot,
+                                                   const std::filesystem::path& dataFolder) {
     PrintPuzzle out;
     out.Number = slot.number;
     Board board;
@@ -132,6 +139,44 @@ std::optional<PrintPuzzle> PuzzleFor(const PrintSlot& slot, const PrintSettings&
     out.Grid = board.CurrentGrid;
     out.Marks = board.Candidates;
     return out;
+}
+
+}  // namespace
+
+std::optional<PrintPuzzle> PuzzleFor(const PrintSlot& slot, const PrintSettings& settings,
+                                     const PrintSnapshot& snapshot,
+                                     const std::filesystem::path& dataFolder) {
+    auto out = PuzzleWithoutTechniques(slot, settings, snapshot, dataFolder);
+    if (out && settings.PrintTeaching) out->Techniques = TechniquesNeeded(out->Puzzle);
+    return out;
+}
+
+std::vector<TechniqueCount> TechniquesNeeded(const Digits& puzzle) {
+    SolveContext ctx(Side::Workbench);
+    ctx.board = BoardFromPuzzle(puzzle);
+    std::vector<TechniqueCount> counts;
+    WorkbenchRun run;
+    run.observer.hit = [&](const Rung& rung) {
+        const std::string name(rung.Name());
+        auto it = std::find_if(counts.begin(), counts.end(),
+                               [&](const TechniqueCount& t) { return t.name == name; });
+        if (it == counts.end())
+            counts.push_back({name, 1});
+        else
+            ++it->count;
+    };
+    if (GivensClash(puzzle) || !SolveSudoku(ctx, run)) return {};
+    return counts;
+}
+
+std::string TeachingText(const std::vector<TechniqueCount>& techniques) {
+    if (techniques.empty()) return "Techniques: logic alone does not solve this puzzle";
+    std::string text = "Techniques: ";
+    for (std::size_t i = 0; i < techniques.size(); ++i) {
+        if (i) text += ", ";
+        text += techniques[i].name + " x " + std::to_string(techniques[i].count);
+    }
+    return text;
 }
 
 PrintResult RunPrintJob(const PrintSettings& settings, const PrintSnapshot& snapshot,

@@ -36,7 +36,8 @@ struct PrintSettings {
     bool PrintPencils = true;          // ... with its marks (else the digits alone)
     bool PrintSolutions = true;
     int PrintFrom = 1;
-    int PrintLevelIndex = 0;  // level - 1; the list ends with "Outlaw!"
+    int PrintLevelIndex = 0;     // level - 1; the list ends with "Outlaw!"
+    bool PrintTeaching = false;  // under each puzzle, the techniques its solution needs
 };
 
 int PuzzlesPerPage(int perPageIndex);
@@ -80,6 +81,7 @@ struct PuzzlePlace {
     Rect board;
     Rect caption;
     Rect solution;
+    Rect teaching;  // the techniques of a teaching print
 };
 // The places of the n puzzles of a page (n = 1, 2 or 4): one the width of the
 // print area, two of 10 cm above each other, four of 7 cm in a 2 x 2 array. The
@@ -99,6 +101,19 @@ struct PrintSlot {
 // when it is asked for and there is one.
 std::vector<PrintSlot> PlanJob(const PrintSettings& settings, const PrintSnapshot& snapshot);
 
+// A technique by name and how often the solution uses it.
+struct TechniqueCount {
+    std::string name;
+    int count = 0;
+    bool operator==(const TechniqueCount&) const = default;
+};
+// The techniques the logical solution of `puzzle` takes, in the order of their
+// first use, with the number of times each succeeds. Empty when logic alone
+// can't solve it.
+std::vector<TechniqueCount> TechniquesNeeded(const Digits& puzzle);
+// "Naked Single x 30, Hidden Single x 12, ..." or a word that logic alone fails.
+std::string TeachingText(const std::vector<TechniqueCount>& techniques);
+
 // A puzzle as it will be printed.
 struct PrintPuzzle {
     Digits Grid{};                          // the digits to print
@@ -106,6 +121,7 @@ struct PrintPuzzle {
     Digits Solution{};                      // all zero when unknown
     std::array<CandidateMask, 81> Marks{};  // the pencil marks to print
     int Number = 0;
+    std::vector<TechniqueCount> Techniques;  // for a teaching print
 };
 
 // What goes on the paper for one slot. The on-screen puzzle in its current

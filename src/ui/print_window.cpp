@@ -172,6 +172,9 @@ QWidget* PrintWindow::MakeInclude() {
     currentState_ = check("CheckCurrentState", "current state", &PrintSettings::PrintCurrentState);
     pencils_ = check("CheckPencils", "Pencilmarks", &PrintSettings::PrintPencils);
     solutions_ = check("CheckSolution", "Solutions", &PrintSettings::PrintSolutions);
+    teaching_ = check("CheckTeaching", "Techniques used", &PrintSettings::PrintTeaching);
+    teaching_->setToolTip(
+        QStringLiteral("Under each puzzle, the techniques its solution needs and how often"));
     column->addWidget(current_);
     auto* indented = new QVBoxLayout;
     indented->setContentsMargins(22, 0, 0, 0);
@@ -179,6 +182,7 @@ QWidget* PrintWindow::MakeInclude() {
     indented->addWidget(pencils_);
     column->addLayout(indented);
     column->addWidget(solutions_);
+    column->addWidget(teaching_);
     current_->setEnabled(snapshot_.Number != 0);
     if (snapshot_.Number == 0) current_->setToolTip(QStringLiteral("No game in progress"));
     return box;
@@ -235,6 +239,7 @@ void PrintWindow::Show() {
     currentState_->setChecked(settings_.PrintCurrentState);
     pencils_->setChecked(settings_.PrintPencils);
     solutions_->setChecked(settings_.PrintSolutions);
+    teaching_->setChecked(settings_.PrintTeaching);
     currentState_->setEnabled(settings_.PrintCurrent);
     pencils_->setEnabled(settings_.PrintCurrent);
     pages_->setValue(settings_.PrintPages);

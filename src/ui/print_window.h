@@ -65,6 +65,7 @@ class PrintWindow : public QDialog {
     QCheckBox* currentState_ = nullptr;
     QCheckBox* pencils_ = nullptr;
     QCheckBox* solutions_ = nullptr;
+    QCheckBox* teaching_ = nullptr;
     QSlider* pages_ = nullptr;
     std::array<QRadioButton*, 3> perPage_{};
     QWidget* preview_ = nullptr;

@@ -4,6 +4,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <bit>
+
 #include "grid/candidates.h"
 #include "grid/levels.h"
 #include "library/library_files.h"
@@ -150,6 +153,32 @@ TEST_F(PrintJobTest, TheOnScreenPuzzleInItsCurrentStateKeepsItsDigitsAndMarks) {
     RunPrintJob(s, snap, folder, clues);
     EXPECT_EQ(clues.puzzles[0].Grid, p.puzzle);
     EXPECT_EQ(clues.puzzles[0].Marks, BoardFromPuzzle(p.puzzle).Candidates);
+}
+
+TEST(TeachingPrint, TheTechniquesOfTheSolutionInOrderOfFirstUseWithTheirCounts) {
+    const auto& p = testing::GeneratedPuzzles(3, 5)[0];
+    const auto used = TechniquesNeeded(p.puzzle);
+    ASSERT_FALSE(used.empty());
+    int steps = 0;
+    for (const auto& t : used) {
+        EXPECT_GT(t.count, 0) << t.name;
+        steps += t.count;
+        EXPECT_EQ(std::count_if(used.begin(), used.end(),
+                                [&](const TechniqueCount& o) { return o.name == t.name; }),
+                  1);
+    }
+    // Every step places a digit or removes a candidate: never more steps than
+    // the empty cells and the candidates of the start together.
+    const Board start = BoardFromPuzzle(p.puzzle);
+    int marks = 0;
+    for (int c = 0; c < 81; ++c)
+        marks += std::popcount(unsigned(start.Candidates[c]));
+    EXPECT_LE(steps, start.EmptyCount() + marks);
+    EXPECT_EQ(TeachingText({{"Naked Single", 3}, {"Hidden Single", 1}}),
+              "Techniques: Naked Single x 3, Hidden Single x 1");
+    Digits clash = p.puzzle;
+    clash[0] = clash[1] = 5;
+    EXPECT_TRUE(TechniquesNeeded(clash).empty());
 }
 
 }  // namespace

@@ -51,6 +51,7 @@ TEST_F(DialogShots, PrintWindow) {
     settings.PrintPuzzlesPerPageIndex = 2;
     settings.PrintPages = 1;
     settings.PrintFrom = 1;
+    settings.PrintTeaching = true;
     print.SetTeller(
         [](const QString& title, const QString&) { ADD_FAILURE() << title.toStdString(); });
     QPrinter printer(QPrinter::HighResolution);
