@@ -41,4 +41,10 @@ int ImportLibrary(std::istream& in, int level, const std::filesystem::path& dir,
 int GenerateCommand(const std::vector<std::string>& args, std::ostream& out, std::ostream& err);
 int LibraryCommand(const std::vector<std::string>& args, std::ostream& out, std::ostream& err);
 
+// library check DIR [--level L]: the workbench's Check All over each library of
+// the folder (or of level L only): puzzles are rerated and moved, each library's
+// report is written, then how many puzzles needed each technique as their hardest.
+int LibraryCheckCommand(const std::filesystem::path& folder, int onlyLevel, std::ostream& out,
+                        std::ostream& err);
+
 }  // namespace tavi::cli

@@ -7,6 +7,7 @@
 
 #include "cli/commands.h"
 #include "cli/library_commands.h"
+#include "grid/levels.h"
 
 namespace {
 
@@ -37,6 +38,10 @@ constexpr const char* kUsage =
     "  library build --out DIR --per-level N [--seed S] [--minutes M]\n"
     "        generate and rate puzzles, and write the nine .sds files of a library\n"
     "        with up to N puzzles per level; stops after M minutes (default 10)\n"
+    "  library check DIR [--level L]\n"
+    "        rerate every library of DIR (or of level L) as the workbench's Check All\n"
+    "        does, moving each puzzle to the library of its level; then the count of\n"
+    "        puzzles per hardest technique\n"
     "  library export FILE.sds\n"
     "        one line per record: puzzle, solution and best time\n"
     "  library import TEXTFILE --level L --dir DIR\n"
@@ -61,6 +66,13 @@ int main(int argc, char** argv) {
     }
 
     if (command == "generate") return tavi::cli::GenerateCommand(args, std::cout, std::cerr);
+    if (command == "library" && args.size() >= 3 && args[1] == "check") {
+        int level = 0;
+        if (args.size() == 5 && args[3] == "--level") level = std::atoi(args[4].c_str());
+        if ((args.size() != 3 && args.size() != 5) || (args.size() == 5 && !tavi::IsLevel(level)))
+            return Usage("library check DIR [--level L] with L from 1 to 9");
+        return tavi::cli::LibraryCheckCommand(args[2], level, std::cout, std::cerr);
+    }
     if (command == "library") return tavi::cli::LibraryCommand(args, std::cout, std::cerr);
 
     int technique = 0;

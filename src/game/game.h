@@ -276,6 +276,9 @@ class Game : private MoveListener {
     bool ReportStillMarked(bool penalty);
     void ReportCell(int cell, const std::string& text, int penalty);
     void ShowTechniqueHint();
+    // A Sue-de-Coq found for a hint is shown at once, and the player is asked
+    // whether they can spot it; true for OK.
+    bool SueDeCoqSpotted();
     void SpecialHint();
     // One Autosolve over the board; true when it stopped at a halt.
     bool AutoSolveBoard();

@@ -119,6 +119,13 @@ void Game::ShowTechniqueHint() {
     if (options_.HintWindow) ++hintWindowShows_;
 }
 
+bool Game::SueDeCoqSpotted() {
+    ShowTechniqueHint();
+    return services_.prompter.Ask("Sue-De-Coq",
+                                  "If you can spot a Sue-De-Coq, press 'OK' else press 'Cancel'",
+                                  Buttons::OkCancel) == Answer::Ok;
+}
+
 void Game::SpecialHint() {
     busy_ = true;
     const auto hit = FindSpecialHint(ctx_.board.CurrentGrid, [&](std::string_view text) {

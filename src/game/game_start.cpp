@@ -18,6 +18,7 @@ constexpr std::string_view kSaveQuestion = "Do you want to save the current sudo
 Game::Game(GameServices services, LibraryFolders folders, Options& options)
     : services_(services), folders_(std::move(folders)), options_(options) {
     ctx_.listener = this;
+    ctx_.confirmPattern = [this](const HintRecord&) { return SueDeCoqSpotted(); };
     filterOn_.fill(true);
 }
 

@@ -1,34 +1,13 @@
 // What the game needs of the platform, as small interfaces the shell implements
-// and tests script: questions and message boxes, sounds, the time of day, and
-// opening a page in the user's browser.
+// and tests script: sounds, the time of day, and opening a page in the user's
+// browser. Questions and message boxes are the Prompter of grid/notifier.h.
 #pragma once
 
-#include <optional>
 #include <string>
-#include <string_view>
 
 #include "grid/notifier.h"
 
 namespace tavi {
-
-enum class Buttons { Ok, OkCancel, YesNo, YesNoCancel, AbortRetryIgnore };
-enum class Answer { Ok, Cancel, Yes, No, Abort, Retry, Ignore };
-enum class Icon { None, Information, Exclamation, Question, Critical };
-
-// Message boxes and the input box. A message box with only OK is Notifier's
-// Message, so the core's routines can speak through the same object.
-class Prompter : public Notifier {
-  public:
-    virtual Answer Ask(std::string_view title, std::string_view text, Buttons buttons,
-                       Icon icon = Icon::None) = 0;
-    // Nothing when the user cancels.
-    virtual std::optional<std::string> Input(std::string_view title, std::string_view prompt,
-                                             std::string_view defaultText) = 0;
-
-    void Message(std::string_view title, std::string_view text) override {
-        Ask(title, text, Buttons::Ok, Icon::None);
-    }
-};
 
 // The ten sounds of the game, by id; see Speel.
 class SoundPlayer {

@@ -44,8 +44,6 @@ constexpr std::array<std::array<std::int16_t, 9>, 9> Fill9x9(F f) {
 // The row letters skip I on purpose, so that it can't be mistaken for a 1.
 inline constexpr auto RowLetter = detail::Fill<9>([](int r) { return 'A' + r + (r == 8 ? 1 : 0); });
 
-inline constexpr auto RowOfCell = detail::Fill<81>([](int c) { return c / 9; });
-inline constexpr auto ColumnOfCell = detail::Fill<81>([](int c) { return c % 9; });
 inline constexpr auto BoxOfCell =
     detail::Fill<81>([](int c) { return 3 * (c / 27) + (c % 9) / 3; });
 inline constexpr auto BoxLeftTopOfCell =
@@ -53,24 +51,10 @@ inline constexpr auto BoxLeftTopOfCell =
 inline constexpr auto PositionInBoxOfCell =
     detail::Fill<81>([](int c) { return 3 * ((c / 9) % 3) + (c % 3); });
 
-inline constexpr auto CellOfRowColumn = detail::Fill9x9([](int r, int c) { return 9 * r + c; });
-inline constexpr auto BoxOfRowColumn =
-    detail::Fill9x9([](int r, int c) { return 3 * (r / 3) + c / 3; });
-inline constexpr auto BoxLeftTopOfRowColumn =
-    detail::Fill9x9([](int r, int c) { return 27 * (r / 3) + 3 * (c / 3); });
-
 inline constexpr auto BoxLeftTop =
     detail::Fill<9>([](int b) { return 27 * (b / 3) + 3 * (b % 3); });
 inline constexpr auto BoxFirstRow = detail::Fill<9>([](int b) { return 3 * (b / 3); });
 inline constexpr auto BoxFirstColumn = detail::Fill<9>([](int b) { return 3 * (b % 3); });
-
-// Indexed by a top left cell; entries that are no top left cell stay 0.
-inline constexpr auto BoxOfLeftTop = detail::Fill<61>(
-    [](int lt) { return (lt % 3 == 0 && (lt / 9) % 3 == 0) ? 3 * (lt / 27) + (lt % 9) / 3 : 0; });
-inline constexpr auto FirstRowOfLeftTop =
-    detail::Fill<61>([](int lt) { return (lt % 3 == 0 && (lt / 9) % 3 == 0) ? lt / 9 : 0; });
-inline constexpr auto FirstColumnOfLeftTop =
-    detail::Fill<61>([](int lt) { return (lt % 3 == 0 && (lt / 9) % 3 == 0) ? lt % 9 : 0; });
 
 inline constexpr auto CandidateCount = detail::Fill<512>([](int mask) {
     int n = 0;
@@ -82,7 +66,6 @@ inline constexpr auto CandidateCount = detail::Fill<512>([](int mask) {
 // (box, position) -> cell, both in reading order.
 inline constexpr auto CellOfBoxPosition =
     detail::Fill9x9([](int b, int p) { return 27 * (b / 3) + 3 * (b % 3) + 9 * (p / 3) + p % 3; });
-inline constexpr auto BoxOfCellByBand = BoxOfCell;
 
 }  // namespace Global
 

@@ -198,16 +198,13 @@ MultiFishPattern MultiFishOf(const HintRecord& hint, const Board& board) {
         if (rowFree[c / 9] && columnFree[c % 9] && board.CurrentGrid[c] == 0)
             p.linkCells.push_back(c);
 
-    for (int d : p.digits) {
-        std::vector<int> cells;
-        for (int c = 0; c < 81; ++c)
-            if (!rowFree[c / 9] && !columnFree[c % 9] && board.Has(d, c)) cells.push_back(c);
-        AddRemoval(p.outside, d, cells);
-    }
-    for (int d = 1; d <= 9; ++d) {
-        if (HasDigit(set, d)) continue;
-        AddRemoval(p.inLinkCells, d, HoldersOf(board, d, p.linkCells));
-    }
+    // The removals are the hit's own conclusions, by digit ascending.
+    for (int d = 1; d <= 9; ++d)
+        for (const Conclusion& c : hint.Conclusions) {
+            if (c.placed || c.digit != d) continue;
+            const bool linkCell = rowFree[c.cell / 9] && columnFree[c.cell % 9];
+            AddRemoval(linkCell ? p.inLinkCells : p.outside, d, {int(c.cell)});
+        }
     return p;
 }
 

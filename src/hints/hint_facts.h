@@ -20,9 +20,9 @@
 //    candidate coded as cell + 81 x (digit - 1). HintCells[1..HintCellCount] are
 //    the coloured candidates in the same code, HintValues[k] the colour of entry
 //    k by its sign.
-//  - Kind 37: only the digits (HintValues[1..HintValueCount]) are read; the truth
-//    rows, the link columns, the link cells and the removals follow from them and
-//    the board.
+//  - Kind 37: the digits (HintValues[1..HintValueCount]) are read; the truth
+//    rows, the link columns and the link cells follow from them and the board,
+//    the removals are the hit's conclusions.
 #pragma once
 
 #include <span>
@@ -95,8 +95,8 @@ struct MultiFishPattern {
     std::vector<int> truthRows;    // rows where none of the digits stands
     std::vector<int> linkColumns;  // columns where some stand and some are still missing
     std::vector<int> linkCells;    // empty cells where a truth row crosses a free column
-    // The digits from cells off the truth rows in the link columns, by digit; then
-    // the other digits from the link cells, by digit.
+    // The conclusions off the truth rows in the link columns, by digit; then those
+    // in the link cells, by digit.
     std::vector<DigitRemoval> outside, inLinkCells;
 };
 MultiFishPattern MultiFishOf(const HintRecord& hint, const Board& board);

@@ -153,8 +153,7 @@ void TwoStringKite(HintPainter& p, const HintRecord& h) {
         p.ZetHintVak(c, kAttackingCell);
         p.ZetHintNummer(c, h.HintNumber, kAttackingCandidates);
     }
-    const int ends[] = {h.HintCells[3], h.HintCells[4]};
-    AttackSeenByAll(p, ends, h.HintNumber);
+    AttackRemovals(p, h);  // every cell seen by both free ends
 }
 
 void Skyscraper(HintPainter& p, const HintRecord& h) {
@@ -177,8 +176,7 @@ void Skyscraper(HintPainter& p, const HintRecord& h) {
         p.ZetHintVak(h.HintCells[i], kChainCell);
         p.ZetHintNummer(h.HintCells[i], h.HintNumber, kChainCandidates);
     }
-    const int ends[] = {h.HintCells[3], h.HintCells[4]};
-    AttackSeenByAll(p, ends, h.HintNumber);
+    AttackRemovals(p, h);  // every cell seen by both free ends
 }
 
 }  // namespace

@@ -9,18 +9,16 @@ namespace tavi::hints {
 namespace {
 
 bool ValidCell(int cell) { return cell >= 0 && cell < 81; }
-bool Contains(const std::vector<int>& cells, int c) {
-    return std::find(cells.begin(), cells.end(), c) != cells.end();
-}
 
 // Kinds 10, 11 and 14: the cells that see every holder of the digit among the
-// pattern lose it; the first cell is the stem (or hinge), the others branches.
+// pattern lose it (the hit's removals); the first cell is the stem (or hinge),
+// the others branches.
 void Wing(HintPainter& p, const HintRecord& h, int size, bool stemHoldsDigit) {
     const auto cells = ListPart(h.HintCells, 1, size);
     if (!std::all_of(cells.begin(), cells.end(), ValidCell)) return;
     const int n = h.HintNumber;
     const std::vector<int> holders(cells.begin() + (stemHoldsDigit ? 0 : 1), cells.end());
-    AttackSeenByAll(p, holders, n);
+    AttackRemovals(p, h);
     p.ZetHintVak(cells[0], kBaseCell);
     for (size_t i = 1; i < cells.size(); ++i)
         p.ZetHintVak(cells[i], kAttackingCell);
@@ -77,22 +75,21 @@ void Exclusion(HintPainter& p, const HintRecord& h, int size) {
             if (p.Holds(d, c)) p.ZetHintNummer(c, d, kAttackingCandidates);
 }
 
+// What the hit takes away, as it noted it.
+void AttackRemovals(HintPainter& p, const HintRecord& h) {
+    for (const Conclusion& c : h.Conclusions)
+        if (!c.placed) p.ZetAttackedCell(c.cell, c.digit);
+}
+
 void SueDeCoq(HintPainter& p, const HintRecord& h) {
     const bool row = h.HintRow != -1;
     const int line = row ? h.HintRow : h.HintColumn;
     if (line < 0 || line > 8 || h.HintVariant < 0 || h.HintVariant > 8) return;
     const auto& lineCells = UnitCells[row ? line : 9 + line];
-    const auto& boxCells = UnitCells[18 + h.HintVariant];
     const auto lineGroup = ListPart(h.HintCells, 1, h.HintCellCount);
     const auto boxGroup = ListPart(h.HintValues, 1, h.HintValueCount);
     const Board& b = p.board();
     auto inBox = [&](int c) { return Global::BoxOfCell[c] == h.HintVariant; };
-    auto maskOf = [&](const std::vector<int>& cells) {
-        CandidateMask m = 0;
-        for (int c : cells)
-            if (ValidCell(c)) m |= b.Candidates[c];
-        return m;
-    };
     std::vector<int> intersection;
     for (int c : lineCells)
         if (inBox(c) && b.Candidates[c] != 0) intersection.push_back(c);
@@ -111,23 +108,11 @@ void SueDeCoq(HintPainter& p, const HintRecord& h) {
             p.ZetHintVak(c, kChainCell);
             PaintCandidates(p, c, kChainCandidates);
         }
-    // The line group's digits leave the rest of the line, the box group's the rest
-    // of the box, and the intersection's own digits both.
-    const CandidateMask lineDigits = maskOf(lineGroup), boxDigits = maskOf(boxGroup);
-    const CandidateMask own = maskOf(intersection) & CandidateMask(~(lineDigits | boxDigits));
-    auto attack = [&](const auto& unit, const std::vector<int>& group, CandidateMask digits) {
-        for (int c : unit) {
-            if (Contains(intersection, c) || Contains(group, c)) continue;
-            for (int d = 1; d <= 9; ++d)
-                if (HasDigit(digits, d)) p.ZetAttackedCell(c, d);
-        }
-    };
-    attack(lineCells, lineGroup, lineDigits | own);
-    attack(boxCells, boxGroup, boxDigits | own);
+    AttackRemovals(p, h);
 }
 
 // Kinds 29 and 30: the corners with the roles of cell and candidate swapped, as
-// the chains paint their loops, then what the type removes.
+// the chains paint their loops, then what the hit removes.
 void Rectangle(HintPainter& p, const HintRecord& h) {
     const auto corners = ListPart(h.HintCells, 1, 4);
     if (!std::all_of(corners.begin(), corners.end(), ValidCell)) return;
@@ -136,43 +121,7 @@ void Rectangle(HintPainter& p, const HintRecord& h) {
         for (int d : {h.HintValues[1], h.HintValues[2]})
             if (p.Holds(d, c)) p.ZetHintNummer(c, d, kAttackingCell);
     }
-    const int n = h.HintNumber;
-    const int roof[] = {corners[2], corners[3]};
-    if (h.HintKind == 30) {
-        if (h.HintValueCount == 2)
-            p.ZetAttackedCell(corners[3], n);
-        else
-            AttackSeenByAll(p, roof, n);
-        return;
-    }
-    switch (h.HintVariant) {
-        case 1:
-            p.ZetAttackedCell(corners[3], h.HintValues[1]);
-            p.ZetAttackedCell(corners[3], h.HintValues[2]);
-            break;
-        case 2: AttackSeenByAll(p, roof, n); break;
-        case 3: {
-            // The extra digits leave the house of the naked pair that the roof
-            // makes with the extra cell.
-            const auto pair = ListPart(h.HintCells, 3, h.HintCellCount);
-            const HouseKind house = RectangleType3House(h);
-            const int extra = h.HintCells[5];
-            if (!ValidCell(extra)) break;
-            const int unit = house == HouseKind::Row      ? extra / 9
-                             : house == HouseKind::Column ? 9 + extra % 9
-                                                          : 18 + Global::BoxOfCell[extra];
-            for (int c : UnitCells[unit])
-                if (!Contains(pair, c))
-                    for (int d : {h.HintValues[3], h.HintValues[4]})
-                        p.ZetAttackedCell(c, d);
-            break;
-        }
-        case 4:
-            p.ZetAttackedCell(corners[2], n);
-            p.ZetAttackedCell(corners[3], n);
-            break;
-        case 5: p.ZetAttackedCell(corners[3], n); break;
-    }
+    AttackRemovals(p, h);
 }
 
 }  // namespace

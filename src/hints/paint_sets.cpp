@@ -69,16 +69,11 @@ void Medusa(HintPainter& p, const HintRecord& h) {
     }
 }
 
-// Kinds 35 and 36: the target cell either loses the digit or keeps only it.
-void ForcingTarget(HintPainter& p, int target, int digit, bool alwaysFalse) {
+// Kinds 35 and 36: the target cell, and the candidates the hit takes from it.
+void ForcingTarget(HintPainter& p, const HintRecord& h, int target) {
     p.ZetHintVak(target, kPatternCell);
-    if (alwaysFalse) {
-        p.ZetAttackedCell(target, digit);
-        return;
-    }
-    if (target < 0 || target > 80) return;
-    for (int d : DigitsOf(p.board(), target))
-        if (d != digit) p.ZetAttackedCell(target, d);
+    for (const Conclusion& c : h.Conclusions)
+        if (!c.placed) p.ZetAttackedCell(c.cell, c.digit);
 }
 
 void ForcingFromUnit(HintPainter& p, const HintRecord& h) {
@@ -86,7 +81,7 @@ void ForcingFromUnit(HintPainter& p, const HintRecord& h) {
         p.ZetHintBlok(Global::BoxLeftTop[h.HintRow], kPatternCell);
     else
         PaintHouse(p, h.HintVariant, h.HintRow, h.HintColumn, -1, kPatternCell);
-    ForcingTarget(p, h.HintCell, h.HintNumber, h.HintValueCount == 0);
+    ForcingTarget(p, h, h.HintCell);
 }
 
 void MultiFish(HintPainter& p, const HintRecord& h) {
@@ -115,7 +110,7 @@ void PaintSet(HintPainter& p, const HintRecord& h) {
         case 35:
             p.ZetHintVak(h.HintCell, kAttackingCell);
             PaintCandidates(p, h.HintCell, kAttackingCandidates);
-            ForcingTarget(p, h.HintCellCount, h.HintNumber, h.HintVariant < 0);
+            ForcingTarget(p, h, h.HintCellCount);
             break;
         case 36: ForcingFromUnit(p, h); break;
         case 37: MultiFish(p, h); break;

@@ -28,6 +28,11 @@ inline void AttackSeenByAll(HintPainter& p, std::span<const int> cells, int digi
     for (int c : SeenByAll(cells))
         p.ZetAttackedCell(c, digit);
 }
+// Every candidate the hit takes away, attacked where it shows.
+inline void AttackRemovals(HintPainter& p, const HintRecord& hint) {
+    for (const Conclusion& c : hint.Conclusions)
+        if (!c.placed) p.ZetAttackedCell(c.cell, c.digit);
+}
 // Each candidate of `cell` in `role`.
 inline void PaintCandidates(HintPainter& p, int cell, HintRole role) {
     for (int d : DigitsOf(p.board(), cell))

@@ -144,14 +144,16 @@ RungOrder OrderedRungs(const TechniqueOrder& order, const std::function<bool(int
     RungOrder rungs;
     for (int i = 0; i < kHeadCount; ++i)
         rungs.Add(&kRungs[i]);
-    for (int p = kFirstOrderedTechnique; p <= kBifurcationTechnique; ++p) {
-        int technique = 0;
-        for (int i = kFirstOrderedTechnique; i <= kBifurcationTechnique; ++i) {
-            const int position = i == kBifurcationTechnique ? i : order[i];
-            if (position == p) technique = i;
-        }
-        if (technique && (!on || on(technique))) rungs.Add(&RungsOf(technique)[0]);
+    // The technique at each position; where two entries share one, the higher
+    // number wins.
+    std::array<int, kTechniqueCount> at{};
+    for (int i = kFirstOrderedTechnique; i <= kBifurcationTechnique; ++i) {
+        const int position = i == kBifurcationTechnique ? i : order[i];
+        if (position >= kFirstOrderedTechnique && position <= kBifurcationTechnique)
+            at[position] = i;
     }
+    for (int p = kFirstOrderedTechnique; p <= kBifurcationTechnique; ++p)
+        if (at[p] && (!on || on(at[p]))) rungs.Add(&RungsOf(at[p])[0]);
     return rungs;
 }
 
@@ -211,24 +213,26 @@ bool SolveSudoku(SolveContext& ctx, const WorkbenchRun& run) {
     int cellsLeft = CountEmpty(b.Puzzle);
     if (GivensClash(b.Puzzle)) return false;
 
-    const RungOrder order = OrderedRungs(run.order ? *run.order : DefaultTechniqueOrder());
+    static const RungOrder kDefaultOrder = OrderedRungs(DefaultTechniqueOrder());
+    const RungOrder order = run.order ? OrderedRungs(*run.order) : kDefaultOrder;
     const bool showing = (run.ImportRunning || run.CheckRunning) && run.observer.progress;
     LadderWalk walk;
     walk.rungs = order.View();
     walk.yieldEachPass = true;
     walk.onlySinglesFinish = true;
-    walk.before = [&](const Rung& rung) {
-        // The base text names the level reached; at level 0 there is none yet.
-        if (showing) {
-            std::string base;
-            if (ctx.SolvingLevel >= 1)
-                base = std::string(run.ImportRunning ? "Solving Imported Sudoku : Rated "
-                                                     : "Solving Sudoku : Rated ") +
-                       std::string(LevelName(ctx.SolvingLevel)) + " or higher";
-            run.observer.progress(base + std::string(rung.label));
-        }
-        if (run.observer.before) run.observer.before(rung);
-    };
+    // The base text names the level reached; at level 0 there is none yet.
+    if (showing || run.observer.before)
+        walk.before = [&](const Rung& rung) {
+            if (showing) {
+                std::string base;
+                if (ctx.SolvingLevel >= 1)
+                    base = std::string(run.ImportRunning ? "Solving Imported Sudoku : Rated "
+                                                         : "Solving Sudoku : Rated ") +
+                           std::string(LevelName(ctx.SolvingLevel)) + " or higher";
+                run.observer.progress(base + std::string(rung.label));
+            }
+            if (run.observer.before) run.observer.before(rung);
+        };
     if (run.observer.hit)
         walk.hit = [&](const Rung& rung) {
             run.observer.hit(rung);

@@ -5,33 +5,11 @@
 
 namespace tavi {
 
-bool XWing(SolveContext&) { return false; }
-bool SwordFish(SolveContext&) { return false; }
-bool MultiXWing(SolveContext&) { return false; }
-bool EmptyRectangle(SolveContext&) { return false; }
-bool XYWing(SolveContext&) { return false; }
-bool TwoStringKite(SolveContext&) { return false; }
-bool Skyscraper(SolveContext&) { return false; }
-bool XYZWing(SolveContext&) { return false; }
 bool SimpleColoring(SolveContext&) { return false; }
-bool JellyFish(SolveContext&) { return false; }
-bool WXYZWing(SolveContext&) { return false; }
 int MultiColor(SolveContext&) { return -1; }
-bool FinnedXWing(SolveContext&) { return false; }
 bool Medusa(SolveContext&) { return false; }
-bool SueDeCoq(SolveContext&) { return false; }
-bool APE(SolveContext&) { return false; }
-bool UniqueRectangle(SolveContext&) { return false; }
-bool AvoidableRectangle(SolveContext&) { return false; }
-bool ExtendedAPE(SolveContext&) { return false; }
-bool BUG(SolveContext&) { return false; }
 int NiceLoops(SolveContext&, int) { return 0; }
 int AIC(SolveContext&, int, int) { return 0; }
 bool XYChain(SolveContext&) { return false; }
-bool ATE(SolveContext&) { return false; }
-bool ALSxz(SolveContext&) { return false; }
-bool MultiFish(SolveContext&) { return false; }
-bool Forcing(SolveContext&) { return false; }
-bool ExtendedATE(SolveContext&) { return false; }
 
 }  // namespace tavi

@@ -79,6 +79,11 @@ struct SolveContext {
 
     std::function<void()> yield;       // lets the window breathe in long loops
     MoveListener* listener = nullptr;  // the game's move log
+    // The game's question when a technique has shown a pattern it leaves to the
+    // player (Sue-de-Coq): true when the player answers they can spot it, and the
+    // rung then counts it as its hit. When there is nobody to ask, the pattern
+    // counts.
+    std::function<bool(const HintRecord&)> confirmPattern;
 
     explicit SolveContext(Side s = Side::Workbench) : side(s) {}
 

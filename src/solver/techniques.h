@@ -39,9 +39,22 @@ bool XYWing(SolveContext& ctx);
 bool TwoStringKite(SolveContext& ctx);
 bool Skyscraper(SolveContext& ctx);
 bool XYZWing(SolveContext& ctx);
+// Takes `digit` from every cell that sees both branches, other than the stem and
+// the branches. `checkType` names the caller (1 XY-Wing, 2 two-string kite, 3
+// skyscraper, ...) and is not read; `stem` may be -1 where there is none.
+bool VerwijderXYWing(SolveContext& ctx, int checkType, int stem, int takVak1, int takVak2,
+                     int digit);
+// Takes `digit` from every cell that sees the stem and both branches.
+bool VerwijderXYZWing(SolveContext& ctx, int stem, int takVak1, int takVak2, int digit);
 bool SimpleColoring(SolveContext& ctx);
 bool JellyFish(SolveContext& ctx);
 bool WXYZWing(SolveContext& ctx);
+// Takes `digit` from every cell that sees the hinge and all three branches.
+bool VerwijderWXYZWing(SolveContext& ctx, int stem, int takVak1, int takVak2, int takVak3,
+                       int digit);
+// Takes `digit` from every cell that sees all three branches (the hinge lacks it).
+bool VerwijderWXYZWing2(SolveContext& ctx, int stem, int takVak1, int takVak2, int takVak3,
+                        int digit);
 // Below 0 nothing found, 0 candidates removed, above 0 that many digits placed.
 int MultiColor(SolveContext& ctx);
 bool FinnedXWing(SolveContext& ctx);

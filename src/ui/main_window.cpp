@@ -1,5 +1,7 @@
 #include "ui/main_window.h"
 
+#include "ui/check_window.h"
+
 #include <QApplication>
 #include <QCloseEvent>
 #include <QFontDatabase>
@@ -286,6 +288,16 @@ void MainWindow::ShowPrint() {
     }
     PrintWindow window(*print_, PrintSnapshotOf(game_), folders_.DataFolder, this);
     window.exec();
+}
+
+void MainWindow::ShowWorkbench() {
+    if (game_.Busy()) return;
+    if (!workbench_)
+        workbench_ =
+            new CheckWindow(folders_.DataFolder, &options_.techniques.Order, nullptr, this);
+    workbench_->show();
+    workbench_->raise();
+    workbench_->activateWindow();
 }
 
 void MainWindow::ShowRevisions() {

@@ -90,6 +90,7 @@ class MainWindow : public QMainWindow {
     void Exit();
     void NotAvailable(const QString& what);
     void ShowRevisions();
+    void ShowWorkbench();
     void ShowOptions();
     void ShowPrint();
     // FormHint, made when first wanted.
@@ -117,6 +118,7 @@ class MainWindow : public QMainWindow {
     QTimer* timer_ = nullptr;
     RevisionWindow* revisions_ = nullptr;
     std::optional<PrintSettings> print_;  // the print window's, from its first opening on
+    class CheckWindow* workbench_ = nullptr;
     HintWindow* hints_ = nullptr;
     int hintShows_ = 0;       // the hint window's showings the game asked for and got
     bool exiting_ = false;    // Exit has asked already: the close goes through

@@ -184,8 +184,7 @@ QWidget* MainWindow::BuildFoot() {
     files->setObjectName(QStringLiteral("Label1"));
     files->setPixmap(WorkbenchEmblem(28, ratio));
     files->setToolTip(QStringLiteral("DoubleClick here for \"file managment window\""));
-    connect(files, &ClickLabel::DoubleClicked, this,
-            [this] { NotAvailable(QStringLiteral("The file managment window")); });
+    connect(files, &ClickLabel::DoubleClicked, this, [this] { ShowWorkbench(); });
 
     row->addWidget(site);
     row->addWidget(version);

@@ -241,6 +241,28 @@ TEST(CliSteps, ReplayOverGeneratedPuzzles) {
     EXPECT_GT(removals, 0u);
 }
 
+// The rung command reads whole boards; a line that is no board is named by its
+// number, and the boards around it are still run.
+TEST(CliRung, RunsOneTechniqueOnWrittenOutBoardsAndNamesBadLines) {
+    Board board = BoardFromPuzzle(FiveHoles());
+    const std::string line = FormatBoardLine(board);
+    std::string clash = line;
+    clash[82] = clash[82] == '1' ? '2' : '1';  // A1: over a given, or beside its candidates
+    const std::string input = line + "\n" + line.substr(0, 170) + "\n" + clash + "\n" + line + "\n";
+    const auto out = RunCommand(
+        [](auto& in, auto& o, auto& e) { return RungCommand(4, in, o, e, true); }, input);
+    EXPECT_EQ(out.status, 1);
+    const auto lines = Split(out.out, '\n');
+    ASSERT_EQ(lines.size(), 2u);
+    EXPECT_EQ(Split(lines[0], '\t')[0], FormatDigits(FiveHoles()));
+    EXPECT_NE(Split(lines[0], '\t')[1], "none");
+    EXPECT_EQ(Split(lines[0], '\t')[2].rfind("NAKED SINGLE: ", 0), 0u) << lines[0];
+    EXPECT_EQ(lines[1], lines[0]);
+    EXPECT_NE(out.err.find("line 2: the candidates need 729 characters"), std::string::npos)
+        << out.err;
+    EXPECT_NE(out.err.find("line 3: "), std::string::npos) << out.err;
+}
+
 // The built program, for its exit status and its two ways of reading.
 TEST(CliProgram, ExitStatusTellsWhetherEveryLineWasAPuzzle) {
     const auto dir =

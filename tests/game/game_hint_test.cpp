@@ -3,6 +3,7 @@
 #include "grid/candidates.h"
 #include "hints/hint_search.h"
 #include "hints/schrijf_hint.h"
+#include "solver/brute_force.h"
 #include "solver/ladder.h"
 #include "support/game_fixture.h"
 
@@ -147,19 +148,21 @@ TEST_F(Hints, WithoutPencilmarksTheHintComesInTwoStages) {
 }
 
 TEST_F(Hints, WhereTheLogicEndsAHintCostsNothing) {
-    // A puzzle the ladder can't finish, as record 1 of the Outlaw file.
-    const GeneratedPuzzle* outlaw = nullptr;
-    for (const auto& p : GeneratedPuzzles(400)) {
+    // A puzzle the ladder can't finish, as record 1 of the Outlaw file. With the
+    // forcing chains on the ladder a generated puzzle is almost never one, so the
+    // givens of one are taken away, first to last, until the logic and a single
+    // guess no longer end it; the solution it keeps is still one of its own.
+    GeneratedPuzzle outlaw = GeneratedPuzzles(1)[0];
+    const auto finishes = [](const Digits& puzzle) {
         SolveContext ctx;
-        ctx.board = BoardFromPuzzle(p.puzzle);
-        if (!SolveSudoku(ctx, {})) {
-            outlaw = &p;
-            break;
-        }
-    }
-    ASSERT_NE(outlaw, nullptr);
+        ctx.board = BoardFromPuzzle(puzzle);
+        return SolveSudoku(ctx, {});
+    };
+    for (int c = 0; c < 81 && finishes(outlaw.puzzle); ++c)
+        outlaw.puzzle[c] = 0;
+    ASSERT_FALSE(finishes(outlaw.puzzle));
     WriteSudokuRecord(PuzzleFile(folders.AppFolder, LevelStem(9)), 1,
-                      SudokuRecord{outlaw->puzzle, outlaw->solution, 0, 0});
+                      SudokuRecord{outlaw.puzzle, outlaw.solution, 0, 0});
     Game& g = Playing(9);
     g.CommandAutoSolve();
     EXPECT_EQ(g.TextHint(),
@@ -179,6 +182,54 @@ TEST_F(Hints, AutosolvePlaysThroughAndCannotBeSaved) {
     EXPECT_GT(g.CurrentStep(), 0);
     // No applause and no best time for an autosolved game.
     EXPECT_FALSE(prompter.Showed("New best time !!!"));
+}
+
+// A Sue-de-Coq is shown as soon as it is found, and the player is asked whether
+// they can spot it: OK makes it the hint; Cancel lets the scan go on.
+TEST_F(Hints, ASueDeCoqIsShownAtOnceAndAskedAbout) {
+    Game& g = Playing(5);
+    auto board = ParseBoardLine(
+        "080060370000800100500302000060000000070240980000071000004020097008000005000000600 "
+        "281060379006897152597312468060000700170240980800071500004120897018030245000000600 "
+        "..............................45................45......................"
+        "...........34.......34.................................................."
+        "........................................................................"
+        "..............................4....9..........23.5...9....5...9....5..8."
+        "..3.5..89.........123......1.34.........................3.5............."
+        "...........3.56.......................3..6.............2.4......23.....9"
+        ".....6..9............................23........34.6.....3..6.....3.5...."
+        "...............................56...................................67.9"
+        ".......................67.9..............6..9..........................."
+        "......7.9.2..5.....2......9...45.7.9....5..8....45..89.........1.3......"
+        "1.3......");
+    ASSERT_TRUE(board);
+    SolveContext solve;
+    solve.board.Puzzle = board->Puzzle;
+    ASSERT_TRUE(BruteForceSolve(solve));
+    board->Solution = solve.board.CurrentGrid;
+    g.context().board = *board;
+    for (int t = kFirstOrderedTechnique; t <= kBifurcationTechnique; ++t)
+        options.techniques.OnOff[t] = t == 22;
+    const std::string question = "If you can spot a Sue-De-Coq, press 'OK' else press 'Cancel'";
+
+    prompter.shown.clear();
+    prompter.answers = {Answer::Ok};
+    g.CommandHint();
+    ASSERT_EQ(prompter.shown.size(), 1u) << g.TextHint();
+    EXPECT_EQ(prompter.shown[0].title, "Sue-De-Coq");
+    EXPECT_EQ(prompter.shown[0].text, question);
+    EXPECT_TRUE(g.TextHint().starts_with("SUE-DE-COQ: ")) << g.TextHint();
+    EXPECT_EQ(g.board().Candidates, board->Candidates);
+    EXPECT_EQ(Clock(), 15);
+
+    prompter.shown.clear();
+    prompter.answers.assign(20, Answer::Cancel);
+    g.CommandHint();
+    EXPECT_GE(prompter.shown.size(), 1u);
+    for (const auto& shown : prompter.shown)
+        EXPECT_EQ(shown.text, question);
+    EXPECT_EQ(g.TextHint(), kNoLogicalHints);
+    EXPECT_EQ(Clock(), 15);
 }
 
 TEST_F(Hints, AutosolveStopsAtAHalt) {

@@ -97,7 +97,7 @@ TEST(PaintHint, AnXYWingAttacksWhatBothBranchesSee) {
     SetCandidates(board, 32, {1, 7});  // branch D6, in the stem's box
     SetCandidates(board, 36, {2, 7});  // branch E1, in the stem's row
     SetCandidates(board, 28, {3});     // D2 sees both branches, but has no 7
-    const PaintedBoard painted(PaintHint(Record(10).number(7).cells({40, 32, 36}), board));
+    const PaintedBoard painted(PaintHint(HintOf(board, XYWing), board));
     EXPECT_EQ(painted.CellsIn(kAttackedCell), Cells({27, 29, 39, 41}));
     EXPECT_EQ(painted.CellsIn(kBaseCell), Cells({40}));
     EXPECT_EQ(painted.CellsIn(kAttackingCell), Cells({32, 36}));
@@ -134,32 +134,15 @@ TEST(PaintHint, LoopsAndRectanglesSwapTheRolesOfCellAndDigit) {
     for (int c : {10, 13, 64})
         SetCandidates(rectangle, c, {1, 9});
     SetCandidates(rectangle, 67, {1, 4, 9});
-    const PaintedBoard type1(
-        PaintHint(Record(29).variant(1).values({1, 9}).cells({10, 13, 64, 67}), rectangle));
+    const PaintedBoard type1(PaintHint(
+        Record(29).variant(1).values({1, 9}).cells({10, 13, 64, 67}).removed(67, 1).removed(67, 9),
+        rectangle));
     for (int c : {10, 13, 64}) {
         EXPECT_EQ(type1.cell[c], kAttackingCandidates);
         EXPECT_EQ(type1.digit[c][1], kAttackingCell);
     }
     EXPECT_EQ(type1.cell[67], kAttackedCell);
     EXPECT_EQ(type1.DigitsIn(kAttackedCandidates), (std::vector<Removal>{{67, 1}, {67, 9}}));
-}
-
-TEST(PaintHint, MultiFishShowsTruthsLinksAndRemovals) {
-    Board board;
-    for (auto [cell, digit] : {std::pair{0, 1}, {10, 2}, {20, 3}, {30, 4}, {36, 2}, {49, 1}})
-        board.CurrentGrid[cell] = std::uint8_t(digit);
-    SetCandidates(board, 9, {3, 9});
-    SetCandidates(board, 59, {1, 5});
-    const PaintedBoard painted(PaintHint(Record(37).variant(1).values({1, 2, 3, 4}), board));
-    // Rows G to J and columns 1 to 5 are attacked, the links in G6..J9 attacking,
-    // and B1 a removal.
-    EXPECT_EQ(painted.cell[9], kBaseCell);
-    EXPECT_EQ(painted.DigitsIn(kAttackedCandidates), (std::vector<Removal>{{9, 3}, {59, 5}}));
-    EXPECT_EQ(painted.cell[59], kAttackingCell);
-    EXPECT_EQ(painted.cell[63], kAttackedCell);
-    EXPECT_EQ(painted.cell[4], kAttackedCell);
-    EXPECT_EQ(painted.cell[5], -1);
-    EXPECT_EQ(painted.CellsIn(kAttackingCell).size(), 12u);
 }
 
 TEST(PaintHint, ToleratesRecordsOfStaleMarks) {

@@ -26,6 +26,8 @@ class Record {
     Record& values(std::initializer_list<int> list) {
         return Fill(h_.HintValues, h_.HintValueCount, list);
     }
+    // A candidate the hit takes away, as the primitives would note it.
+    Record& removed(int cell, int digit) { return h_.Conclusions.Add(cell, digit, false), *this; }
     // The counts alone, for kinds that keep something else in them.
     Record& cellCount(int v) { return h_.HintCellCount = v, *this; }
     Record& valueCount(int v) { return h_.HintValueCount = v, *this; }

@@ -63,15 +63,15 @@ TEST_F(DialogShots, PrintWindow) {
 TEST_F(DialogShots, ColorsWindow) {
     ColorSettings colors;
     MemorySettingsStore memory;
-    ColorsWindow window(colors, &memory);
-    window.resize(1000, 420);
-    window.show();
-    Shot(window, QStringLiteral("colors"));
-    QTest::mouseClick(window.findChild<ClickLabel*>("HintColor_4"), Qt::LeftButton);
-    window.PickSwatch(13);
-    QTest::mouseClick(window.findChild<ClickLabel*>("LabelColor_7"), Qt::LeftButton);
-    window.PickSwatch(20);
-    Shot(window, QStringLiteral("colors-picked"));
+    ColorsWindow dialog(colors, &memory);
+    dialog.resize(1000, 420);
+    dialog.show();
+    Shot(dialog, QStringLiteral("colors"));
+    QTest::mouseClick(dialog.findChild<ClickLabel*>("HintColor_4"), Qt::LeftButton);
+    dialog.PickSwatch(13);
+    QTest::mouseClick(dialog.findChild<ClickLabel*>("LabelColor_7"), Qt::LeftButton);
+    dialog.PickSwatch(20);
+    Shot(dialog, QStringLiteral("colors-picked"));
 }
 
 }  // namespace

@@ -1,0 +1,84 @@
+// The workbench over large libraries: a check of 10,000 Easy to Hard puzzles, and
+// removing the duplicates of 50,000 records.
+#include <benchmark/benchmark.h>
+
+#include <filesystem>
+#include <fstream>
+#include <random>
+
+#include "grid/levels.h"
+#include "library/library_files.h"
+#include "workbench/workbench.h"
+
+namespace tavi {
+namespace {
+
+namespace fs = std::filesystem;
+
+// Opens the first record and says nothing.
+struct Silent : Prompter {
+    void Beep() override {}
+    Answer Ask(std::string_view, std::string_view, Buttons, Icon) override { return Answer::Ok; }
+    std::optional<std::string> Input(std::string_view, std::string_view,
+                                     std::string_view) override {
+        return "1";
+    }
+};
+
+// A Hard library of `count` records drawn in turn from the delivered Easy, Medium
+// and Hard libraries, with its log file.
+fs::path MakeLibrary(long count) {
+    const fs::path folder =
+        fs::temp_directory_path() / ("tavi-bench-wb-" + std::to_string(std::random_device{}()));
+    fs::create_directories(folder);
+    std::vector<SudokuRecord> delivered, records;
+    for (int level = 1; level <= 3; ++level) {
+        std::vector<SudokuRecord> some;
+        ReadSudokuFile(PuzzleFile(TAVI_DATA_DIR, LevelStem(level)), some);
+        delivered.insert(delivered.end(), some.begin(), some.end());
+    }
+    for (long i = 0; i < count && !delivered.empty(); ++i)
+        records.push_back(delivered[size_t(i) % delivered.size()]);
+    WriteSudokuFile(PuzzleFile(folder, LevelStem(3)), records);
+    // Empty log records, one per puzzle.
+    std::ofstream(LogFile(folder, LevelStem(3)), std::ios::binary)
+        .write(std::vector<char>(records.size() * kSudokuLogRecordSize).data(),
+               std::streamsize(records.size() * kSudokuLogRecordSize));
+    return folder;
+}
+
+void BM_CheckAll_10000(benchmark::State& state) {
+    for (auto _ : state) {
+        state.PauseTiming();
+        const fs::path folder = MakeLibrary(10000);
+        Silent silent;
+        Workbench bench(silent, folder);
+        bench.Command1(3);
+        state.ResumeTiming();
+        bench.CommandCheckAll();
+        state.PauseTiming();
+        fs::remove_all(folder);
+        state.ResumeTiming();
+    }
+    state.SetItemsProcessed(state.iterations() * 10000);
+}
+BENCHMARK(BM_CheckAll_10000)->Unit(benchmark::kSecond)->Iterations(1);
+
+void BM_RemoveDuplicates_50000(benchmark::State& state) {
+    for (auto _ : state) {
+        state.PauseTiming();
+        const fs::path folder = MakeLibrary(50000);
+        Silent silent;
+        Workbench bench(silent, folder);
+        bench.Command1(3);
+        state.ResumeTiming();
+        bench.CommandRemoveDuplicates();
+        state.PauseTiming();
+        fs::remove_all(folder);
+        state.ResumeTiming();
+    }
+}
+BENCHMARK(BM_RemoveDuplicates_50000)->Unit(benchmark::kMillisecond)->Iterations(1);
+
+}  // namespace
+}  // namespace tavi

@@ -1,0 +1,109 @@
+#include "workbench/foreign_puzzles.h"
+
+#include <string_view>
+
+namespace tavi {
+
+namespace {
+
+// The digit of a cell character, 0 for an empty cell, -1 for no cell character.
+int CellValue(char ch) {
+    if (ch >= '1' && ch <= '9') return ch - '0';
+    switch (ch) {
+        case '.':
+        case '0':
+        case '_':
+        case '*':
+        case 'x':
+        case 'X': return 0;
+        default: return -1;
+    }
+}
+
+bool IsSeparator(char ch) { return ch == ' ' || ch == '\t' || ch == '|' || ch == '+' || ch == '-'; }
+
+bool ReadCells(std::string_view text, Digits& digits) {
+    for (int i = 0; i < 81; ++i) {
+        const int v = CellValue(text[i]);
+        if (v < 0) return false;
+        digits[i] = std::uint8_t(v);
+    }
+    return true;
+}
+
+// A line of candidates: every character '.' or the digit of its position.
+bool ReadCandidates(std::string_view text, Digits& digits) {
+    for (int c = 0; c < 81; ++c) {
+        int count = 0, last = 0;
+        for (int d = 1; d <= 9; ++d) {
+            const char ch = text[9 * c + d - 1];
+            if (ch == char('0' + d)) {
+                ++count;
+                last = d;
+            } else if (ch != '.') {
+                return false;
+            }
+        }
+        digits[c] = std::uint8_t(count == 1 ? last : 0);
+    }
+    return true;
+}
+
+}  // namespace
+
+ForeignPuzzles ReadForeignPuzzles(std::istream& in) {
+    ForeignPuzzles out;
+    Digits grid{};
+    int rows = 0, gridLine = 0, number = 0;
+    auto unfinishedGrid = [&] {
+        if (rows > 0)
+            out.problems.push_back(
+                {gridLine, "a grid of " + std::to_string(rows) + " rows; a grid needs 9"});
+        rows = 0;
+    };
+    for (std::string text; std::getline(in, text);) {
+        ++number;
+        if (!text.empty() && text.back() == '\r') text.pop_back();
+        const size_t first = text.find_first_not_of(" \t");
+        if (first == std::string::npos || text[first] == '#') {
+            unfinishedGrid();
+            continue;
+        }
+        Digits digits{};
+        if (text.size() >= 729 && ReadCandidates(text, digits)) {
+            unfinishedGrid();
+            out.puzzles.push_back({number, digits});
+            continue;
+        }
+        if (text.size() >= 81 && ReadCells(text, digits)) {
+            unfinishedGrid();
+            out.puzzles.push_back({number, digits});
+            continue;
+        }
+        // A row of a grid, or a line of separators between its bands.
+        std::string cells;
+        bool bad = false;
+        for (char ch : text) {
+            if (IsSeparator(ch)) continue;
+            if (CellValue(ch) < 0) bad = true;
+            cells += ch;
+        }
+        if (cells.empty()) continue;
+        if (bad || cells.size() != 9) {
+            unfinishedGrid();
+            out.problems.push_back({number, "no puzzle and no row of nine cells"});
+            continue;
+        }
+        if (rows == 0) gridLine = number;
+        for (int i = 0; i < 9; ++i)
+            grid[9 * rows + i] = std::uint8_t(CellValue(cells[i]));
+        if (++rows == 9) {
+            out.puzzles.push_back({gridLine, grid});
+            rows = 0;
+        }
+    }
+    unfinishedGrid();
+    return out;
+}
+
+}  // namespace tavi

@@ -1,0 +1,35 @@
+// Puzzles in the files of other programs, as the import reads them. Three layouts
+// are understood, line by line and mixed freely:
+//  - a line whose first 81 characters are the cells ('1'-'9' a clue; '.', '0',
+//    '_', '*' or 'x' an empty cell), anything after them ignored (a rating, a name);
+//  - a line of 729 candidate characters, nine per cell, digit d at position d or
+//    '.': a cell with one candidate is taken as a clue;
+//  - nine lines of nine cells each, with '|', '+', '-' and blanks between them as
+//    separators, and lines of separators alone between the bands.
+// Blank lines and lines starting with '#' are skipped.
+#pragma once
+
+#include <istream>
+#include <string>
+#include <vector>
+
+#include "grid/board.h"
+
+namespace tavi {
+
+struct ForeignPuzzle {
+    int line;  // where it starts, from 1
+    Digits puzzle;
+};
+struct ForeignProblem {
+    int line;
+    std::string why;
+};
+struct ForeignPuzzles {
+    std::vector<ForeignPuzzle> puzzles;
+    std::vector<ForeignProblem> problems;
+};
+
+ForeignPuzzles ReadForeignPuzzles(std::istream& in);
+
+}  // namespace tavi

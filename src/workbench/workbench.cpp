@@ -1,0 +1,485 @@
+#include "workbench/workbench.h"
+
+#include "grid/candidates.h"
+#include "library/library_files.h"
+#include "library/library_pair.h"
+#include "library/pair_rewrite.h"
+#include "solver/brute_force.h"
+#include "solver/ladder.h"
+#include "workbench/duplicates.h"
+#include "workbench/import.h"
+
+#include <fstream>
+
+namespace tavi {
+
+namespace {
+
+constexpr std::string_view kReportTitle = "Sudoku solve report";
+constexpr std::string_view kScanTitle = "Sudoku scan report";
+
+}  // namespace
+
+std::string LevelPlural(int level) { return std::string(LevelName(level)) + " sudokus"; }
+
+Workbench::Workbench(Prompter& prompter, std::filesystem::path dataFolder)
+    : prompter_(prompter), dataFolder_(std::move(dataFolder)) {}
+
+void Workbench::Changed() {
+    if (changed_) changed_();
+}
+
+void Workbench::Breathe() {
+    Changed();
+    if (yield_) yield_();
+}
+
+std::string Workbench::Label1(int cell) const {
+    const int d = record_.Puzzle[cell];
+    return d ? std::string(1, char('0' + d)) : "";
+}
+
+std::string Workbench::Label2(int cell) const {
+    if (showSolverBoard_) return std::string(1, char('0' + ctx_.board.CurrentGrid[cell]));
+    const int d = record_.Solution[cell];
+    return d ? std::string(1, char('0' + d)) : "";
+}
+
+std::optional<long> Workbench::AskNumber(const std::string& title, const std::string& prompt,
+                                         long low, long high, const std::string& defaultText) {
+    const auto answer = prompter_.Input(title, prompt, defaultText);
+    if (!answer) return std::nullopt;
+    const long n = LeadingNumber(*answer);
+    if (n < low || n > high) return std::nullopt;
+    return n;
+}
+
+void Workbench::ReportFileError(const std::string& why) {
+    prompter_.Message(kFileErrorTitle, why.empty() ? std::string(kWriteErrorText) : why);
+}
+
+// --- Opening and stepping ---------------------------------------------------------
+
+void Workbench::Command1(int level) {
+    if (batchRunning_ || !IsLevel(level)) return;
+    const auto stem = LevelStem(level);
+    RecoverPair(dataFolder_, stem);
+    const auto sds = PuzzleFile(dataFolder_, stem);
+    const long count = WholeRecords(sds, kSudokuRecordSize);
+    if (count < 1) {
+        prompter_.Message("Tavi Sudoku",
+                          "No " + std::string(LevelName(level)) + " sudokus found to open");
+        return;
+    }
+    const auto n = AskNumber("Sudoku number",
+                             "Enter a value between 1 and " + std::to_string(count), 1, count, "1");
+    if (!n) return;
+    workLevel_ = level;
+    currentNumber_[level] = *n;
+    recordCount_ = count;
+    commands_.GoTo = commands_.RemoveDuplicates = true;
+    SetNavigation();
+    OpenSudoku();
+    Changed();
+}
+
+bool Workbench::OpenSudoku() {
+    const auto stem = LevelStem(workLevel_);
+    const long n = currentNumber_[workLevel_];
+    // A record that can't be read shows what the fields hold: nothing.
+    record_ = SudokuRecord{};
+    log_ = SudokuLogRecord{};
+    const bool read = ReadSudokuRecord(PuzzleFile(dataFolder_, stem), n, record_);
+    ReadSudokuLogRecord(LogFile(dataFolder_, stem), n, log_);
+    Board& b = ctx_.board;
+    b = Board{};
+    b.Puzzle = record_.Puzzle;
+    b.Solution = record_.Solution;
+    b.CurrentGrid = log_.Grid;
+    showSolverBoard_ = false;
+    commands_.Solve = commands_.CheckAll = commands_.CheckSome = commands_.Delete = true;
+    caption_ = std::string(LevelName(workLevel_)) + " - " + std::to_string(n);
+    return read;
+}
+
+void Workbench::SetNavigation() {
+    const long n = currentNumber_[workLevel_];
+    const bool more = recordCount_ > 1;
+    commands_.First = commands_.Previous = more && n > 1;
+    commands_.Next = commands_.Last = more && n < recordCount_;
+}
+
+void Workbench::DisableAll() {
+    commands_ = WorkbenchCommands{};
+    record_ = SudokuRecord{};
+    log_ = SudokuLogRecord{};
+    ctx_.board = Board{};
+    showSolverBoard_ = false;
+    caption_ = "Sudoku Check";
+}
+
+void Workbench::CommandFirst() {
+    if (batchRunning_ || recordCount_ < 1) return;
+    currentNumber_[workLevel_] = 1;
+    SetNavigation();
+    OpenSudoku();
+    Changed();
+}
+
+void Workbench::CommandPrevious() {
+    if (batchRunning_ || currentNumber_[workLevel_] <= 1) return;
+    --currentNumber_[workLevel_];
+    SetNavigation();
+    OpenSudoku();
+    Changed();
+}
+
+void Workbench::CommandNext() {
+    if (batchRunning_ || currentNumber_[workLevel_] >= recordCount_) return;
+    ++currentNumber_[workLevel_];
+    SetNavigation();
+    OpenSudoku();
+    Changed();
+}
+
+void Workbench::CommandLast() {
+    if (batchRunning_ || recordCount_ < 1) return;
+    currentNumber_[workLevel_] = recordCount_;
+    SetNavigation();
+    OpenSudoku();
+    Changed();
+}
+
+void Workbench::CommandGoTo() {
+    if (batchRunning_ || recordCount_ < 1) return;
+    const auto n =
+        AskNumber("Goto number", "Enter a value between 1 and " + std::to_string(recordCount_), 1,
+                  recordCount_, std::to_string(currentNumber_[workLevel_]));
+    if (!n) return;
+    currentNumber_[workLevel_] = *n;
+    SetNavigation();
+    OpenSudoku();
+    Changed();
+}
+
+// --- Solving ------------------------------------------------------------------------
+
+bool Workbench::SolveOpen(bool batch) {
+    Board& b = ctx_.board;
+    b.Puzzle = record_.Puzzle;
+    SetupCandidates(b);
+    WorkbenchRun run;
+    run.CheckRunning = batch;
+    run.order = order_;
+    run.notifier = &prompter_;
+    const Rung* hardest = nullptr;
+    run.observer.hit = [&](const Rung& rung) {
+        if (!hardest || rung.level > hardest->level ||
+            (rung.level == hardest->level && RungIndex(rung) > RungIndex(*hardest)))
+            hardest = &rung;
+    };
+    if (batch) {
+        run.observer.progress = [this](const std::string& text) {
+            progress_.LabelSolvingLevel = text;
+            progress_.Bar2 = ctx_.SolvingLevel;
+            Changed();
+        };
+    }
+    ModeScope mode(ctx_, ctx_.Mode().With(SolveMode::kBatchRunning, batch));
+    ctx_.yield = yield_;
+    showSolverBoard_ = true;
+    const bool solved = SolveSudoku(ctx_, run);
+    if (solved && hardest) ++hardest_[hardest->number];
+    return solved;
+}
+
+void Workbench::TakeSolution(bool solved) {
+    Board& b = ctx_.board;
+    if (solved) {
+        record_.Solution = b.CurrentGrid;
+    } else {
+        // A puzzle the logic could not finish keeps a real solution: its own when
+        // it has exactly one, else what the record held.
+        SolveContext search;
+        search.board.Puzzle = record_.Puzzle;
+        bool contradiction = false;
+        if (BruteForceSolutions(search, contradiction) == 1)
+            record_.Solution = search.board.CurrentGrid;
+    }
+    b.Solution = record_.Solution;
+    b.CurrentGrid = Digits{};
+    showSolverBoard_ = false;
+}
+
+bool Workbench::MoveTo(int level) {
+    long number = 0;
+    std::string why;
+    if (!AppendToPair(dataFolder_, LevelStem(level), record_, log_, &number, &why)) {
+        ReportFileError(why);
+        return false;
+    }
+    currentNumber_[level] = number;
+    return true;
+}
+
+bool Workbench::WriteInPlace() {
+    std::string why;
+    if (WritePair(dataFolder_, LevelStem(workLevel_), currentNumber_[workLevel_], record_, log_,
+                  &why))
+        return true;
+    ReportFileError(why);
+    return false;
+}
+
+bool Workbench::Compact(const std::vector<bool>& drop) {
+    std::string why;
+    const bool ok = RewritePair(
+        dataFolder_, LevelStem(workLevel_),
+        [&](long n) { return n > long(drop.size()) || !drop[size_t(n - 1)]; }, &why);
+    if (!ok) ReportFileError(why);
+    recordCount_ = WholeRecords(PuzzleFile(dataFolder_, LevelStem(workLevel_)), kSudokuRecordSize);
+    if (recordCount_ < 1) {
+        DisableAll();
+        return ok;
+    }
+    if (currentNumber_[workLevel_] > recordCount_) currentNumber_[workLevel_] = recordCount_;
+    SetNavigation();
+    OpenSudoku();
+    return ok;
+}
+
+void Workbench::CommandSolve(bool right, bool inside) {
+    if (batchRunning_ || !commands_.Solve) return;
+    if (right) {
+        if (!inside) return;
+        Board& b = ctx_.board;
+        b.Puzzle = record_.Puzzle;
+        bool contradiction = false;
+        const int found = BruteForceSolutions(ctx_, contradiction);
+        if (found == 0) {
+            prompter_.Message("Invalid Sudoku", "This Sudoku has no solution");
+        } else if (found > 1) {
+            prompter_.Message("Invalid Sudoku", "This Sudoku has more than one solution");
+        } else {
+            prompter_.Message("Valid Sudoku", "This Sudoku has one unique solution");
+            if (!WriteBruteForceSolution(dataFolder_, workLevel_, currentNumber_[workLevel_], b,
+                                         record_, log_, &prompter_))
+                return Changed();
+            showSolverBoard_ = false;
+        }
+        return Changed();
+    }
+
+    const bool solved = SolveOpen(false);
+    const int rating = solved ? ctx_.SolvingLevel : kOutlaw;
+    if (!solved && workLevel_ == kOutlaw) {
+        showSolverBoard_ = false;
+        prompter_.Message(kReportTitle, "This Sudoku could not be solved by the program!");
+        return Changed();
+    }
+    TakeSolution(solved);
+    if (rating == workLevel_) {
+        WriteInPlace();
+    } else if (MoveTo(rating)) {
+        std::vector<bool> drop(size_t(recordCount_), false);
+        drop[size_t(currentNumber_[workLevel_] - 1)] = true;
+        Compact(drop);
+    }
+    if (!solved)
+        prompter_.Message(kReportTitle,
+                          "This Sudoku could not be solved by the program and is rated as Outlaw!");
+    Changed();
+}
+
+void Workbench::CommandCheckAll(bool right, bool inside) {
+    if (batchRunning_ || !commands_.CheckAll || (right && !inside)) return;
+    CheckRange(1, recordCount_, right);
+}
+
+void Workbench::CommandCheckSome(bool right, bool inside) {
+    if (batchRunning_ || !commands_.CheckSome || (right && !inside)) return;
+    const std::string between = "Enter a value between ";
+    const auto from =
+        AskNumber("Check 'from' number", between + "1 and " + std::to_string(recordCount_), 1,
+                  recordCount_, "1");
+    if (!from) return;
+    const auto to =
+        AskNumber("Check 'to' number",
+                  between + std::to_string(*from) + " and " + std::to_string(recordCount_), *from,
+                  recordCount_, std::to_string(recordCount_));
+    if (!to) return;
+    CheckRange(*from, *to, right);
+}
+
+void Workbench::CommandAbort() {
+    if (batchRunning_) abortRequested_ = true;
+}
+
+void Workbench::CheckRange(long from, long to, bool brute) {
+    if (from < 1 || to < from) return;
+    const std::string plural = LevelPlural(workLevel_);
+    std::vector<bool> moved(size_t(recordCount_), false);
+    RunCounters count;
+    hardest_ = {};
+    unreadable_ = 0;
+    progress_ = WorkbenchProgress{};
+    progress_.Shown = true;
+    progress_.Label4 = (brute ? "Solving :" : "Checking :") + std::string(" ") + plural;
+    progress_.Label6 = brute ? "Sudoku Brute Solving" : "Sudoku Checking Progress";
+    progress_.Bar1Max = to - from + 1;
+    batchRunning_ = true;
+    abortRequested_ = false;
+    long total = recordCount_;
+
+    for (long i = from; i <= to; ++i) {
+        progress_.LabelImportProgress =
+            brute ? "Solving Sudoku " + std::to_string(i) + " from " + plural
+                  : "Checking Sudoku : " + std::to_string(i) + " of " + std::to_string(to) +
+                        " from " + plural;
+        progress_.Bar1 = i - from + 1;
+        currentNumber_[workLevel_] = i;
+        if (!OpenSudoku()) {
+            ++unreadable_;
+        } else if (brute) {
+            Board& b = ctx_.board;
+            bool contradiction = false;
+            if (BruteForceSolutions(ctx_, contradiction) == 1) {
+                record_.Solution = b.CurrentGrid;
+                WriteInPlace();
+            }
+        } else {
+            const bool solved = SolveOpen(true);
+            const int rating = solved ? ctx_.SolvingLevel : kOutlaw;
+            if (solved || workLevel_ != kOutlaw) {
+                TakeSolution(solved);
+                if (rating == workLevel_) {
+                    ++count.unchanged;
+                    WriteInPlace();
+                } else if (MoveTo(rating)) {
+                    ++(solved ? count.moved : count.outlaw);
+                    moved[size_t(i - 1)] = true;
+                }
+            }
+        }
+        Breathe();
+        if (abortRequested_) {
+            total = i;
+            break;
+        }
+    }
+    batchRunning_ = false;
+    progress_.Shown = false;
+    showSolverBoard_ = false;
+    if (brute) {
+        OpenSudoku();
+        return Changed();
+    }
+
+    const CheckReport report = ReportFor(count.moved, count.outlaw, count.unchanged, total);
+    // Only what left the library goes from it: an aborted run never takes with it
+    // records it did not reach, whatever the report's case.
+    bool anyMoved = false;
+    for (bool m : moved)
+        anyMoved = anyMoved || m;
+    if (anyMoved) {
+        Compact(moved);
+    } else {
+        currentNumber_[workLevel_] = std::min(currentNumber_[workLevel_], recordCount_);
+        OpenSudoku();
+    }
+    std::string text = report.text;
+    if (unreadable_ > 0) text += " " + std::to_string(unreadable_) + " records could not be read.";
+    prompter_.Message(report.title, text);
+    Changed();
+}
+
+// --- Deleting -----------------------------------------------------------------------
+
+void Workbench::CommandDelete() {
+    if (batchRunning_ || !commands_.Delete || recordCount_ < 1) return;
+    std::vector<bool> drop(size_t(recordCount_), false);
+    drop[size_t(currentNumber_[workLevel_] - 1)] = true;
+    Compact(drop);
+    Changed();
+}
+
+void Workbench::CommandRemoveDuplicates() {
+    if (batchRunning_ || !commands_.RemoveDuplicates) return;
+    const auto stem = LevelStem(workLevel_);
+    std::vector<SudokuRecord> records;
+    ReadSudokuFile(PuzzleFile(dataFolder_, stem), records);
+    const std::string plural = LevelPlural(workLevel_);
+    progress_ = WorkbenchProgress{};
+    progress_.Shown = true;
+    progress_.Label6 = "Sudoku Scanning Progress";
+    progress_.Label4 = "Scanning for duplicates : " + plural;
+    progress_.Bar1Max = long(records.size());
+    batchRunning_ = true;
+    abortRequested_ = false;
+
+    std::vector<Digits> puzzles;
+    for (const auto& r : records)
+        puzzles.push_back(r.Puzzle);
+    const auto flags = DuplicateFlags(puzzles);
+    long duplicates = 0;
+    for (bool f : flags)
+        duplicates += f;
+    progress_.Bar1 = progress_.Bar1Max;
+    Breathe();
+    const bool aborted = abortRequested_;
+    batchRunning_ = false;
+    progress_.Shown = false;
+    if (aborted) return Changed();
+    if (duplicates == 0) {
+        prompter_.Message(kScanTitle, "No duplicate sudokus found.");
+        return Changed();
+    }
+    progress_.Label5 = "Removing duplicates (if any), and rebuilding file :";
+    currentNumber_[workLevel_] = 1;
+    const bool ok = Compact(flags);
+    if (ok)
+        prompter_.Message(kScanTitle, std::to_string(duplicates) + " duplicate sudokus removed.");
+    Changed();
+}
+
+// --- Importing ---------------------------------------------------------------------
+
+void Workbench::CommandImport(const std::filesystem::path& file) {
+    if (batchRunning_) return;
+    std::error_code ec;
+    std::ifstream in;
+    if (std::filesystem::is_regular_file(file, ec)) in.open(file, std::ios::binary);
+    if (!in) {
+        prompter_.Message(kFileErrorTitle, "Can't open " + file.string());
+        return;
+    }
+    progress_ = WorkbenchProgress{};
+    progress_.Shown = true;
+    progress_.Label6 = "Sudoku Import Progress";
+    progress_.Label4 = "Importing : " + file.filename().string();
+    batchRunning_ = true;
+    abortRequested_ = false;
+    ImportRun run;
+    run.order = order_;
+    run.progress = [this](long n, long count) {
+        progress_.LabelImportProgress =
+            "Importing Sudoku " + std::to_string(n) + " of " + std::to_string(count);
+        progress_.Bar1 = n;
+        progress_.Bar1Max = count;
+        Breathe();
+    };
+    run.rating = [this](const std::string& text) { progress_.LabelSolvingLevel = text; };
+    run.abort = [this] { return abortRequested_; };
+    const ImportReport report = ImportPuzzles(dataFolder_, in, run);
+    batchRunning_ = false;
+    progress_.Shown = false;
+    if (IsLevel(workLevel_) && recordCount_ > 0) {
+        recordCount_ =
+            WholeRecords(PuzzleFile(dataFolder_, LevelStem(workLevel_)), kSudokuRecordSize);
+        SetNavigation();
+    }
+    prompter_.Message("Sudoku import report", report.Text());
+    Changed();
+}
+
+}  // namespace tavi

@@ -1,0 +1,144 @@
+// The file workbench, FormCheck, without a widget: one library open at a time on
+// a private board of its own, so that a run never touches the game. It steps
+// through the puzzles, solves one, a range or the whole file by logic (rerating:
+// a puzzle whose level differs moves to the library of its level) or by brute
+// force, deletes records and removes duplicates. The window shows this state and
+// forwards the person's clicks; tests script the answers.
+#pragma once
+
+#include <array>
+#include <filesystem>
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "grid/levels.h"
+#include "grid/notifier.h"
+#include "library/records.h"
+#include "settings/technique_order.h"
+#include "solver/solve_context.h"
+#include "workbench/check_report.h"
+
+namespace tavi {
+
+// Which commands answer.
+struct WorkbenchCommands {
+    bool Solve = false, CheckAll = false, CheckSome = false, Delete = false;
+    bool GoTo = false, RemoveDuplicates = false;
+    bool First = false, Previous = false, Next = false, Last = false;
+};
+
+// The progress frame of a run: Picture1 with its labels and two bars.
+struct WorkbenchProgress {
+    bool Shown = false;                  // Picture1
+    std::string Label4, Label5, Label6;  // what runs, and on which file
+    std::string LabelImportProgress;     // "Checking Sudoku : 3 of 10 from Easy sudokus"
+    std::string LabelSolvingLevel;       // the ladder's level and the rung it tries
+    long Bar1 = 0, Bar1Max = 0;          // ProgressBar1: the puzzles of the run
+    int Bar2 = 0;                        // ProgressBar2: SolvingLevel
+};
+
+// How many puzzles needed each technique as their hardest, in a check run.
+using HardestCounts = std::array<long, kTechniqueCount>;
+
+class Workbench {
+  public:
+    Workbench(Prompter& prompter, std::filesystem::path dataFolder);
+
+    // The order of the rungs from 8 on (the user's TechniqueOrder); default when null.
+    void SetOrder(const TechniqueOrder* order) { order_ = order; }
+    // Called while a run lets the window breathe (events, repaint, Abort).
+    void SetYield(std::function<void()> yield) { yield_ = std::move(yield); }
+    // Called whenever what the window shows has changed.
+    void SetChanged(std::function<void()> changed) { changed_ = std::move(changed); }
+
+    // --- The commands ---------------------------------------------------------
+    void Command1(int level);  // a library by level; asks for the number to show
+    void CommandFirst();
+    void CommandPrevious();
+    void CommandNext();
+    void CommandLast();
+    void CommandGoTo();
+    // Left: by logic, rerating the puzzle. Right (released inside the button):
+    // by brute force, writing a unique solution back.
+    void CommandSolve(bool right = false, bool inside = true);
+    void CommandCheckAll(bool right = false, bool inside = true);
+    void CommandCheckSome(bool right = false, bool inside = true);
+    void CommandDelete();
+    void CommandAbort();
+    void CommandRemoveDuplicates();
+    // Imports the puzzles of a foreign file (workbench/import.h), with the
+    // progress frame, and reports where they went and what was refused.
+    void CommandImport(const std::filesystem::path& file);
+
+    // --- State for the window ---------------------------------------------------
+    int WorkLevel() const { return workLevel_; }
+    long CurrentNumber(int level) const { return currentNumber_[level]; }
+    long RecordCount() const { return recordCount_; }
+    const Board& board() const { return ctx_.board; }
+    const SudokuRecord& record() const { return record_; }
+    // Label1: the puzzle; Label2: its solution, or the solver's board during a run
+    // ("0" in an empty cell). Empty text for an empty cell.
+    std::string Label1(int cell) const;
+    std::string Label2(int cell) const;
+    const std::string& Caption() const { return caption_; }
+    const WorkbenchCommands& commands() const { return commands_; }
+    const WorkbenchProgress& progress() const { return progress_; }
+    bool BatchRunning() const { return batchRunning_; }
+    // The last check run's count of hardest techniques, and of records that could
+    // not be read.
+    const HardestCounts& Hardest() const { return hardest_; }
+    long Unreadable() const { return unreadable_; }
+
+  private:
+    struct RunCounters {
+        long moved = 0, outlaw = 0, unchanged = 0;
+    };
+
+    bool OpenSudoku();
+    void SetNavigation();
+    void DisableAll();
+    void Changed();
+    void Breathe();
+    std::optional<long> AskNumber(const std::string& title, const std::string& prompt, long low,
+                                  long high, const std::string& defaultText);
+    // The logic on the open record: true when solved; SolvingLevel then the rating.
+    bool SolveOpen(bool batch);
+    // The solution a record keeps: the board's when solved, else the one puzzle's
+    // own solution when it has exactly one (the record's as it stood otherwise).
+    void TakeSolution(bool solved);
+    // Appends the open record to the library of `level`.
+    bool MoveTo(int level);
+    // Rewrites the open library without the records `drop` names; then shows a
+    // record that still exists, or disables the commands when none is left.
+    bool Compact(const std::vector<bool>& drop);
+    bool WriteInPlace();
+    void CheckRange(long from, long to, bool brute);
+    void ReportFileError(const std::string& why);
+
+    Prompter& prompter_;
+    std::filesystem::path dataFolder_;
+    const TechniqueOrder* order_ = nullptr;
+    std::function<void()> yield_, changed_;
+
+    SolveContext ctx_{Side::Workbench};
+    SudokuRecord record_;
+    SudokuLogRecord log_;
+    int workLevel_ = 0;
+    std::array<long, kLevelCount + 1> currentNumber_{};
+    long recordCount_ = 0;
+    bool showSolverBoard_ = false;
+    std::string caption_ = "Sudoku Check";
+    WorkbenchCommands commands_;
+    WorkbenchProgress progress_;
+    bool batchRunning_ = false;
+    bool abortRequested_ = false;
+    HardestCounts hardest_{};
+    long unreadable_ = 0;
+};
+
+// "Easy sudokus" and its like.
+std::string LevelPlural(int level);
+
+}  // namespace tavi

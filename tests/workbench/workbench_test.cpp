@@ -1,0 +1,323 @@
+// The file workbench over libraries in a temporary folder, with the person's
+// answers scripted: rerating moves, the report of a check, abort, delete,
+// duplicates, the reader of foreign files, and rewrites killed at random instants.
+#include "workbench/workbench.h"
+
+#include <gtest/gtest.h>
+#include <signal.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <random>
+#include <sstream>
+
+#include "grid/candidates.h"
+#include "library/library_files.h"
+#include "library/library_pair.h"
+#include "library/pair_rewrite.h"
+#include "solver/ladder.h"
+#include "support/game_fixture.h"
+#include "workbench/duplicates.h"
+#include "workbench/foreign_puzzles.h"
+#include "workbench/import.h"
+
+namespace tavi {
+namespace {
+
+namespace fs = std::filesystem;
+using testing::ScriptedPrompter;
+
+TEST(CheckReport, EachCaseOfTheTableInItsOrder) {
+    struct Case {
+        long r, o, u, t;
+        LibraryFate fate;
+        const char* title;
+        const char* text;
+    } cases[] = {
+        {5, 0, 0, 5, LibraryFate::Delete, "Sudoku solve report",
+         "All sudokus solved and rerated !"},
+        {0, 4, 0, 4, LibraryFate::Delete, "Sudoku solve report",
+         "No sudokus solved, all rerated as Outlaw !"},
+        {0, 0, 0, 3, LibraryFate::Unchanged, "Sudoku solve report",
+         "Not one sudoku was solved by the program !"},
+        {0, 0, 3, 3, LibraryFate::Unchanged, "sudoku solve report",
+         "All sudokus solved, but none of them could be rerated !"},
+        {2, 1, 3, 6, LibraryFate::Compact, "Sudoku solve report",
+         "5 sudokus solved, 2 rerated, 3 not rerated. 1 unsolved and rated as Outlaw!"},
+        {0, 2, 3, 5, LibraryFate::Compact, "Sudoku solve report",
+         "3 sudokus solved, but none of them could be rerated. 2 unsolved and rated as Outlaw!"},
+        {0, 2, 0, 12345, LibraryFate::Compact, "Sudoku solve report",
+         "2 unsolved and rated as Outlaw!"},
+        {2, 0, 3, 5, LibraryFate::Compact, "Sudoku solve report",
+         "All sudokus solved, 2 rerated, 3 not rerated."},
+        {2, 0, 0, 5, LibraryFate::Compact, "Sudoku solve report", "2 sudokus solved and rerated."},
+        {2, 3, 0, 6, LibraryFate::Compact, "Sudoku solve report",
+         "2 sudokus solved and rerated. 3 unsolved and rated as Outlaw!"},
+    };
+    for (const Case& k : cases) {
+        const CheckReport report = ReportFor(k.r, k.o, k.u, k.t);
+        EXPECT_EQ(report.fate, k.fate) << k.text;
+        EXPECT_EQ(report.title, k.title);
+        EXPECT_EQ(report.text, k.text);
+    }
+}
+
+TEST(Duplicates, TheFirstOfEachGroupStays) {
+    Digits a{}, b{}, c{};
+    a[0] = 1;
+    b[80] = 1;
+    c[40] = 5;
+    const std::vector<Digits> puzzles = {a, b, a, c, a, b};
+    EXPECT_EQ(DuplicateFlags(puzzles), (std::vector<bool>{0, 0, 1, 0, 1, 1}));
+    EXPECT_EQ(DuplicateFlags(std::vector<Digits>{a}), std::vector<bool>{0});
+}
+
+TEST(ForeignPuzzles, LinesCandidatesAndGridsWithTheirProblems) {
+    const auto& p = testing::GeneratedPuzzles(1)[0];
+    const std::string line = FormatDigits(p.puzzle, '.');
+    Board board = BoardFromPuzzle(p.puzzle);
+    // 729 characters, a given written as the one candidate of its cell.
+    std::string candidates = FormatBoardLine(board).substr(164);
+    for (int c = 0; c < 81; ++c)
+        if (p.puzzle[c]) candidates[9 * c + p.puzzle[c] - 1] = char('0' + p.puzzle[c]);
+    std::string grid;
+    for (int r = 0; r < 9; ++r) {
+        if (r == 3 || r == 6) grid += "------+-------+------\n";
+        for (int c = 0; c < 9; ++c)
+            grid += std::string(c == 3 || c == 6 ? " | " : c ? " " : "") + line[9 * r + c];
+        grid += "\n";
+    }
+    std::istringstream in("# a comment\n" + line + "  3.4 rated elsewhere\n\n" + candidates +
+                          "\r\n" + grid + "12345\n" + grid.substr(0, 60) + "\n" + line + "\n");
+    const ForeignPuzzles read = ReadForeignPuzzles(in);
+    ASSERT_EQ(read.puzzles.size(), 4u);
+    EXPECT_EQ(read.puzzles[0].line, 2);
+    EXPECT_EQ(read.puzzles[0].puzzle, p.puzzle);
+    // A candidate line knows a clue as a cell of one candidate: the givens and
+    // every naked single of the fresh board.
+    for (int c = 0; c < 81; ++c)
+        EXPECT_EQ(read.puzzles[1].puzzle[c] != 0,
+                  p.puzzle[c] != 0 || CountDigits(board.Candidates[c]) == 1);
+    EXPECT_EQ(read.puzzles[2].line, 5);
+    EXPECT_EQ(read.puzzles[2].puzzle, p.puzzle);
+    EXPECT_EQ(read.puzzles[3].puzzle, p.puzzle);
+    // "12345", then two rows and a half of a grid.
+    ASSERT_EQ(read.problems.size(), 3u);
+    EXPECT_EQ(read.problems[0].line, 16);
+    EXPECT_EQ(read.problems[0].why, "no puzzle and no row of nine cells");
+    EXPECT_EQ(read.problems[1].line, 17);
+    EXPECT_EQ(read.problems[1].why, "a grid of 2 rows; a grid needs 9");
+    EXPECT_EQ(read.problems[2].line, 19);
+}
+
+// A data folder with libraries made of generated puzzles sorted by their rating.
+class WorkbenchTest : public ::testing::Test {
+  public:
+    WorkbenchTest() {
+        fs::remove_all(root);
+        fs::create_directories(root);
+        for (const auto& p : testing::GeneratedPuzzles(200, 5)) {
+            SolveContext ctx;
+            ctx.board = BoardFromPuzzle(p.puzzle);
+            (SolveSudoku(ctx, {}) && ctx.SolvingLevel == 1 ? easy : other).push_back(p);
+        }
+    }
+    ~WorkbenchTest() override { fs::remove_all(root); }
+
+    void Add(int level, const GeneratedPuzzle& p) {
+        ASSERT_TRUE(AppendToPair(root, LevelStem(level), {p.puzzle, p.solution, 0, 0}, {}));
+    }
+    // A puzzle no logic solves: two givens of one digit in a row.
+    GeneratedPuzzle Broken(int i) {
+        GeneratedPuzzle p = other[i];
+        p.puzzle[0] = p.puzzle[1] = 0;
+        p.puzzle[0] = p.puzzle[1] = 7;
+        return p;
+    }
+    long Count(int level) { return WholeRecords(PuzzleFile(root, LevelStem(level)), 166); }
+    // Opens `level` at record 1.
+    Workbench& Open(int level) {
+        prompter.inputs.push_back("1");
+        bench.Command1(level);
+        return bench;
+    }
+
+    static inline int counter = 0;
+    fs::path root = fs::temp_directory_path() / ("tavi-workbench-" + std::to_string(::getpid()) +
+                                                 "-" + std::to_string(counter++));
+    std::vector<GeneratedPuzzle> easy, other;
+    ScriptedPrompter prompter;
+    Workbench bench{prompter, root};
+};
+
+TEST_F(WorkbenchTest, ABatchThatMovesEveryRecordDeletesTheFiles) {
+    for (int i = 0; i < 4; ++i)
+        Add(3, easy[i]);
+    Add(1, easy[10]);
+    Open(3).CommandCheckAll();
+    EXPECT_EQ(prompter.shown.back().text, "All sudokus solved and rerated !");
+    EXPECT_FALSE(fs::exists(PuzzleFile(root, LevelStem(3))));
+    EXPECT_FALSE(fs::exists(LogFile(root, LevelStem(3))));
+    EXPECT_EQ(Count(1), 5);
+    EXPECT_FALSE(bench.commands().Solve);
+    bench.Command1(3);
+    EXPECT_EQ(prompter.shown.back().text, "No Hard sudokus found to open");
+}
+
+TEST_F(WorkbenchTest, AnOutlawPuzzleThatStillFailsIsCountedNowhere) {
+    Add(9, Broken(0));
+    Add(9, easy[0]);
+    Add(9, Broken(1));
+    Open(9).CommandCheckAll();
+    EXPECT_EQ(prompter.shown.back().text, "1 sudokus solved and rerated.");
+    EXPECT_EQ(Count(9), 2);
+    EXPECT_EQ(Count(1), 1);
+    SudokuRecord moved;
+    ASSERT_TRUE(ReadSudokuRecord(PuzzleFile(root, LevelStem(1)), 1, moved));
+    EXPECT_EQ(moved.Puzzle, easy[0].puzzle);
+    EXPECT_EQ(moved.Solution, easy[0].solution);
+}
+
+TEST_F(WorkbenchTest, AnAbortAfterTheThirdOfTenTreatsOnlyThree) {
+    // Ten Hard records: the first five Easy puzzles, then five that fail.
+    for (int i = 0; i < 10; ++i)
+        Add(3, i < 5 ? easy[i] : Broken(i));
+    Open(3);
+    bench.SetYield([&] {
+        if (bench.progress().Bar1 == 3) bench.CommandAbort();
+    });
+    bench.CommandCheckAll();
+    EXPECT_EQ(prompter.shown.back().text, "All sudokus solved and rerated !")
+        << "the total of the report is the last number done";
+    EXPECT_EQ(Count(3), 7) << "the records the run did not reach stay";
+    EXPECT_EQ(Count(1), 3);
+    for (long n = 1; n <= 7; ++n) {
+        SudokuRecord r;
+        ASSERT_TRUE(ReadSudokuRecord(PuzzleFile(root, LevelStem(3)), n, r));
+        EXPECT_EQ(r.Puzzle, (n <= 2 ? easy[n + 2] : Broken(n + 2)).puzzle);
+    }
+}
+
+TEST_F(WorkbenchTest, SolveRatesInPlaceOrMovesAndDeleteOfTheOnlyRecordLeavesNoFile) {
+    Add(1, easy[0]);
+    Add(1, Broken(0));
+    Open(1).CommandSolve();
+    EXPECT_TRUE(prompter.Showed("Sudoku solved and rated as Easy"));
+    EXPECT_EQ(Count(1), 2);
+    bench.CommandNext();
+    bench.CommandSolve();
+    EXPECT_EQ(prompter.shown.back().text,
+              "This Sudoku could not be solved by the program and is rated as Outlaw!");
+    EXPECT_EQ(Count(1), 1);
+    EXPECT_EQ(Count(9), 1);
+    EXPECT_EQ(bench.CurrentNumber(1), 1) << "the last record is shown";
+    bench.CommandDelete();
+    EXPECT_FALSE(fs::exists(PuzzleFile(root, LevelStem(1))));
+    EXPECT_FALSE(fs::exists(LogFile(root, LevelStem(1))));
+    EXPECT_FALSE(bench.commands().Delete);
+}
+
+TEST_F(WorkbenchTest, BruteForceAnswersAndRemoveDuplicatesKeepsTheFirst) {
+    GeneratedPuzzle two = easy[1];
+    two.solution[0] = 0;  // a record without its solution gets it back
+    Add(2, two);
+    Add(2, easy[2]);
+    Add(2, easy[1]);
+    Add(2, easy[1]);
+    Open(2).CommandSolve(true, false);
+    EXPECT_TRUE(prompter.shown.size() == 1) << "a release outside the button does nothing";
+    bench.CommandSolve(true, true);
+    EXPECT_EQ(prompter.shown.back().title, "Valid Sudoku");
+    EXPECT_EQ(prompter.shown.back().text, "This Sudoku has one unique solution");
+    SudokuRecord first;
+    ASSERT_TRUE(ReadSudokuRecord(PuzzleFile(root, LevelStem(2)), 1, first));
+    EXPECT_EQ(first.Solution, easy[1].solution);
+    bench.CommandRemoveDuplicates();
+    EXPECT_EQ(prompter.shown.back().text, "2 duplicate sudokus removed.");
+    EXPECT_EQ(Count(2), 2);
+    bench.CommandRemoveDuplicates();
+    EXPECT_EQ(prompter.shown.back().text, "No duplicate sudokus found.");
+}
+
+TEST_F(WorkbenchTest, ImportRatesChecksAndFilesEachPuzzleByItsLevel) {
+    Add(1, easy[0]);
+    // Two solutions: a puzzle with its clues cut to the first eight.
+    Digits loose{};
+    for (int c = 0, kept = 0; c < 81 && kept < 8; ++c)
+        if (easy[1].puzzle[c]) loose[c] = easy[1].puzzle[c], ++kept;
+    std::istringstream file(
+        FormatDigits(easy[0].puzzle, '.') + "\n" + FormatDigits(easy[2].puzzle, '.') + " 1.2\n" +
+        FormatDigits(Broken(0).puzzle, '.') + "\n" + FormatDigits(loose, '.') + "\nnot a puzzle\n" +
+        FormatDigits(other[3].puzzle, '0') + "\n" + FormatDigits(easy[2].puzzle, '.') + "\n");
+    const ImportReport report = ImportPuzzles(root, file);
+    SolveContext ctx;
+    ctx.board = BoardFromPuzzle(other[3].puzzle);
+    const int level = SolveSudoku(ctx, {}) ? ctx.SolvingLevel : kOutlaw;
+    EXPECT_EQ(report.added[1], 1 + (level == 1));
+    EXPECT_EQ(report.added[level], level == 1 ? 2 : 1);
+    EXPECT_EQ(Count(1), 2 + (level == 1));
+    std::string levels = level == 1 ? "2 Easy" : "1 Easy, 1 " + std::string(LevelName(level));
+    EXPECT_EQ(report.Text(), "2 sudokus imported: " + levels +
+                                 ". Rejected: 1 without a solution, 1 with several solutions, 2 "
+                                 "already in the library, 1 malformed (line 5).");
+    SudokuRecord added;
+    ASSERT_TRUE(ReadSudokuRecord(PuzzleFile(root, LevelStem(1)), 2, added));
+    EXPECT_EQ(added.Solution, easy[2].solution);
+}
+
+// A rewrite killed at any instant leaves the old pair or the new pair whole once
+// the next open has recovered it.
+TEST(PairRewrite, AKillAtAnyInstantLeavesTheOldOrTheNewPair) {
+    const fs::path root =
+        fs::temp_directory_path() / ("tavi-rewrite-" + std::to_string(::getpid()));
+    const std::string stem = "Sudoku_Hard.sd";
+    std::mt19937 random(7);
+    int old = 0, fresh = 0;
+    fs::remove_all(root);
+    const fs::path made = root / "made";
+    fs::create_directories(made);
+    for (int i = 1; i <= 300; ++i) {
+        SudokuRecord r;
+        r.BestMinutes = std::int16_t(i);
+        SudokuLogRecord l;
+        l.ElapsedMinutes = std::int16_t(i);
+        ASSERT_TRUE(AppendToPair(made, stem, r, l));
+    }
+    for (int round = 0; round < 200; ++round) {
+        for (const fs::path& file : {PuzzleFile(root, stem), LogFile(root, stem)}) {
+            fs::remove(file);
+            fs::copy_file(made / file.filename(), file);
+        }
+        const pid_t child = fork();
+        if (child == 0) {
+            RewritePair(root, stem, [](long n) { return n % 3 != 0; });
+            _exit(0);
+        }
+        usleep(std::uniform_int_distribution<useconds_t>(0, 4000)(random));
+        ::kill(child, SIGKILL);
+        waitpid(child, nullptr, 0);
+        RecoverPair(root, stem);
+        std::vector<SudokuRecord> puzzles;
+        ASSERT_TRUE(ReadSudokuFile(PuzzleFile(root, stem), puzzles));
+        const long logs = WholeRecords(LogFile(root, stem), kSudokuLogRecordSize);
+        ASSERT_EQ(long(puzzles.size()), logs);
+        ASSERT_TRUE(puzzles.size() == 300 || puzzles.size() == 200) << puzzles.size();
+        auto expected = [&](size_t k) {
+            return puzzles.size() == 300 ? int(k) + 1 : int(k / 2 * 3 + k % 2 + 1);
+        };
+        for (size_t k = 0; k < puzzles.size(); ++k)
+            ASSERT_EQ(puzzles[k].BestMinutes, expected(k));
+        for (size_t k : {size_t(0), puzzles.size() / 2, puzzles.size() - 1}) {
+            SudokuLogRecord l;
+            ASSERT_TRUE(ReadSudokuLogRecord(LogFile(root, stem), long(k) + 1, l));
+            ASSERT_EQ(l.ElapsedMinutes, expected(k)) << "record and log in step";
+        }
+        ++(puzzles.size() == 300 ? old : fresh);
+    }
+    fs::remove_all(root);
+    EXPECT_GT(old, 0);
+    EXPECT_GT(fresh, 0);
+}
+
+}  // namespace
+}  // namespace tavi
