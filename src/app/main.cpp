@@ -40,6 +40,7 @@ int main(int argc, char** argv) {
 
     tavi::ui::MainWindow window(game, options, folders);
     shown = &window;
+    window.SetStore(&store);
     if (!game.Start()) return 1;
     prompter.SetParent(&window);
     window.Refresh();

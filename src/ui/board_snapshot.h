@@ -1,42 +1,27 @@
-// A frozen copy of what the game window's board shows at one moment: the
-// digits, which marks are visible, clues, and the painted colours of cells and
-// marks. The hint window draws from it, so that later moves on the board leave
-// the copy as it was until the person asks for a new one.
+// What the game window's board shows, as the board painter's description: the
+// board widget draws it afresh on every paint, and the hint window keeps a
+// frozen copy, so that later moves on the board leave the copy as it was until
+// the person asks for a new one.
 #pragma once
 
-#include <QRect>
-#include <array>
-#include <cstdint>
-#include <optional>
+#include <QPalette>
 
 #include "game/game.h"
-
-class QPainter;
-class QPalette;
+#include "print/board_painter.h"
 
 namespace tavi::ui {
 
-struct HintSnapshot {
-    std::array<int, 81> digits{};            // 0 for an open cell
-    std::array<bool, 81> clue{};             // a digit of the puzzle itself
-    std::array<std::uint16_t, 81> marks{};   // bit d - 1: mark d shows in the open cell
-    std::array<std::uint16_t, 81> dimmed{};  // bit d - 1: mark d is drawn dim
-    bool markCaptions = true;                // marks show their digit (not so without pencil marks)
-    std::array<std::optional<Color>, 81> cellPaint{};
-    std::array<std::array<std::optional<Color>, 9>, 81> markPaint{};
+using HintSnapshot = BoardPicture;
 
-    bool MarkShown(int digit, int cell) const { return marks[cell] & (1u << (digit - 1)); }
+// What the game's board shows now, picked headers and the hover's dimming
+// included. A mark hidden by its digit filter is not shown, as on the board.
+BoardPicture PictureOf(const Game& game);
 
-    bool operator==(const HintSnapshot&) const = default;
-};
-
-// What the game's board shows now. A mark hidden by its digit filter is not
-// shown, as on the board.
+// The copy for the hint window: the board as shown, without the picked headers,
+// and drawn as a board that answers.
 HintSnapshot SnapshotOf(const Game& game);
 
-// Draws the snapshot as large as fits in `area`, with the row letters on the left
-// and the column numbers on top; window, base and text colours come from `palette`.
-void PaintSnapshot(QPainter& painter, const QRect& area, const HintSnapshot& snapshot,
-                   const QPalette& palette);
+// The screen's look: window, base and text colours from `palette`.
+BoardLook ScreenLook(const QPalette& palette);
 
 }  // namespace tavi::ui

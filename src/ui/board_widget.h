@@ -1,15 +1,16 @@
 // The board of the game window: 81 cells with their big digit or their 3 x 3
 // pencil marks, the painted colours, the row headers A to J (no I) and the
-// column headers 1 to 9. It draws what the game holds and tells the game where
-// a mouse button was released; it decides nothing itself.
+// column headers 1 to 9. The board painter draws what the game holds; the
+// widget tells the game where a mouse button was released and decides nothing
+// itself.
 #pragma once
 
 #include <QWidget>
 #include <optional>
 
 #include "game/game.h"
-#include "ui/board_geometry.h"
-#include "ui/glyph_cache.h"
+#include "print/board_geometry.h"
+#include "print/glyph_cache.h"
 
 namespace tavi::ui {
 
@@ -41,10 +42,6 @@ class BoardWidget : public QWidget {
     void leaveEvent(QEvent*) override;
 
   private:
-    void PaintBackgrounds(QPainter& p);
-    void PaintLines(QPainter& p);
-    void PaintHeaders(QPainter& p);
-    void PaintDigitsAndMarks(QPainter& p);
     void Hover(const BoardSpot& spot);
 
     Game& game_;

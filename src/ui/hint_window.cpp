@@ -33,7 +33,9 @@ class SnapshotView : public QWidget {
     void paintEvent(QPaintEvent*) override {
         QPainter p(this);
         p.fillRect(rect(), palette().window());
-        PaintSnapshot(p, rect(), snapshot_, palette());
+        BoardGeometry fit;
+        fit.FitIn(rect().adjusted(4, 4, -4, -4), true);
+        PaintBoard(p, fit, snapshot_, ScreenLook(palette()));
     }
 
   private:

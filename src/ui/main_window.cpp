@@ -19,9 +19,11 @@
 #include <cmath>
 
 #include "ui/board_area.h"
+#include "ui/colors_window.h"
 #include "ui/hint_window.h"
 #include "ui/options_dialog.h"
 #include "ui/painted_pictures.h"
+#include "ui/print_window.h"
 #include "ui/qt_convert.h"
 #include "ui/release_controls.h"
 #include "ui/revision_window.h"
@@ -269,8 +271,23 @@ HintWindow* MainWindow::Hints() {
 void MainWindow::ShowOptions() {
     if (game_.Busy()) return;
     const Options before = options_;
-    if (RunOptionsDialog(this, options_, game_.SoundAvailable())) game_.CommandOptions(before);
+    const auto customizeColors = [this](QWidget* parent) {
+        ColorsWindow colors(options_.colors, store_, parent);
+        if (colors.exec() == QDialog::Accepted) Refresh();
+    };
+    if (RunOptionsDialog(this, options_, game_.SoundAvailable(), customizeColors))
+        game_.CommandOptions(before);
     Refresh();
+}
+
+void MainWindow::ShowPrint() {
+    if (game_.Busy()) return;
+    if (!print_) {
+        print_.emplace();
+        print_->PrintLevelIndex = std::clamp(game_.position().ChosenLevel, 1, 9) - 1;
+    }
+    PrintWindow window(*print_, PrintSnapshotOf(game_), folders_.DataFolder, this);
+    window.exec();
 }
 
 void MainWindow::ShowWorkbench() {

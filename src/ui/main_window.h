@@ -10,8 +10,10 @@
 #include <array>
 #include <filesystem>
 #include <functional>
+#include <optional>
 
 #include "game/game.h"
+#include "printmodel/print_model.h"
 
 class QLabel;
 class QLineEdit;
@@ -43,6 +45,9 @@ class MainWindow : public QMainWindow {
     void Breathe();
 
     BoardArea* Area() const { return area_; }
+    // Where the colours window writes the colours it is given; without one they
+    // count for this run only.
+    void SetStore(SettingsStore* store) { store_ = store; }
 
   protected:
     bool eventFilter(QObject* watched, QEvent* e) override;
@@ -87,6 +92,7 @@ class MainWindow : public QMainWindow {
     void ShowRevisions();
     void ShowWorkbench();
     void ShowOptions();
+    void ShowPrint();
     // FormHint, made when first wanted.
     HintWindow* Hints();
     void RefreshCommands();
@@ -96,6 +102,7 @@ class MainWindow : public QMainWindow {
 
     Game& game_;
     Options& options_;
+    SettingsStore* store_ = nullptr;
     LibraryFolders folders_;
     QCursor brushCursor_;
     BoardArea* area_ = nullptr;
@@ -110,6 +117,7 @@ class MainWindow : public QMainWindow {
     QLineEdit* sudTekst_ = nullptr;
     QTimer* timer_ = nullptr;
     RevisionWindow* revisions_ = nullptr;
+    std::optional<PrintSettings> print_;  // the print window's, from its first opening on
     class CheckWindow* workbench_ = nullptr;
     HintWindow* hints_ = nullptr;
     int hintShows_ = 0;       // the hint window's showings the game asked for and got

@@ -114,10 +114,9 @@ QWidget* MainWindow::BuildCommands() {
         Refresh();
     });
     connect(commands_[kOptions], &QPushButton::clicked, this, &MainWindow::ShowOptions);
-    for (CommandId id : {kPrint, kMake}) {
-        connect(commands_[id], &QPushButton::clicked, this,
-                [this, id] { NotAvailable(commands_[id]->text()); });
-    }
+    connect(commands_[kPrint], &QPushButton::clicked, this, &MainWindow::ShowPrint);
+    connect(commands_[kMake], &QPushButton::clicked, this,
+            [this] { NotAvailable(commands_[kMake]->text()); });
     connect(commands_[kExit], &QPushButton::clicked, this, &MainWindow::Exit);
     return box;
 }

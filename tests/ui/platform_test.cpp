@@ -11,7 +11,7 @@
 #include <QTimer>
 #include <functional>
 
-#include "ui/board_geometry.h"
+#include "print/board_geometry.h"
 #include "ui/desktop_services.h"
 #include "ui/qt_prompter.h"
 #include "ui/qt_sound_player.h"

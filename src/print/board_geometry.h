@@ -1,7 +1,8 @@
-// Where everything of the board lies at a given size: the 81 cells with their
-// 3 x 3 marks, the row headers on the left and the column headers on top, and
-// the lines between them. Whole pixels throughout, so lines stay crisp at every
-// size; the board widget paints with it and maps the mouse with it.
+// Where everything of a board lies at a given size: the 81 cells with their
+// 3 x 3 marks, the row headers on the left and the column headers on top (when
+// there are headers), and the lines between them. Whole device units throughout,
+// so lines stay crisp at every size; the board painter draws with it on the
+// screen and on paper, and the board widget maps the mouse with it.
 #pragma once
 
 #include <QPoint>
@@ -24,12 +25,17 @@ struct BoardSpot {
 
 class BoardGeometry {
   public:
-    // Lays the board out as large as fits in `size`, centred.
-    void Fit(QSize size);
+    // Lays the board out as large as fits in `size`, centred, with headers.
+    void Fit(QSize size) { FitIn(QRect(QPoint(0, 0), size), true); }
+    // As large as fits in `area`, centred; without headers the grid and its
+    // frame take the whole side.
+    void FitIn(const QRect& area, bool headers);
 
     int CellSize() const { return cell_; }
     int HeaderSize() const { return header_; }
     int ThickLine() const { return thick_; }
+    int ThinLine() const { return thin_; }
+    bool Headers() const { return header_ > 0; }
     // The 9 x 9 cells, without the headers.
     QRect GridRect() const { return QRect(origin_, QSize(9 * cell_, 9 * cell_)); }
     // The grid and the headers together.
@@ -48,6 +54,7 @@ class BoardGeometry {
     int cell_ = 0;
     int header_ = 0;
     int thick_ = 2;
+    int thin_ = 1;
 };
 
 }  // namespace tavi::ui

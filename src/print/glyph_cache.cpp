@@ -1,4 +1,4 @@
-#include "ui/glyph_cache.h"
+#include "print/glyph_cache.h"
 
 #include <QFontMetrics>
 #include <QPainter>

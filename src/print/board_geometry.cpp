@@ -1,23 +1,32 @@
-#include "ui/board_geometry.h"
+#include "print/board_geometry.h"
 
 #include <algorithm>
 
 namespace tavi::ui {
 
-void BoardGeometry::Fit(QSize size) {
+void BoardGeometry::FitIn(const QRect& area, bool headers) {
     // The headers take half a cell, the outer border half a thick line.
-    const int side = std::min(size.width(), size.height());
-    cell_ = std::max(9, int((side - 4) / 9.5));
+    const int side = std::min(area.width(), area.height());
+    if (headers) {
+        cell_ = std::max(9, int((side - 4) / 9.5));
+    } else {
+        // The frame's thick line is about a 24th of a cell.
+        cell_ = std::max(9, int(side / (9.0 + 1.0 / 24)));
+    }
     cell_ -= cell_ % 3;  // three marks of equal size across
-    header_ = std::max(12, cell_ / 2);
+    header_ = headers ? std::max(12, cell_ / 2) : 0;
     thick_ = std::max(2, (cell_ + 12) / 24);
+    thin_ = std::max(1, cell_ / 60);
     const int width = header_ + 9 * cell_ + thick_;
     const int height = header_ + 9 * cell_ + thick_;
-    origin_ = QPoint((size.width() - width) / 2 + header_, (size.height() - height) / 2 + header_);
+    const int inset = headers ? header_ : thick_ / 2;
+    origin_ = QPoint(area.x() + (area.width() - width) / 2 + inset,
+                     area.y() + (area.height() - height) / 2 + inset);
 }
 
 QRect BoardGeometry::BoardRect() const {
-    return QRect(origin_ - QPoint(header_, header_),
+    const int inset = header_ ? header_ : thick_ / 2;
+    return QRect(origin_ - QPoint(inset, inset),
                  QSize(header_ + 9 * cell_ + thick_, header_ + 9 * cell_ + thick_));
 }
 

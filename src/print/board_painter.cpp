@@ -1,0 +1,168 @@
+#include "print/board_painter.h"
+
+#include <QFontMetrics>
+#include <QPainter>
+#include <algorithm>
+
+#include "game/game.h"
+#include "grid/tables.h"
+#include "print/glyph_cache.h"
+
+namespace tavi::ui {
+
+namespace {
+
+const QColor kDisabledMark(206, 210, 217);
+const QColor kSelectedHeader(255, 0, 0);  // the colour value 255 of a picked header
+
+// Centres the digit by its ink, not by the font's line box, as the glyph cache
+// does.
+void DrawDigitText(QPainter& p, const QRect& box, int digit, int pixelSize, const QColor& color,
+                   bool bold, const QString& family) {
+    QFont font = p.font();
+    if (!family.isEmpty()) font.setFamily(family);
+    font.setPixelSize(std::max(1, pixelSize));
+    font.setBold(bold);
+    p.setFont(font);
+    p.setPen(color);
+    const QString text = QString::number(digit);
+    const QRect ink = QFontMetrics(font, p.device()).tightBoundingRect(text);
+    p.drawText(QPoint(box.x() + (box.width() - ink.width()) / 2 - ink.x(),
+                      box.y() + (box.height() - ink.height()) / 2 - ink.y()),
+               text);
+}
+
+void DrawDigit(QPainter& p, GlyphCache* glyphs, const QRect& box, int digit, int pixelSize,
+               const QColor& color, bool bold, const QString& family) {
+    if (glyphs)
+        glyphs->Draw(p, box, digit, pixelSize, color, bold);
+    else
+        DrawDigitText(p, box, digit, pixelSize, color, bold, family);
+}
+
+void PaintBackgrounds(QPainter& p, const BoardGeometry& g, const BoardPicture& s,
+                      const BoardLook& look) {
+    p.fillRect(g.GridRect(), look.base);
+    const int inset = std::max(1, g.ThinLine());
+    for (int c = 0; c < 81; ++c) {
+        if (s.cellPaint[c]) p.fillRect(g.CellRect(c), ColorOf(*s.cellPaint[c]));
+        if (s.digits[c]) continue;
+        // A mark's own paint lies over the cell's.
+        for (int d = 1; d <= 9; ++d)
+            if (s.MarkShown(d, c) && s.markPaint[c][d - 1])
+                p.fillRect(g.MarkRect(d, c).adjusted(inset, inset, -inset, -inset),
+                           ColorOf(*s.markPaint[c][d - 1]));
+    }
+}
+
+void PaintLines(QPainter& p, const BoardGeometry& g, const BoardLook& look) {
+    const QRect grid = g.GridRect();
+    const int cell = g.CellSize();
+    const int thin = g.ThinLine();
+    for (int i = 1; i < 9; ++i) {
+        if (i % 3 == 0) continue;
+        p.fillRect(QRect(grid.x() + i * cell - thin / 2, grid.y(), thin, grid.height()),
+                   look.thinLine);
+        p.fillRect(QRect(grid.x(), grid.y() + i * cell - thin / 2, grid.width(), thin),
+                   look.thinLine);
+    }
+    // Box borders and the outer frame, centred on the cell edges.
+    const int t = g.ThickLine();
+    const int half = t / 2;
+    for (int i = 0; i <= 9; i += 3) {
+        p.fillRect(QRect(grid.x() + i * cell - half, grid.y() - half, t, grid.height() + t),
+                   look.thickLine);
+        p.fillRect(QRect(grid.x() - half, grid.y() + i * cell - half, grid.width() + t, t),
+                   look.thickLine);
+    }
+}
+
+void PaintHeaders(QPainter& p, const BoardGeometry& g, const BoardPicture& s,
+                  const BoardLook& look) {
+    QFont font = p.font();
+    if (!look.headerFamily.isEmpty()) font.setFamily(look.headerFamily);
+    font.setPixelSize(std::max(9, g.HeaderSize() * 11 / 20));
+    for (int i = 0; i < 9; ++i) {
+        const bool rowPicked = s.selectedRow == i;
+        const bool columnPicked = s.selectedColumn == i;
+        font.setBold(rowPicked);
+        p.setFont(font);
+        p.setPen(rowPicked ? kSelectedHeader : look.headerText);
+        p.drawText(g.RowHeaderRect(i).adjusted(0, 0, -g.ThickLine(), 0), Qt::AlignCenter,
+                   QString(QChar(Global::RowLetter[i])));
+        font.setBold(columnPicked);
+        p.setFont(font);
+        p.setPen(columnPicked ? kSelectedHeader : look.headerText);
+        p.drawText(g.ColumnHeaderRect(i).adjusted(0, 0, 0, -g.ThickLine()), Qt::AlignCenter,
+                   QString::number(i + 1));
+    }
+}
+
+void PaintDigitsAndMarks(QPainter& p, const BoardGeometry& g, const BoardPicture& s,
+                         const BoardLook& look, GlyphCache* glyphs) {
+    const int cell = g.CellSize();
+    const int digitSize = cell * 62 / 100;
+    const int markSize = std::max(7, cell * 30 / 100);
+    for (int c = 0; c < 81; ++c) {
+        if (const int d = s.digits[c]) {
+            const QColor ink = s.clue[c] ? look.clue : look.userDigit;
+            DrawDigit(p, glyphs, g.CellRect(c), d, digitSize, ReadableOn(ink, s.cellPaint[c]),
+                      s.clue[c] && look.boldClues, look.digitFamily);
+            continue;
+        }
+        if (!s.markCaptions) continue;
+        for (int m = 1; m <= 9; ++m) {
+            if (!s.MarkShown(m, c)) continue;
+            const bool dim = s.dimmed[c] & (1u << (m - 1));
+            const QColor color = !s.enabled ? kDisabledMark
+                                 : dim      ? ColorOf(kDimmedMarkColor)
+                                            : look.mark;
+            const auto& under = s.markPaint[c][m - 1] ? s.markPaint[c][m - 1] : s.cellPaint[c];
+            DrawDigit(p, glyphs, g.MarkRect(m, c), m, markSize, ReadableOn(color, under), false,
+                      look.digitFamily);
+        }
+    }
+}
+
+}  // namespace
+
+BoardLook::BoardLook() : clue(ColorOf(kClueColor)) {}
+
+BoardLook BoardLook::Paper() {
+    BoardLook look;
+    look.window = Qt::white;
+    look.base = Qt::white;
+    look.clue = Qt::black;
+    look.userDigit = QColor(30, 60, 150);
+    look.mark = QColor(90, 90, 90);
+    look.thinLine = QColor(110, 110, 110);
+    look.thickLine = Qt::black;
+    look.headerText = Qt::black;
+    look.digitFamily = QStringLiteral("Times New Roman");
+    look.headerFamily = QStringLiteral("Arial");
+    look.boldClues = false;
+    look.fillWindow = false;
+    return look;
+}
+
+QColor ReadableOn(const QColor& ink, const std::optional<Color>& paint) {
+    if (!paint) return ink;
+    const QColor back = ColorOf(*paint);
+    if (qGray(back.rgb()) >= 110 || qGray(ink.rgb()) >= 110) return ink;
+    return QColor(255 - (255 - ink.red()) / 4, 255 - (255 - ink.green()) / 4,
+                  255 - (255 - ink.blue()) / 4);
+}
+
+void PaintBoard(QPainter& painter, const BoardGeometry& geometry, const BoardPicture& picture,
+                const BoardLook& look, GlyphCache* glyphs) {
+    painter.save();
+    painter.setRenderHint(QPainter::TextAntialiasing);
+    if (look.fillWindow) painter.fillRect(geometry.BoardRect(), look.window);
+    PaintBackgrounds(painter, geometry, picture, look);
+    if (geometry.Headers()) PaintHeaders(painter, geometry, picture, look);
+    PaintDigitsAndMarks(painter, geometry, picture, look, glyphs);
+    PaintLines(painter, geometry, look);
+    painter.restore();
+}
+
+}  // namespace tavi::ui

@@ -1,0 +1,77 @@
+// The one board painter. The game window's board, the hint window's frozen copy,
+// the colours window's preview and the printed pages are all drawn by
+// PaintBoard from a BoardPicture, a small description of what stands on the
+// board, and a BoardLook, the ink and fonts of the surface it lands on. So the
+// hint window always reads as the board, and a printed page as what the
+// preview showed.
+#pragma once
+
+#include <QColor>
+#include <QString>
+#include <array>
+#include <cstdint>
+#include <optional>
+
+#include "print/board_geometry.h"
+#include "settings/colors.h"
+
+class QPainter;
+
+namespace tavi::ui {
+
+class GlyphCache;
+
+struct BoardPicture {
+    std::array<int, 81> digits{};            // 0 for an open cell
+    std::array<bool, 81> clue{};             // a digit of the puzzle itself
+    std::array<std::uint16_t, 81> marks{};   // bit d - 1: mark d shows in the open cell
+    std::array<std::uint16_t, 81> dimmed{};  // bit d - 1: mark d is drawn dim
+    bool markCaptions = true;                // marks show their digit (not so without pencil marks)
+    bool enabled = true;                     // a board that takes no click draws its marks pale
+    int selectedRow = -1;                    // a picked row header, drawn in red; -1 for none
+    int selectedColumn = -1;
+    std::array<std::optional<Color>, 81> cellPaint{};
+    std::array<std::array<std::optional<Color>, 9>, 81> markPaint{};
+
+    bool MarkShown(int digit, int cell) const { return marks[cell] & (1u << (digit - 1)); }
+
+    bool operator==(const BoardPicture&) const = default;
+};
+
+// The surface: the colours under and on the board, and the font families.
+struct BoardLook {
+    QColor window = QColor(240, 240, 240);  // around the grid (headers)
+    QColor base = Qt::white;                // the cells
+    QColor userDigit = Qt::black;           // a digit the person placed
+    QColor clue;                            // a digit of the puzzle
+    QColor mark = QColor(60, 64, 72);
+    QColor thinLine = QColor(150, 156, 170);
+    QColor thickLine = QColor(38, 44, 64);
+    QColor headerText = QColor(70, 76, 92);
+    QString digitFamily;  // empty: the painter's font
+    QString headerFamily;
+    bool boldClues = true;
+    bool fillWindow = true;  // paint `window` over the board's whole rectangle first
+
+    BoardLook();
+    // Black on white paper: clues in Times New Roman, marks in grey, lines that
+    // survive a printer.
+    static BoardLook Paper();
+};
+
+// Draws `picture` laid out by `geometry`. With `glyphs` the digits come from that
+// cache of rendered pixmaps (fast on the screen); without, they are drawn as
+// text, which a printer and a PDF keep as text.
+void PaintBoard(QPainter& painter, const BoardGeometry& geometry, const BoardPicture& picture,
+                const BoardLook& look, GlyphCache* glyphs = nullptr);
+
+// Ink that stays readable on a dark paint (a hint's pattern colour, say): on a
+// dark background the digit is drawn in a light tint of its own colour.
+QColor ReadableOn(const QColor& ink, const std::optional<Color>& paint);
+
+// The core keeps colours as 0x00BBGGRR.
+inline QColor ColorOf(Color c) {
+    return QColor(int(c & 0xFF), int((c >> 8) & 0xFF), int((c >> 16) & 0xFF));
+}
+
+}  // namespace tavi::ui

@@ -1,0 +1,185 @@
+// The print job apart from drawing: the range label, the places on the page,
+// which puzzle goes where, and what a read failure does to the job.
+#include "printmodel/print_model.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <bit>
+
+#include "grid/candidates.h"
+#include "grid/levels.h"
+#include "library/library_files.h"
+#include "support/puzzles.h"
+
+namespace tavi {
+namespace {
+
+PrintSettings Settings(int perPageIndex, int pages, int from, bool current = false) {
+    PrintSettings s;
+    s.PrintPuzzlesPerPageIndex = perPageIndex;
+    s.PrintPages = pages;
+    s.PrintFrom = from;
+    s.PrintCurrent = current;
+    return s;
+}
+
+TEST(PrintRange, LabelToCountsThePlacesAndGivesOneToTheOnScreenPuzzle) {
+    EXPECT_EQ(LabelTo(Settings(1, 1, 5)), "to 6");
+    EXPECT_EQ(LabelTo(Settings(2, 1, 1, true)), "to 3");
+    EXPECT_EQ(LabelTo(Settings(0, 10, 1)), "to 10");
+    EXPECT_EQ(LabelTo(Settings(2, 3, 7)), "to 18");
+    EXPECT_EQ(LabelTo(Settings(0, 0, 4)), "to 4");  // the start value counts as one page
+    EXPECT_EQ(PrintLevelList()[8], "Outlaw!");
+    EXPECT_EQ(PrintLevelList()[0], "Easy");
+}
+
+TEST(PrintRange, TheOnScreenPuzzleTakesTheFirstPlaceOnlyWhenThereIsOne) {
+    PrintSnapshot snapshot;
+    snapshot.Number = 42;
+    auto slots = PlanJob(Settings(2, 2, 1, true), snapshot);
+    ASSERT_EQ(slots.size(), 8u);
+    EXPECT_TRUE(slots[0].onScreen);
+    EXPECT_EQ(slots[0].number, 42);
+    EXPECT_EQ(slots[1].number, 1);
+    EXPECT_EQ(slots[7].number, 7);
+    EXPECT_EQ(slots[4].page, 2);
+    EXPECT_EQ(slots[4].position, 0);
+    snapshot.Number = 0;  // no game on the screen: the range starts at once
+    slots = PlanJob(Settings(2, 1, 1, true), snapshot);
+    EXPECT_FALSE(slots[0].onScreen);
+    EXPECT_EQ(slots[3].number, 4);
+}
+
+TEST(PrintPage, A4GeometryAndPlacesInsideThePrintArea) {
+    // A4 at 1200 dots to the inch.
+    const PageGeometry g = GeometryOf(9921, 14031);
+    EXPECT_NEAR(g.PrintUnit, 47.24, 0.01);
+    EXPECT_EQ(g.PrintCentimetre, 472);
+    EXPECT_EQ(g.PrintMargin, 1181);
+    EXPECT_EQ(g.area.width, 9921 - 2 * 1181);
+    EXPECT_EQ(PuzzlePlaces(g, 1)[0].board.width, g.area.width);
+    EXPECT_EQ(PuzzlePlaces(g, 2)[1].board.width, 10 * 472);
+    EXPECT_EQ(PuzzlePlaces(g, 4)[3].board.width, 7 * 472);
+    const Rect heading = HeadingRect(g), number = PageNumberRect(g);
+    for (int n : {1, 2, 4}) {
+        const auto places = PuzzlePlaces(g, n);
+        ASSERT_EQ(int(places.size()), n);
+        for (const auto& p : places)
+            for (const Rect& r : {p.board, p.caption, p.solution}) {
+                EXPECT_GE(r.x, g.area.x);
+                EXPECT_LE(r.right(), g.area.right());
+                EXPECT_GE(r.y, heading.bottom()) << n;
+                EXPECT_LE(r.bottom(), number.y) << n;
+            }
+        // No two boards overlap, and no board covers a solution.
+        for (std::size_t i = 0; i < places.size(); ++i)
+            for (std::size_t j = 0; j < places.size(); ++j) {
+                const Rect a = places[i].board, b = places[j].solution;
+                const bool apart =
+                    a.right() <= b.x || b.right() <= a.x || a.bottom() <= b.y || b.bottom() <= a.y;
+                EXPECT_TRUE(apart) << n << " " << i << " " << j;
+            }
+    }
+}
+
+class PrintJobTest : public ::testing::Test {
+  public:
+    PrintJobTest() {
+        folder =
+            std::filesystem::temp_directory_path() / ("tavi-print-" + std::to_string(::getpid()));
+        std::filesystem::create_directories(folder);
+        for (int i = 0; i < 3; ++i) {
+            const auto& p = testing::GeneratedPuzzles(3, 5)[i];
+            WriteSudokuRecord(PuzzleFile(folder, LevelStem(2)), i + 1,
+                              SudokuRecord{p.puzzle, p.solution, 0, 0});
+        }
+    }
+    ~PrintJobTest() override { std::filesystem::remove_all(folder); }
+
+    struct Recorder : PrintSink {
+        std::vector<std::string> events;
+        std::vector<PrintPuzzle> puzzles;
+        void BeginPage(int page) override { events.push_back("begin " + std::to_string(page)); }
+        void Puzzle(const PrintSlot& slot, const PrintPuzzle& p) override {
+            events.push_back("# " + std::to_string(slot.number));
+            puzzles.push_back(p);
+        }
+        void EndPage(int page) override { events.push_back("end " + std::to_string(page)); }
+    };
+
+    std::filesystem::path folder;
+};
+
+TEST_F(PrintJobTest, ReadsEachPuzzleWithItsMarksAndStopsAtTheFirstMissingRecord) {
+    PrintSettings s = Settings(1, 2, 2);
+    s.PrintLevelIndex = 1;
+    Recorder r;
+    EXPECT_EQ(RunPrintJob(s, {}, folder, r), PrintResult::ReadFailed);
+    // Record 4 does not exist: the job ends on page 2, after what was printed.
+    EXPECT_EQ(r.events, (std::vector<std::string>{"begin 1", "# 2", "# 3", "end 1", "begin 2"}));
+    const auto& p = testing::GeneratedPuzzles(3, 5)[1];
+    EXPECT_EQ(r.puzzles[0].Grid, p.puzzle);
+    EXPECT_EQ(r.puzzles[0].Solution, p.solution);
+    const Board b = BoardFromPuzzle(p.puzzle);
+    EXPECT_EQ(r.puzzles[0].Marks, b.Candidates);
+}
+
+TEST_F(PrintJobTest, TheOnScreenPuzzleInItsCurrentStateKeepsItsDigitsAndMarks) {
+    const auto& p = testing::GeneratedPuzzles(3, 5)[0];
+    PrintSnapshot snap;
+    snap.Puzzle = p.puzzle;
+    snap.Solution = p.solution;
+    snap.Grid = p.puzzle;
+    const int open = int(std::find(p.puzzle.begin(), p.puzzle.end(), 0) - p.puzzle.begin());
+    snap.Grid[open] = p.solution[open];
+    snap.Marks[open + 1] = 0b101;
+    snap.Number = 9;
+    PrintSettings s = Settings(0, 1, 1, true);
+    s.PrintCurrentState = true;
+    Recorder r;
+    EXPECT_EQ(RunPrintJob(s, snap, folder, r), PrintResult::Done);
+    ASSERT_EQ(r.puzzles.size(), 1u);
+    EXPECT_EQ(r.puzzles[0].Grid, snap.Grid);
+    EXPECT_EQ(r.puzzles[0].Marks, snap.Marks);
+    EXPECT_EQ(r.puzzles[0].Number, 9);
+    s.PrintPencils = false;
+    Recorder bare;
+    RunPrintJob(s, snap, folder, bare);
+    EXPECT_EQ(bare.puzzles[0].Marks, (std::array<CandidateMask, 81>{}));
+    // Without the current state: the clues and the marks they leave.
+    s.PrintCurrentState = false;
+    Recorder clues;
+    RunPrintJob(s, snap, folder, clues);
+    EXPECT_EQ(clues.puzzles[0].Grid, p.puzzle);
+    EXPECT_EQ(clues.puzzles[0].Marks, BoardFromPuzzle(p.puzzle).Candidates);
+}
+
+TEST(TeachingPrint, TheTechniquesOfTheSolutionInOrderOfFirstUseWithTheirCounts) {
+    const auto& p = testing::GeneratedPuzzles(3, 5)[0];
+    const auto used = TechniquesNeeded(p.puzzle);
+    ASSERT_FALSE(used.empty());
+    int steps = 0;
+    for (const auto& t : used) {
+        EXPECT_GT(t.count, 0) << t.name;
+        steps += t.count;
+        EXPECT_EQ(std::count_if(used.begin(), used.end(),
+                                [&](const TechniqueCount& o) { return o.name == t.name; }),
+                  1);
+    }
+    // Every step places a digit or removes a candidate: never more steps than
+    // the empty cells and the candidates of the start together.
+    const Board start = BoardFromPuzzle(p.puzzle);
+    int marks = 0;
+    for (int c = 0; c < 81; ++c)
+        marks += std::popcount(unsigned(start.Candidates[c]));
+    EXPECT_LE(steps, start.EmptyCount() + marks);
+    EXPECT_EQ(TeachingText({{"Naked Single", 3}, {"Hidden Single", 1}}),
+              "Techniques: Naked Single x 3, Hidden Single x 1");
+    Digits clash = p.puzzle;
+    clash[0] = clash[1] = 5;
+    EXPECT_TRUE(TechniquesNeeded(clash).empty());
+}
+
+}  // namespace
+}  // namespace tavi

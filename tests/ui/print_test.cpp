@@ -1,0 +1,144 @@
+// Printing: a job printed to a PDF file has the pages and texts it should, read
+// back with pdftotext; the window keeps its range label and what it enables.
+#include <gtest/gtest.h>
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QPrinter>
+#include <QProcess>
+#include <QRadioButton>
+#include <QRegularExpression>
+#include <QSpinBox>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+
+#include <bit>
+
+#include "grid/candidates.h"
+#include "grid/levels.h"
+#include "library/library_files.h"
+#include "support/puzzles.h"
+#include "ui/print_window.h"
+
+namespace tavi::ui {
+namespace {
+
+class PrintTest : public ::testing::Test {
+  public:
+    PrintTest() {
+        const auto& puzzles = testing::GeneratedPuzzles(3, 11);
+        for (int i = 0; i < 3; ++i)
+            WriteSudokuRecord(PuzzleFile(Folder(), LevelStem(2)), i + 1,
+                              SudokuRecord{puzzles[i].puzzle, puzzles[i].solution, 0, 0});
+        settings.PrintLevelIndex = 1;
+    }
+    std::filesystem::path Folder() const { return dir.path().toStdString(); }
+
+    // The text of the PDF, pages separated by form feeds; empty when the tool is
+    // missing.
+    QString PdfText(const QString& pdf) {
+        const QString tool = QStandardPaths::findExecutable(QStringLiteral("pdftotext"));
+        if (tool.isEmpty()) return {};
+        QProcess run;
+        run.start(tool, {pdf, QStringLiteral("-")});
+        EXPECT_TRUE(run.waitForFinished(30000));
+        return QString::fromUtf8(run.readAllStandardOutput());
+    }
+    // "# " and the number; the extractor may drop the blank.
+    static bool HasNumber(const QString& page, int number) {
+        return page.contains(QRegularExpression(QStringLiteral("#\\s*%1(?!\\d)").arg(number)));
+    }
+    QString PrintToPdf(PrintWindow& window, bool* ok) {
+        const QString pdf = dir.filePath(QStringLiteral("job.pdf"));
+        QPrinter printer(QPrinter::HighResolution);
+        printer.setOutputFormat(QPrinter::PdfFormat);
+        printer.setOutputFileName(pdf);
+        *ok = window.PrintTo(printer);
+        return pdf;
+    }
+
+    QTemporaryDir dir;
+    PrintSettings settings;
+    std::vector<std::pair<QString, QString>> told;
+};
+
+TEST_F(PrintTest, APdfJobHoldsItsPagesHeadingsNumbersAndSolutions) {
+    if (QStandardPaths::findExecutable(QStringLiteral("pdftotext")).isEmpty())
+        GTEST_SKIP() << "pdftotext is not installed";
+    settings.PrintPuzzlesPerPageIndex = 0;  // one to a page
+    settings.PrintPages = 2;
+    settings.PrintFrom = 2;
+    PrintWindow window(settings, {}, Folder());
+    EXPECT_EQ(window.findChild<QLabel*>("LabelTo")->text(), "to 3");
+    bool ok = false;
+    const QString text = PdfText(PrintToPdf(window, &ok));
+    EXPECT_TRUE(ok);
+    const QStringList pages = text.split(QChar('\f'), Qt::SkipEmptyParts);
+    ASSERT_EQ(pages.size(), 2) << text.toStdString();
+    for (int p = 0; p < 2; ++p) {
+        EXPECT_TRUE(pages[p].contains("Tavi-Sudoku")) << p;
+        EXPECT_TRUE(pages[p].contains("Medium")) << p;
+        EXPECT_TRUE(HasNumber(pages[p], p + 2)) << p;
+        EXPECT_TRUE(pages[p].contains(QStringLiteral("Page %1").arg(p + 1))) << p;
+    }
+    // The clues, the marks of the open cells and the 81 digits of the solution.
+    const Board board = BoardFromPuzzle(testing::GeneratedPuzzles(3, 11)[1].puzzle);
+    int expected = 81;
+    for (int c = 0; c < 81; ++c)
+        expected += board.CurrentGrid[c] ? 1 : std::popcount(unsigned(board.Candidates[c]));
+    int digits = 0;
+    for (QChar c : pages[0])
+        digits += c.isDigit();
+    EXPECT_EQ(digits, expected + 1 + 1);  // and the 2 of "# 2" and the 1 of "Page 1"
+}
+
+TEST_F(PrintTest, ARecordBeyondTheLibraryCancelsTheJobAndKeepsThePagesSoFar) {
+    if (QStandardPaths::findExecutable(QStringLiteral("pdftotext")).isEmpty())
+        GTEST_SKIP() << "pdftotext is not installed";
+    settings.PrintPuzzlesPerPageIndex = 1;  // two to a page: 1 2 | 3 4
+    settings.PrintPages = 2;
+    settings.PrintSolutions = false;
+    PrintWindow window(settings, {}, Folder());
+    window.SetTeller(
+        [this](const QString& title, const QString& text) { told.emplace_back(title, text); });
+    bool ok = true;
+    const QString text = PdfText(PrintToPdf(window, &ok));
+    EXPECT_FALSE(ok);
+    ASSERT_EQ(told.size(), 1u);
+    EXPECT_EQ(told[0].first, "Print canceled");
+    EXPECT_EQ(told[0].second, "An error occurred while trying to read sudokus from file");
+    const QStringList pages = text.split(QChar('\f'), Qt::SkipEmptyParts);
+    ASSERT_EQ(pages.size(), 2);
+    EXPECT_TRUE(pages[0].contains("Page 1"));
+    EXPECT_TRUE(HasNumber(pages[1], 3));
+    EXPECT_FALSE(HasNumber(pages[1], 4));
+    EXPECT_FALSE(pages[1].contains("Page 2"));
+}
+
+TEST_F(PrintTest, TheOnScreenPuzzleEnablesItsChoicesAndTakesAPlaceFromTheRange) {
+    PrintSnapshot snapshot;
+    snapshot.Number = 3;
+    settings.PrintPuzzlesPerPageIndex = 2;
+    settings.PrintPages = 1;
+    PrintWindow window(settings, snapshot, Folder());
+    auto* current = window.findChild<QCheckBox*>("CheckCurrent");
+    auto* state = window.findChild<QCheckBox*>("CheckCurrentState");
+    auto* to = window.findChild<QLabel*>("LabelTo");
+    EXPECT_FALSE(state->isEnabled());
+    EXPECT_EQ(to->text(), "to 4");
+    current->setChecked(true);
+    EXPECT_TRUE(state->isEnabled());
+    EXPECT_TRUE(window.findChild<QCheckBox*>("CheckPencils")->isEnabled());
+    EXPECT_EQ(to->text(), "to 3");
+    window.findChild<QSpinBox*>("TextFrom")->setValue(5);
+    window.findChild<QRadioButton*>("OptionAantal_1")->setChecked(true);
+    EXPECT_EQ(to->text(), "to 5");
+    EXPECT_EQ(settings.PrintFrom, 5);
+
+    PrintWindow nothingOnScreen(settings, {}, Folder());
+    EXPECT_FALSE(nothingOnScreen.findChild<QCheckBox*>("CheckCurrent")->isEnabled());
+    EXPECT_FALSE(settings.PrintCurrent);
+}
+
+}  // namespace
+}  // namespace tavi::ui
