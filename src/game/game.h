@@ -15,9 +15,9 @@
 
 #include "game/library_position.h"
 #include "game/platform.h"
+#include "hints/hint_paint.h"
 #include "library/library_files.h"
 #include "library/records.h"
-#include "hints/hint_paint.h"
 #include "settings/options.h"
 #include "settings/settings_store.h"
 #include "solver/solve_context.h"
@@ -51,6 +51,8 @@ struct MoveStep {
     int LogColumnMarks = 0;  // bit r: the cell of row r in the column lost the mark
     int LogRowMarks = 0;     // bit c: the cell of column c in the row lost the mark
     int LogBoxMarks = 0;     // bit y+3x: the cell at row y, column x of the box lost it
+
+    friend bool operator==(const MoveStep&, const MoveStep&) = default;
 };
 
 // Which commands answer, and the captions that change.
