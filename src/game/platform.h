@@ -15,6 +15,9 @@ enum class Buttons { Ok, OkCancel, YesNo, YesNoCancel, AbortRetryIgnore };
 enum class Answer { Ok, Cancel, Yes, No, Abort, Retry, Ignore };
 enum class Icon { None, Information, Exclamation, Question, Critical };
 
+// The mouse buttons the game tells apart.
+enum class MouseButton { Left, Right, Middle };
+
 // Message boxes and the input box. A message box with only OK is Notifier's
 // Message, so the core's routines can speak through the same object.
 class Prompter : public Notifier {
@@ -28,6 +31,20 @@ class Prompter : public Notifier {
     void Message(std::string_view title, std::string_view text) override {
         Ask(title, text, Buttons::Ok, Icon::None);
     }
+};
+
+// Sound ids of the game.
+enum Sound : int {
+    kSoundSolved = 0,       // "applause.wav"
+    kSoundMarkRemoved = 1,  // "Patch54p.wav"
+    kSoundPlaced = 2,       // "Beep2.wav"
+    kSoundResetCell = 3,    // "Boink4.wav"
+    kSoundSolution = 4,     // "Blaster_1.wav"
+    kSoundHeader = 5,       // "Beep5.wav"
+    kSoundUndoRedo = 6,     // "Beep1.wav"
+    kSoundPenalty = 7,      // "Cashreg.wav"
+    kSoundWrongNumber = 8,  // "Error.wav"
+    kSoundStillMarked = 9,  // "Giggle.wav"
 };
 
 // The ten sounds of the game, by id; see Speel.
