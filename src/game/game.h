@@ -217,7 +217,7 @@ class Game : private MoveListener {
         Digits grid{};
         std::array<CandidateMask, 81> marks{};
         int row = 0, column = 0, hover = 0, level = 0, hintShows = 0;
-        bool enabled = false, wellsShown = false;
+        bool enabled = false, captions = false, wellsShown = false;
         Brushes paint;
         CommandStates commands;
         std::string textHint, labelStap, sudTekst, clock, caption;

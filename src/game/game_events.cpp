@@ -23,6 +23,7 @@ Game::View Game::Look() const {
     v.level = position().ChosenLevel;
     v.hintShows = hints_.WindowShows();
     v.enabled = gridEnabled_;
+    v.captions = MarkCaptionsShown();
     v.wellsShown = options_.Wells;
     v.paint = brushes_;
     v.commands = commands_;
@@ -42,7 +43,8 @@ void Game::Announce() {
     changes.bits = alsoChanged_;
     alsoChanged_ = 0;
     if (now.grid != was.grid || now.marks != was.marks || now.row != was.row ||
-        now.column != was.column || now.hover != was.hover || now.enabled != was.enabled)
+        now.column != was.column || now.hover != was.hover || now.enabled != was.enabled ||
+        now.captions != was.captions)
         changes |= kChangeBoard;
     if (!now.paint.SamePaint(was.paint)) changes |= kChangePaint;
     if (now.paint.brush() != was.paint.brush()) changes |= kChangeBrush;

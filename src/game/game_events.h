@@ -8,7 +8,8 @@
 namespace tavi {
 
 enum Change : unsigned {
-    kChangeBoard = 1u << 0,       // digits, marks, picked row and column, hover, grid on or off
+    kChangeBoard = 1u << 0,       // digits, marks, picked row and column, hover, grid on or off,
+                                  // whether marks show their digit
     kChangePaint = 1u << 1,       // painted colours and the digit filter
     kChangeCommands = 1u << 2,    // which commands answer, and their captions
     kChangeTexts = 1u << 3,       // the hint box, the step counter, the puzzle line
