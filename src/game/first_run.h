@@ -4,8 +4,8 @@
 
 #include <string_view>
 
-#include "library/library_files.h"
 #include "grid/notifier.h"
+#include "library/library_files.h"
 #include "settings/options.h"
 #include "settings/settings_store.h"
 

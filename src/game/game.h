@@ -1,10 +1,14 @@
-// The game window's model: the board in play, its marks, the move log, the
-// commands and what they may do, the texts the window shows, and the questions
-// it asks. No widget lives here: the shell draws this state and forwards the
-// person's clicks; tests script the answers through the platform interfaces.
+// The game window's model: the board in play and its marks, the commands and
+// what they may do, the texts the window shows, and the questions it asks. No
+// widget lives here: the shell draws this state, forwards the person's clicks,
+// and hears through GameEvents what a click changed; tests script the answers
+// through the platform interfaces.
 //
-// The routines are split by concern over game_*.cpp: start and exit, cell input,
-// undo and redo, puzzles in and out, the clock and the wells.
+// Game composes the parts a test can also drive alone: the move log with undo
+// and redo (MoveLog), the clock (GameClock), the library session (LibrarySession),
+// the brushes and paint (Brushes) and the hint flow (HintFlow). Its routines are
+// split by concern over game_*.cpp: start and exit, cell input, undo and redo,
+// puzzles in and out, the clock and the wells, options, and hints.
 #pragma once
 
 #include <array>
@@ -13,45 +17,21 @@
 #include <string>
 #include <vector>
 
-#include "game/library_position.h"
+#include "game/brushes.h"
+#include "game/game_clock.h"
+#include "game/game_events.h"
+#include "game/hint_flow.h"
+#include "game/library_session.h"
+#include "game/move_log.h"
 #include "game/platform.h"
+#include "hints/hint_paint.h"
 #include "library/library_files.h"
 #include "library/records.h"
-#include "hints/hint_paint.h"
 #include "settings/options.h"
 #include "settings/settings_store.h"
 #include "solver/solve_context.h"
 
 namespace tavi {
-
-// Sound ids of the game.
-enum Sound : int {
-    kSoundSolved = 0,       // "applause.wav"
-    kSoundMarkRemoved = 1,  // "Patch54p.wav"
-    kSoundPlaced = 2,       // "Beep2.wav"
-    kSoundResetCell = 3,    // "Boink4.wav"
-    kSoundSolution = 4,     // "Blaster_1.wav"
-    kSoundHeader = 5,       // "Beep5.wav"
-    kSoundUndoRedo = 6,     // "Beep1.wav"
-    kSoundPenalty = 7,      // "Cashreg.wav"
-    kSoundWrongNumber = 8,  // "Error.wav"
-    kSoundStillMarked = 9,  // "Giggle.wav"
-};
-
-enum class MouseButton { Left, Right, Middle };
-
-// One step of the move log. LogDigit 1..9 a placement, -1..-9 a mark taken
-// away, 10..19 Reset Cell (less 10: the digit the cell held), 0 a click of the
-// middle button. The mark fields say exactly which marks the step changed, so a
-// step can be undone and redone from the log alone.
-struct MoveStep {
-    int LogDigit = 0;
-    int LogCell = 0;
-    int LogOwnMarks = 0;     // bit d-1: the cell's own marks that changed
-    int LogColumnMarks = 0;  // bit r: the cell of row r in the column lost the mark
-    int LogRowMarks = 0;     // bit c: the cell of column c in the row lost the mark
-    int LogBoxMarks = 0;     // bit y+3x: the cell at row y, column x of the box lost it
-};
 
 // Which commands answer, and the captions that change.
 struct CommandStates {
@@ -61,14 +41,8 @@ struct CommandStates {
     std::string MakeCaption = "Make";
     std::string HintCaption = "Hint";
     std::string ScanCaption = "Scan";
-};
 
-struct BrushState {
-    bool BrushActive = false;
-    bool LeftBrush = false, RightBrush = false;
-    bool LeftCellBrush = false, RightCellBrush = false;
-    Color LeftColor = 0, RightColor = 0;
-    std::array<std::string, 10> PaletteCaptions;  // " L", " R" or empty
+    bool operator==(const CommandStates&) const = default;
 };
 
 // The game's platform: all are needed but the sound player and the page opener.
@@ -98,6 +72,9 @@ class Game : private MoveListener {
     Game(GameServices services, LibraryFolders folders, Options& options);
     Game(const Game&) = delete;  // the solver context points back at the game
     Game& operator=(const Game&) = delete;
+
+    // The window's listener: told at the end of each routine what it changed.
+    void SetEvents(GameEvents events) { events_ = std::move(events); }
 
     // --- The program's life -------------------------------------------------
     // The start-up, in its documented order. False when the program can't go on
@@ -148,12 +125,12 @@ class Game : private MoveListener {
     // Autosolve over a range of the open library file; "Stop" ends it.
     void CommandScan();
     // The last hint found by a technique, for the hint window.
-    const HintRecord& LastHint() const { return lastHint_; }
+    const HintRecord& LastHint() const { return hints_.LastHint(); }
     // The hint window's caption: "Hint - " and the technique's name, or "Main
     // Duplicate" when the board shows something else than a technique's hint.
-    const std::string& HintWindowCaption() const { return hintWindowCaption_; }
+    const std::string& HintWindowCaption() const { return hints_.WindowCaption(); }
     // Counts the hint windows the model asked for (a hint shown with the option on).
-    int HintWindowShows() const { return hintWindowShows_; }
+    int HintWindowShows() const { return hints_.WindowShows(); }
     // A search is running: the window takes no other command meanwhile.
     bool Busy() const { return busy_; }
     // Colours of a hint on the board.
@@ -175,25 +152,32 @@ class Game : private MoveListener {
     void WindowRestored();   // go on
     void SetupWells();
 
+    // --- The parts ------------------------------------------------------------
+    const tavi::MoveLog& moves() const { return moves_; }
+    const GameClock& clock() const { return clock_; }
+    const LibrarySession& session() const { return session_; }
+    const Brushes& brushes() const { return brushes_; }
+    const HintFlow& hints() const { return hints_; }
+
     // --- State for the window -----------------------------------------------
     const Board& board() const { return ctx_.board; }
     SolveContext& context() { return ctx_; }
     const Options& options() const { return options_; }
-    const LibraryPosition& position() const { return position_; }
-    const SudokuRecord& sudoku() const { return sudoku_; }
+    const LibraryPosition& position() const { return session_.position(); }
+    const SudokuRecord& sudoku() const { return session_.sudoku(); }
     const CommandStates& commands() const { return commands_; }
-    const BrushState& brush() const { return brush_; }
-    bool FilterOn(int digit) const { return filterOn_[digit]; }
+    const BrushState& brush() const { return brushes_.brush(); }
+    bool FilterOn(int digit) const { return brushes_.FilterOn(digit); }
     bool MarkVisible(int digit, int cell) const { return ctx_.board.Has(digit, cell); }
-    bool IsClue(int cell) const { return sudoku_.Puzzle[cell] != 0; }
+    bool IsClue(int cell) const { return sudoku().Puzzle[cell] != 0; }
     // With pencil marks off in the first three levels the marks stay clickable
     // but show no digit.
     bool MarkCaptionsShown() const {
-        return !(position_.ChosenLevel < 4 && options_.PencilmarksOff);
+        return !(position().ChosenLevel < 4 && options_.PencilmarksOff);
     }
-    std::optional<Color> CellPaint(int cell) const { return cellPaint_[cell]; }
+    std::optional<Color> CellPaint(int cell) const { return brushes_.CellPaint(cell); }
     std::optional<Color> MarkPaint(int digit, int cell) const {
-        return markPaint_[cell][digit - 1];
+        return brushes_.MarkPaint(digit, cell);
     }
     bool MarkDimmed(int digit, int cell) const {
         return options_.Dimmed && HoverCell != (digit - 1) * 81 + cell;
@@ -201,14 +185,14 @@ class Game : private MoveListener {
     bool GridEnabled() const { return gridEnabled_; }
     const std::string& TextHint() const { return textHint_; }
     const std::string& LabelStap() const { return labelStap_; }
-    const std::string& LabelTijd() const { return labelTijd_; }
+    const std::string& LabelTijd() const { return clock_.Label(); }
     const std::string& Caption() const { return caption_; }
     const std::string& SudTekst() const { return sudTekst_; }
-    int CurrentStep() const { return position_.CurrentStep; }
-    int LastStep() const { return int(log_.size()); }
-    const std::vector<MoveStep>& MoveLog() const { return log_; }
-    int ClockSeconds() const { return clockSeconds_; }
-    bool TimerRunning() const { return timerRunning_; }
+    int CurrentStep() const { return moves_.CurrentStep(); }
+    int LastStep() const { return moves_.LastStep(); }
+    const std::vector<MoveStep>& MoveLog() const { return moves_.Steps(); }
+    int ClockSeconds() const { return clock_.Seconds(); }
+    bool TimerRunning() const { return clock_.Running(); }
     // Wells: for each digit 1..9 and each box 0..8, whether the box holds it.
     bool WellFilled(int digit, int box) const { return wells_[digit][box]; }
     bool WellsVisible() const { return options_.Wells; }
@@ -217,7 +201,6 @@ class Game : private MoveListener {
     int HoverCell = kNoHover;  // the mark under the pointer, (digit - 1) * 81 + cell, or none
     int SelectedRow = kNoLine;
     int SelectedColumn = kNoLine;
-    int HintStage = 0;
     bool MakeMode = false;
     std::string WindowTitle;
 
@@ -230,6 +213,33 @@ class Game : private MoveListener {
     void CloseGameRecord();
 
   private:
+    // What the window shows, to tell what a routine changed.
+    struct View {
+        Digits grid{};
+        std::array<CandidateMask, 81> marks{};
+        int row = 0, column = 0, hover = 0, level = 0, hintShows = 0;
+        bool enabled = false, captions = false, wellsShown = false;
+        Brushes paint;
+        CommandStates commands;
+        std::string textHint, labelStap, sudTekst, clock, caption;
+        std::array<std::array<bool, 9>, 10> wells{};
+    };
+    // Opened at the start of each public routine: the outermost one tells the
+    // window what changed when it ends.
+    class ChangeScope {
+      public:
+        explicit ChangeScope(Game& game);
+        ~ChangeScope();
+        ChangeScope(const ChangeScope&) = delete;
+        ChangeScope& operator=(const ChangeScope&) = delete;
+
+      private:
+        Game& game_;
+    };
+    View Look() const;
+    // Tells the window what changed since the last look.
+    void Announce();
+
     // MoveListener: the solver's placements and removals become steps.
     void ZetAuto(Board& board, int digit, int cell) override;
     void CandidateRemoved(int digit, int cell) override;
@@ -237,8 +247,6 @@ class Game : private MoveListener {
     // A new step at `cell`: the redo tail goes, Undo opens, Redo closes.
     MoveStep& BeginStep(int cell);
     void ShowStepCount();
-    // Takes mark `digit` from the column, row and box of `cell` into the step.
-    void TakePeerMarks(int digit, int cell, MoveStep& step);
     bool BoardSolved() const;
     void EndTest();
 
@@ -276,7 +284,7 @@ class Game : private MoveListener {
     bool ReportWrongNumber(bool penalty);
     bool ReportLostCandidate(bool penalty);
     bool ReportStillMarked(bool penalty);
-    void ReportCell(int cell, const std::string& text, int penalty);
+    bool ReportCell(const std::optional<CellReport>& report, bool penalty);
     void ShowTechniqueHint();
     // A Sue-de-Coq found for a hint is shown at once, and the player is asked
     // whether they can spot it; true for OK.
@@ -286,44 +294,27 @@ class Game : private MoveListener {
     bool AutoSolveBoard();
     void Breathe();
 
-    // Clock.
-    void StartClock();
-    void ShowClock();
-
-    // Paint.
-    void ToggleCellPaint(int cell, Color color);
-    void SetCellPaint(int cell, Color color);
-
     GameServices services_;
-    LibraryFolders folders_;
     Options& options_;
     SolveContext ctx_{Side::Game};
-    LibraryPosition position_;
-    SudokuRecord sudoku_;
-    SudokuLogRecord logRecord_;
-    std::vector<MoveStep> log_;  // step i at i - 1; its size is LastStep
+    LibrarySession session_;
+    tavi::MoveLog moves_;
+    GameClock clock_;
+    Brushes brushes_;
+    HintFlow hints_;
     CommandStates commands_;
-    BrushState brush_;
-    std::array<bool, 10> filterOn_{};
-    std::array<std::optional<Color>, 81> cellPaint_{};
-    std::array<std::array<std::optional<Color>, 9>, 81> markPaint_{};
     std::array<std::array<bool, 9>, 10> wells_{};
     bool gridEnabled_ = false;
     std::string textHint_{kStandingHintText};
     std::string labelStap_;
-    std::string labelTijd_{"00:00"};
     std::string caption_;
     std::string sudTekst_;
-    HintRecord lastHint_;
-    std::string hintWindowCaption_;
-    int hintWindowShows_ = 0;
-    int showMeCell_ = 0, showMeNumber_ = 0;
     bool busy_ = false;
     bool scanStop_ = false;
-    int clockSeconds_ = 0;
-    int clockStart_ = 0;
-    bool clockPaused_ = false;
-    bool timerRunning_ = false;
+    GameEvents events_;
+    View seen_;
+    int scopes_ = 0;            // public routines running, one inside the other
+    unsigned alsoChanged_ = 0;  // changes no look can see (the options)
 };
 
 }  // namespace tavi

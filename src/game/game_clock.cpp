@@ -1,8 +1,7 @@
-// The clock of a game and the wells beside the board.
-#include "game/display_text.h"
-#include "game/game.h"
+// The clock of a game.
+#include "game/game_clock.h"
 
-#include <algorithm>
+#include "game/display_text.h"
 
 namespace tavi {
 
@@ -10,8 +9,8 @@ namespace {
 constexpr int kDay = 86400;
 }  // namespace
 
-void Game::StartClock() {
-    const int now = services_.clock.SecondOfDay();
+void GameClock::Start() {
+    const int now = time_.SecondOfDay();
     clockStart_ = now - clockSeconds_;
     if (clockSeconds_ > now) clockStart_ += kDay;
     clockPaused_ = false;
@@ -24,50 +23,73 @@ void Game::StartClock() {
     }
 }
 
-void Game::Tick() {
+void GameClock::Tick() {
     if (!timerRunning_ || clockPaused_) return;
-    int now = services_.clock.SecondOfDay();
+    int now = time_.SecondOfDay();
     if (now < clockStart_) now += kDay;  // past midnight
     clockSeconds_ = now - clockStart_;
     ShowClock();
 }
 
-void Game::ShowClock() {
+void GameClock::ShowClock() {
     labelTijd_ = options_.TimeShow
                      ? TwoDigits(clockSeconds_ / 60) + ":" + TwoDigits(clockSeconds_ % 60)
                      : "TIMER";
 }
 
-void Game::WindowMinimised() {
-    if (position_.SudokuSolved || !options_.TimeOn) return;
+void GameClock::Penalty(int seconds) {
+    if (!options_.TimeOn || !timerRunning_) return;
     Tick();
-    logRecord_.ElapsedMinutes = std::int16_t(std::min(clockSeconds_ / 60, 32767));
-    logRecord_.ElapsedSeconds = std::int16_t(clockSeconds_ % 60);
+    clockSeconds_ += seconds;
+    int now = time_.SecondOfDay();
+    if (clockSeconds_ > now) now += kDay;
+    clockStart_ = now - clockSeconds_;
+    ShowClock();
+}
+
+void GameClock::Pause() {
+    Tick();
+    pausedSeconds_ = clockSeconds_;
     clockPaused_ = true;
 }
 
-void Game::WindowRestored() {
+void GameClock::Resume() {
     if (!clockPaused_) return;
-    clockSeconds_ = logRecord_.ElapsedMinutes * 60 + logRecord_.ElapsedSeconds;
+    clockSeconds_ = pausedSeconds_;
     clockPaused_ = false;
-    const int now = services_.clock.SecondOfDay();
+    const int now = time_.SecondOfDay();
     clockStart_ = now - clockSeconds_;
     if (clockSeconds_ > now) clockStart_ += kDay;
     ShowClock();
 }
 
-void Game::SetupWells() {
-    for (auto& digit : wells_)
-        digit.fill(false);
-    for (int c = 0; c < 81; ++c)
-        if (const int d = ctx_.board.CurrentGrid[c]; d >= 1 && d <= 9)
-            wells_[d][Global::BoxOfCell[c]] = true;
+void GameClock::Off() {
+    timerRunning_ = false;
+    labelTijd_.clear();
 }
 
-bool Game::DigitCompleted(int digit) const {
-    for (bool filled : wells_[digit])
-        if (!filled) return false;
-    return true;
+void GameClock::WriteTo(SudokuLogRecord& record) {
+    Tick();
+    SetClock(record, clockSeconds_, options_.TimeOn, options_.TimeShow);
+}
+
+bool GameClock::BeatsBest(const SudokuRecord& sudoku) const {
+    const int best = sudoku.BestMinutes * 60 + sudoku.BestSeconds;
+    const bool noBest = sudoku.BestMinutes == 0 && sudoku.BestSeconds == 0;
+    return options_.TimeOn && (clockSeconds_ < best || noBest);
+}
+
+void GameClock::SetBest(SudokuRecord& sudoku) const {
+    sudoku.BestMinutes = std::int16_t(clockSeconds_ / 60);
+    sudoku.BestSeconds = std::int16_t(clockSeconds_ % 60);
+}
+
+std::string GameClock::TimeToBeat(const SudokuRecord& sudoku) const {
+    if (options_.TimeOn && options_.TimeShow &&
+        (sudoku.BestMinutes >= 1 || sudoku.BestSeconds >= 1))
+        return " - Time to beat >> " + TwoDigits(sudoku.BestMinutes) + ":" +
+               TwoDigits(sudoku.BestSeconds);
+    return {};
 }
 
 }  // namespace tavi

@@ -17,106 +17,53 @@ constexpr std::string_view kAutosolveCompleted =
     "you'll have to enable more techniques or guess more than once...";
 }  // namespace
 
-void Game::Breathe() {
-    if (services_.yield) services_.yield();
-}
-
 void Game::ApplyPaints(const std::vector<HintPaint>& paints) {
-    const auto& colors = options_.colors.HintColor;
-    for (const HintPaint& p : paints) {
-        switch (p.what) {
-            case HintPaint::Erase: WisKleuren(); break;
-            case HintPaint::Cell: cellPaint_[p.cell] = colors[p.role]; break;
-            case HintPaint::Digit: markPaint_[p.cell][p.digit - 1] = colors[p.role]; break;
-        }
-    }
+    const ChangeScope scope(*this);
+    brushes_.ApplyPaints(paints, options_.colors.HintColor);
 }
 
 bool Game::HiddenMarksShownFor(std::string_view question) {
-    bool hidden = false;
-    for (int d = 1; d <= 9; ++d)
-        hidden |= !filterOn_[d];
-    if (!hidden) return true;
+    if (!brushes_.AnyHidden()) return true;
     if (services_.prompter.Ask("Hidden pencilmarks detected", question, Buttons::YesNo,
                                Icon::Question) != Answer::Yes)
         return false;
     for (int d = 1; d <= 9; ++d)
-        if (!filterOn_[d]) ToonPencilmarks(d);
+        if (!FilterOn(d)) ToonPencilmarks(d);
     return true;
 }
 
-// A cell whose digit or marks are wrong: its row and column are picked for
-// Reset Cell and the cell is shown as attacked.
-void Game::ReportCell(int cell, const std::string& text, int penalty) {
-    Speel(kSoundWrongNumber);
-    SelectedRow = cell / 9;
-    SelectedColumn = cell % 9;
-    textHint_ = text;
-    HintPainter painter(ctx_.board);
-    painter.WisKleuren();
-    painter.ZetHintVak(cell, kAttackedCell);
-    ApplyPaints(painter.paints());
-    hintWindowCaption_ = kMainDuplicateCaption;
-    if (penalty) Penalty(penalty);
+// A cell whose digit or marks are wrong: for a wrong digit or a lost candidate
+// its row and column are picked for Reset Cell; the cell is shown as attacked.
+bool Game::ReportCell(const std::optional<CellReport>& report, bool penalty) {
+    if (!report) return false;
+    Speel(report->sound);
+    if (report->picksCell) {
+        SelectedRow = report->cell / 9;
+        SelectedColumn = report->cell % 9;
+    }
+    textHint_ = report->text;
+    ApplyPaints(report->paints);
+    hints_.Duplicate();
+    if (penalty) Penalty(report->penalty);
+    return true;
 }
 
 bool Game::ReportWrongNumber(bool penalty) {
-    const Board& b = ctx_.board;
-    for (int c = 0; c < 81; ++c) {
-        if (!b.Solution[c] || !b.CurrentGrid[c] || b.Solution[c] == b.CurrentGrid[c]) continue;
-        ReportCell(c,
-                   "Incorrect number (" + std::to_string(b.CurrentGrid[c]) + ") at cell " +
-                       CellName(c) + " - Use [Undo] or [Reset Cell]",
-                   penalty ? 10 : 0);
-        return true;
-    }
-    return false;
+    return ReportCell(HintFlow::WrongNumber(ctx_.board), penalty);
 }
 
 bool Game::ReportLostCandidate(bool penalty) {
-    const Board& b = ctx_.board;
-    for (int c = 0; c < 81; ++c) {
-        if (b.CurrentGrid[c] || !b.Solution[c] || b.Has(b.Solution[c], c)) continue;
-        ReportCell(c,
-                   "The correct number is no longer shown as a possibility at cell " + CellName(c) +
-                       " - Use [Undo] or [Reset Cell]",
-                   penalty ? 10 : 0);
-        return true;
-    }
-    return false;
+    return ReportCell(HintFlow::LostCandidate(ctx_.board), penalty);
 }
 
 bool Game::ReportStillMarked(bool penalty) {
-    const Board& b = ctx_.board;
-    for (int c = 0; c < 81; ++c) {
-        const int d = b.CurrentGrid[c];
-        if (!d || !Exclude(b, d, c)) continue;
-        Speel(kSoundStillMarked);
-        textHint_ = "Since number " + std::to_string(d) + " is located at cell " + CellName(c) +
-                    ", this number cannot longer be a candidate in that same row, column or block";
-        HintPainter painter(b);
-        painter.WisKleuren();
-        painter.ZetHintRij(c / 9, kPatternCell);
-        painter.ZetHintKolom(c % 9, kPatternCell);
-        painter.ZetHintBlok(Global::BoxLeftTopOfCell[c], kPatternCell);
-        painter.ZetHintVak(c, kAttackingCell);
-        painter.ZetHintNummer(c, d, kAttackingCandidates);
-        for (int peer : Peers[c])
-            painter.ZetAttackedCell(peer, d);
-        ApplyPaints(painter.paints());
-        hintWindowCaption_ = kMainDuplicateCaption;
-        if (penalty) Penalty(20);
-        return true;
-    }
-    return false;
+    return ReportCell(HintFlow::StillMarked(ctx_.board), penalty);
 }
 
 void Game::ShowTechniqueHint() {
     textHint_ = SchrijfHint(ctx_.hint, ctx_.board);
     ApplyPaints(PaintHint(ctx_.hint, ctx_.board));
-    lastHint_ = RecordAfterSchrijfHint(ctx_.hint);
-    hintWindowCaption_ = HintCaption(ctx_.hint);
-    if (options_.HintWindow) ++hintWindowShows_;
+    hints_.Shown(ctx_.hint, options_.HintWindow);
 }
 
 bool Game::SueDeCoqSpotted() {
@@ -139,24 +86,24 @@ void Game::SpecialHint() {
     }
     Speel(kSoundPenalty);
     WisKleuren();
-    cellPaint_[hit->cell] = options_.colors.HintColor[kBaseCell];
-    showMeCell_ = hit->cell;
-    showMeNumber_ = hit->digit;
-    HintStage = 1;
+    brushes_.SetCellPaint(hit->cell, options_.colors.HintColor[kBaseCell]);
+    hints_.ShowMe(hit->cell, hit->digit);
     commands_.HintCaption = "Show Me";
     textHint_ = std::string(kSpecialHintText);
-    hintWindowCaption_ = kMainDuplicateCaption;
+    hints_.Duplicate();
     Penalty(15);
 }
 
 void Game::CommandHint() {
+    const ChangeScope scope(*this);
     if (busy_) return;
-    if (HintStage != 0) {
+    if (hints_.Stage() != 0) {
         // The second stage of a hint without pencil marks: the digit too.
         Speel(kSoundPenalty);
         WisKleuren();
-        cellPaint_[showMeCell_] = options_.colors.HintColor[kBaseCell];
-        markPaint_[showMeCell_][showMeNumber_ - 1] = options_.colors.HintColor[kBaseCandidates];
+        brushes_.SetCellPaint(hints_.ShowMeCell(), options_.colors.HintColor[kBaseCell]);
+        brushes_.SetMarkPaint(hints_.ShowMeNumber(), hints_.ShowMeCell(),
+                              options_.colors.HintColor[kBaseCandidates]);
         textHint_ = std::string(kSpecialHintText);
         Penalty(15);
         ResetHintStage();
@@ -166,7 +113,7 @@ void Game::CommandHint() {
             "All pencilmarks must be visible to make hints available, shall I make them visible ?"))
         return;
     if (ReportWrongNumber(true)) return;
-    if (options_.PencilmarksOff && position_.ChosenLevel < 4) return SpecialHint();
+    if (options_.PencilmarksOff && position().ChosenLevel < 4) return SpecialHint();
     if (ReportLostCandidate(true) || ReportStillMarked(true)) return;
 
     busy_ = true;
@@ -230,8 +177,9 @@ bool Game::AutoSolveBoard() {
 }
 
 void Game::CommandAutoSolve() {
+    const ChangeScope scope(*this);
     if (busy_) return;
-    if (position_.ChosenLevel < 4 && options_.PencilmarksOff) return;
+    if (position().ChosenLevel < 4 && options_.PencilmarksOff) return;
     if (!HiddenMarksShownFor(
             "All pencilmarks must be visible to start the Autosolver, shall I make them visible ?"))
         return;
@@ -242,11 +190,12 @@ void Game::CommandAutoSolve() {
         return;
     }
     // A game Autosolve has touched can't be saved any more.
-    position_.SudokuAutosolved = true;
+    session_.position().SudokuAutosolved = true;
     AutoSolveBoard();
 }
 
 void Game::CommandScan() {
+    const ChangeScope scope(*this);
     if (commands_.ScanCaption == "Stop") {
         scanStop_ = true;
         return;
@@ -254,8 +203,9 @@ void Game::CommandScan() {
     if (busy_) return;
     ResetHintStage();
     LeaveBoard();
+    LibraryPosition& position_ = session_.position();
     const int level = position_.ChosenLevel;
-    const auto file = PuzzleFile(folders_.DataFolder, LevelStem(level));
+    const auto file = session_.ChosenFile();
     if (!FileExists(file)) {
         services_.prompter.Message("File Error",
                                    "Source file: " + file.filename().string() + " not found!");

@@ -8,39 +8,17 @@ namespace tavi {
 MoveStep& Game::BeginStep(int cell) {
     commands_.Undo = true;
     commands_.Redo = false;
-    // A new step wipes the redo tail.
-    log_.resize(position_.CurrentStep);
-    log_.push_back({});
-    ++position_.CurrentStep;
+    MoveStep& step = moves_.BeginStep(cell);
     ShowStepCount();
-    MoveStep& step = log_.back();
-    step.LogCell = cell;
     return step;
 }
 
-void Game::ShowStepCount() { labelStap_ = std::to_string(position_.CurrentStep); }
-
-void Game::TakePeerMarks(int digit, int cell, MoveStep& step) {
-    const CandidateMask bit = DigitBit(digit);
-    auto take = [&](int c, int& field, int index) {
-        if (!(ctx_.board.Candidates[c] & bit)) return;
-        ctx_.board.Candidates[c] &= CandidateMask(~bit);
-        field |= 1 << index;
-    };
-    const int row = cell / 9, col = cell % 9, leftTop = Global::BoxLeftTopOfCell[cell];
-    for (int i = 0; i < 9; ++i)
-        take(col + 9 * i, step.LogColumnMarks, i);
-    for (int i = 0; i < 9; ++i)
-        take(9 * row + i, step.LogRowMarks, i);
-    for (int x = 0; x < 3; ++x)
-        for (int y = 0; y < 3; ++y)
-            take(leftTop + 9 * y + x, step.LogBoxMarks, y + 3 * x);
-}
+void Game::ShowStepCount() { labelStap_ = std::to_string(moves_.CurrentStep()); }
 
 bool Game::BoardSolved() const {
     for (int c = 0; c < 81; ++c) {
         const int d = ctx_.board.CurrentGrid[c];
-        if (d == 0 || d != sudoku_.Solution[c]) return false;
+        if (d == 0 || d != sudoku().Solution[c]) return false;
     }
     return true;
 }
@@ -49,31 +27,21 @@ bool Game::BoardSolved() const {
 // board ends the game (once).
 void Game::EndTest() {
     if (options_.Wells) SetupWells();
-    if (!position_.SudokuSolved && BoardSolved()) ZetOpgelost();
+    if (!position().SudokuSolved && BoardSolved()) ZetOpgelost();
 }
 
 void Game::MarkMouseUp(int digit, int cell, MouseButton button, bool inside) {
+    const ChangeScope scope(*this);
     if (busy_ || !gridEnabled_ || digit < 1 || digit > 9 || cell < 0 || cell > 80) return;
     if (!inside) return EndTest();
-    if (brush_.BrushActive) {
-        const bool left = button == MouseButton::Left;
-        const bool has = left ? brush_.LeftBrush : brush_.RightBrush;
-        const bool cellBrush = left ? brush_.LeftCellBrush : brush_.RightCellBrush;
-        const Color color = left ? brush_.LeftColor : brush_.RightColor;
-        if (has && button != MouseButton::Middle) {
-            if (cellBrush) {
-                ToggleCellPaint(cell, color);
-            } else if (filterOn_[digit]) {
-                auto& paint = markPaint_[cell][digit - 1];
-                paint = paint == color ? std::nullopt : std::optional<Color>(color);
-            }
-        }
+    if (brushes_.Active()) {
+        brushes_.MarkClicked(digit, cell, button);
         return EndTest();
     }
     // Only a mark that is there can be clicked, and a filtered digit not at all.
-    if (ctx_.board.CurrentGrid[cell] || !ctx_.board.Has(digit, cell) || !filterOn_[digit])
+    if (ctx_.board.CurrentGrid[cell] || !ctx_.board.Has(digit, cell) || !FilterOn(digit))
         return EndTest();
-    const bool noMarks = position_.ChosenLevel < 4 && options_.PencilmarksOff;
+    const bool noMarks = position().ChosenLevel < 4 && options_.PencilmarksOff;
     if (button == MouseButton::Right && noMarks) return EndTest();
 
     ResetHintStage();
@@ -84,7 +52,8 @@ void Game::MarkMouseUp(int digit, int cell, MouseButton button, bool inside) {
         ctx_.board.Candidates[cell] = 0;
         Speel(kSoundPlaced);
         ctx_.board.CurrentGrid[cell] = std::uint8_t(digit);
-        if (!noMarks && options_.Pencilmarks) TakePeerMarks(digit, cell, step);
+        if (!noMarks && options_.Pencilmarks)
+            tavi::MoveLog::TakePeerMarks(ctx_.board, digit, cell, step);
     } else if (button == MouseButton::Right) {
         Speel(kSoundMarkRemoved);
         step.LogDigit = -digit;
@@ -103,7 +72,7 @@ void Game::ZetAuto(Board& board, int digit, int cell) {
     board.Candidates[cell] = 0;
     board.CurrentGrid[cell] = std::uint8_t(digit);
     // The solver's placements always update the peers, whatever the options say.
-    TakePeerMarks(digit, cell, step);
+    tavi::MoveLog::TakePeerMarks(board, digit, cell, step);
 }
 
 void Game::CandidateRemoved(int digit, int cell) {
@@ -113,30 +82,26 @@ void Game::CandidateRemoved(int digit, int cell) {
 }
 
 void Game::MarkMouseMove(int digit, int cell) {
+    const ChangeScope scope(*this);
     const bool onBoard = digit >= 1 && digit <= 9 && cell >= 0 && cell <= 80;
     if (options_.Dimmed) HoverCell = onBoard ? (digit - 1) * 81 + cell : kNoHover;
 }
 
-void Game::GridMouseMove() { HoverCell = kNoHover; }
+void Game::GridMouseMove() {
+    const ChangeScope scope(*this);
+    HoverCell = kNoHover;
+}
 
 void Game::GridMouseUp(int cell, MouseButton button, bool inside) {
-    if (!gridEnabled_ || !inside || !brush_.BrushActive || cell < 0 || cell > 80) return;
-    const bool left = button == MouseButton::Left;
-    if (button == MouseButton::Middle || !(left ? brush_.LeftCellBrush : brush_.RightCellBrush))
-        return;
-    if (!(left ? brush_.LeftBrush : brush_.RightBrush)) return;
-    ToggleCellPaint(cell, left ? brush_.LeftColor : brush_.RightColor);
+    const ChangeScope scope(*this);
+    if (!gridEnabled_ || !inside || !brushes_.Active() || cell < 0 || cell > 80) return;
+    brushes_.CellClicked(cell, button);
 }
 
 void Game::RowHeaderUp(int row, MouseButton button, bool inside) {
+    const ChangeScope scope(*this);
     if (!inside || row < 0 || row > 8) return;
-    if (brush_.BrushActive) {
-        const bool left = button == MouseButton::Left;
-        if (button != MouseButton::Middle && (left ? brush_.LeftCellBrush : brush_.RightCellBrush))
-            for (int i = 0; i < 9; ++i)
-                SetCellPaint(9 * row + i, left ? brush_.LeftColor : brush_.RightColor);
-        return;
-    }
+    if (brushes_.Active()) return brushes_.RowClicked(row, button);
     if (button != MouseButton::Left) return;
     if (SelectedRow == row) {
         SelectedRow = kNoLine;
@@ -147,14 +112,9 @@ void Game::RowHeaderUp(int row, MouseButton button, bool inside) {
 }
 
 void Game::ColumnHeaderUp(int column, MouseButton button, bool inside) {
+    const ChangeScope scope(*this);
     if (!inside || column < 0 || column > 8) return;
-    if (brush_.BrushActive) {
-        const bool left = button == MouseButton::Left;
-        if (button != MouseButton::Middle && (left ? brush_.LeftCellBrush : brush_.RightCellBrush))
-            for (int i = 0; i < 9; ++i)
-                SetCellPaint(column + 9 * i, left ? brush_.LeftColor : brush_.RightColor);
-        return;
-    }
+    if (brushes_.Active()) return brushes_.ColumnClicked(column, button);
     if (button != MouseButton::Left) return;
     if (SelectedColumn == column) {
         SelectedColumn = kNoLine;
@@ -165,40 +125,27 @@ void Game::ColumnHeaderUp(int column, MouseButton button, bool inside) {
 }
 
 void Game::DigitButtonUp(int digit, MouseButton button, bool inside) {
+    const ChangeScope scope(*this);
     if (!inside || digit < 1 || digit > 9) return;
-    if (brush_.BrushActive) {
-        const bool left = button == MouseButton::Left;
-        if (button == MouseButton::Middle || !(left ? brush_.LeftBrush : brush_.RightBrush)) return;
-        const Color color = left ? brush_.LeftColor : brush_.RightColor;
-        if (left ? brush_.LeftCellBrush : brush_.RightCellBrush) {
-            // The button read as a box: the boxes are numbered from the first button.
-            const int leftTop = Global::BoxLeftTop[digit - 1];
-            for (int p = 0; p < 9; ++p)
-                SetCellPaint(leftTop + 9 * (p / 3) + p % 3, color);
-        } else if (filterOn_[digit]) {
-            for (int c = 0; c < 81; ++c)
-                markPaint_[c][digit - 1] = color;
-        }
-        return;
-    }
+    if (brushes_.Active()) return brushes_.DigitClicked(digit, button);
     if (button != MouseButton::Left || MakeMode) return;
-    if (filterOn_[digit])
-        filterOn_[digit] = false;
+    if (FilterOn(digit))
+        brushes_.Hide(digit);
     else
         ToonPencilmarks(digit);
 }
 
 void Game::ToonPencilmarks(int digit) {
-    filterOn_[digit] = true;
-    for (int c = 0; c < 81; ++c)
-        markPaint_[c][digit - 1].reset();
+    const ChangeScope scope(*this);
+    brushes_.ToonPencilmarks(digit);
 }
 
 void Game::PaletteUp(int index, MouseButton button, bool inside) {
+    const ChangeScope scope(*this);
     if (MakeMode || !inside || index < 0 || index >= kPaletteLabels) return;
     if (button == MouseButton::Middle) return;
     if (index == 4) {
-        brush_ = {};
+        brushes_.Off();
         textHint_ = std::string(kStandingHintText);
         return;
     }
@@ -206,35 +153,16 @@ void Game::PaletteUp(int index, MouseButton button, bool inside) {
         WisKleuren();
         return;
     }
-    const bool left = button == MouseButton::Left;
-    const std::string mark = left ? " L" : " R";
-    for (auto& caption : brush_.PaletteCaptions)
-        if (caption == mark) caption.clear();
-    // The label that took the other button's brush drops it.
-    if (brush_.PaletteCaptions[index] == (left ? " R" : " L")) {
-        (left ? brush_.RightBrush : brush_.LeftBrush) = false;
-    }
-    brush_.PaletteCaptions[index] = mark;
-    brush_.BrushActive = true;
-    const bool cellBrush = index >= 6;
-    const Color color = options_.colors.LabelBack[index];
-    if (left) {
-        brush_.LeftBrush = true;
-        brush_.LeftColor = color;
-        brush_.LeftCellBrush = cellBrush;
-    } else {
-        brush_.RightBrush = true;
-        brush_.RightColor = color;
-        brush_.RightCellBrush = cellBrush;
-    }
+    brushes_.Pick(index, button == MouseButton::Left, options_.colors.LabelBack[index]);
 }
 
 void Game::CommandResetCell() {
+    const ChangeScope scope(*this);
     if (busy_) return;  // a search is running
     if (SelectedRow == kNoLine || SelectedColumn == kNoLine) return;
     ResetHintStage();
     const int cell = SelectedRow * 9 + SelectedColumn;
-    if (sudoku_.Puzzle[cell] != 0) return;  // clues can't be reset
+    if (sudoku().Puzzle[cell] != 0) return;  // clues can't be reset
     Speel(kSoundResetCell);
     const bool redo = commands_.Redo;
     MoveStep& step = BeginStep(cell);
@@ -248,18 +176,8 @@ void Game::CommandResetCell() {
 }
 
 void Game::WisKleuren() {
-    cellPaint_.fill(std::nullopt);
-    for (auto& marks : markPaint_)
-        marks.fill(std::nullopt);
+    const ChangeScope scope(*this);
+    brushes_.WisKleuren();
 }
-
-void Game::ToggleCellPaint(int cell, Color color) {
-    const bool had = cellPaint_[cell] == color;
-    cellPaint_[cell] = had ? std::nullopt : std::optional<Color>(color);
-    for (auto& mark : markPaint_[cell])
-        mark = cellPaint_[cell];
-}
-
-void Game::SetCellPaint(int cell, Color color) { cellPaint_[cell] = color; }
 
 }  // namespace tavi

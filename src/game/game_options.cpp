@@ -16,6 +16,10 @@ void Game::RebuildMarks() {
 }
 
 void Game::CommandOptions(const Options& before) {
+    const ChangeScope scope(*this);
+    // The options window may have changed anything the window draws.
+    alsoChanged_ = ~0u & ~unsigned(kChangeHintWindow);
+    const LibraryPosition& position_ = session_.position();
     ResetHintStage();  // a waiting "Show Me" is for the board as it was
     const bool gameOpen = !position_.SudokuSolved && position_.OpenLevel > 0;
     const bool lowLevel = gameOpen && position_.OpenLevel < 4;
@@ -30,9 +34,9 @@ void Game::CommandOptions(const Options& before) {
     if ((offChanged || updateChanged) && marksBefore != marksNow) {
         ResetHintStage();
         WisKleuren();
-        brush_ = {};
+        brushes_.Off();
         if (marksNow) {
-            filterOn_.fill(true);
+            brushes_.ShowAll();
             RebuildMarks();
         } else {
             SpecialPencilmarks();
@@ -42,16 +46,6 @@ void Game::CommandOptions(const Options& before) {
     if (options_.TimeOn != before.TimeOn)
         services_.prompter.Message("Time option changed",
                                    "Switching Time on/off will take place on the next sudoku");
-}
-
-void Game::Penalty(int seconds) {
-    if (!options_.TimeOn || !timerRunning_) return;
-    Tick();
-    clockSeconds_ += seconds;
-    int now = services_.clock.SecondOfDay();
-    if (clockSeconds_ > now) now += 86400;
-    clockStart_ = now - clockSeconds_;
-    ShowClock();
 }
 
 }  // namespace tavi

@@ -16,8 +16,9 @@ constexpr std::string_view kInProgressTitle = "Sudoku in progress";
 }  // namespace
 
 void Game::LeaveBoard() {
+    const LibraryPosition& position_ = session_.position();
     if (position_.SudokuAutosolved) ZetOpgelost();
-    if (position_.SudokuSolved || position_.CurrentStep < 1) return;
+    if (position_.SudokuSolved || moves_.CurrentStep() < 1) return;
     if (options_.AutoSave) {
         CommandSave();
     } else if (options_.AskSave) {
@@ -28,29 +29,27 @@ void Game::LeaveBoard() {
         } else if (ask.Ask(kInProgressTitle,
                            "Do you want to erase the progress of the current sudoku ?",
                            Buttons::YesNo, Icon::Question) == Answer::Yes) {
-            AutoWisProgress(folders_, position_, sudoku_, logRecord_);
+            session_.EraseProgress();
         }
     }
 }
 
 void Game::CommandNew() {
+    const ChangeScope scope(*this);
     if (busy_) return;  // a search is running
     ResetHintStage();
     LeaveBoard();
-    const int level = position_.ChosenLevel;
-    const long count = CheckedPair(folders_.DataFolder, LevelStem(level), &services_.prompter);
-    // File order, back to the first after the last.
-    int& number = position_.PuzzleNumber[level];
-    number = count > number ? number + 1 : 1;
+    session_.NextPuzzle();
     LoadPuzzle(true);
 }
 
 void Game::CommandOpen() {
+    const ChangeScope scope(*this);
     if (busy_) return;  // a search is running
     ResetHintStage();
     LeaveBoard();
-    const int level = position_.ChosenLevel;
-    const long count = CheckedPair(folders_.DataFolder, LevelStem(level), &services_.prompter);
+    const int level = position().ChosenLevel;
+    const long count = session_.ChosenCount();
     if (count < 1) {
         services_.prompter.Beep();
         services_.prompter.Ask("Can't open sudoko",
@@ -67,37 +66,28 @@ void Game::CommandOpen() {
             number = LeadingNumber(*answer);
         } while (number < 1 || number > count);
     }
-    position_.PuzzleNumber[level] = int(number);
+    session_.position().PuzzleNumber[level] = int(number);
     LoadPuzzle(true);
 }
 
 bool Game::LoadPuzzle(bool askToGoOn) {
-    const int level = position_.ChosenLevel;
-    const int number = position_.PuzzleNumber[level];
+    LibraryPosition& position_ = session_.position();
+    const SudokuRecord& sudoku_ = session_.sudoku();
     // Read before anything changes: a record that can't be read leaves the game,
     // its board, clock and commands as they were.
-    SudokuRecord sudoku;
-    SudokuLogRecord log;
-    if (!ReadPair(folders_.DataFolder, LevelStem(level), number, sudoku, log, &services_.prompter))
-        return false;
-    sudoku_ = sudoku;
-    logRecord_ = log;
+    if (!session_.ReadChosen()) return false;
     position_.SudokuSolved = false;
     position_.SudokuAutosolved = false;
     ClearGrid();
-    position_.OpenLevel = 0;
-    position_.OpenRecord = 0;
-    clockSeconds_ = 0;  // a new game starts its own clock; a resumed one reads it
+    session_.Closed();
+    clock_.SetSeconds(0);  // a new game starts its own clock; a resumed one reads it
     EnableGrid();
-    log_.clear();
-    position_.CurrentStep = 0;
+    moves_.Clear();
     ctx_.board.Puzzle = sudoku_.Puzzle;
     ctx_.board.Solution = sudoku_.Solution;
     sudTekst_ = FormatDigits(sudoku_.Puzzle, '0');
 
-    bool goOn = false;
-    for (int c = 0; c < 81 && !goOn; ++c)
-        goOn = sudoku_.Puzzle[c] == 0 && logRecord_.Grid[c] > 0;
+    bool goOn = session_.HasProgress();
     if (goOn && askToGoOn)
         goOn = services_.prompter.Ask("Puzzle in progress",
                                       "Puzzle is already worked on. Carry on from its present "
@@ -119,16 +109,11 @@ bool Game::LoadPuzzle(bool askToGoOn) {
 // The game as it was saved: digits, marks, the move log for undo, and the clock
 // with the two clock options its sign carries.
 void Game::RestoreProgress() {
-    const int steps = std::clamp<int>(logRecord_.StepCount, 0, kLogSteps);
-    position_.CurrentStep = steps;
-    log_.assign(steps, {});
-    for (int i = 0; i < steps; ++i)
-        log_[i] = {logRecord_.LogDigit[i],    logRecord_.LogCell[i],
-                   logRecord_.LogOwnMarks[i], logRecord_.LogColumnMarks[i],
-                   logRecord_.LogRowMarks[i], logRecord_.LogBoxMarks[i]};
+    const SudokuLogRecord& logRecord_ = session_.logRecord();
+    moves_.Restore(logRecord_);
     ShowStepCount();
     for (int c = 0; c < 81; ++c) {
-        const int d = logRecord_.Grid[c] <= 9 ? logRecord_.Grid[c] : 0;  // checked on read
+        const int d = logRecord_.Grid[c] <= 9 ? logRecord_.Grid[c] : 0;
         ctx_.board.CurrentGrid[c] = std::uint8_t(d);
         ctx_.board.Candidates[c] =
             d ? 0 : CandidateMask((logRecord_.SavedCandidates[c] >> 1) & kAllCandidates);
@@ -136,30 +121,27 @@ void Game::RestoreProgress() {
     const SavedClock clock = ReadClock(logRecord_);
     options_.TimeOn = clock.TimeOn;
     options_.TimeShow = clock.TimeShow;
-    clockSeconds_ = clock.seconds;
+    clock_.SetSeconds(clock.seconds);
     SetPlayingCommands(true);
 }
 
 void Game::AfterLoad() {
+    const LibraryPosition& position_ = session_.position();
     if ((position_.ChosenLevel < 4 && options_.PencilmarksOff) || !options_.Pencilmarks)
         SpecialPencilmarks();
     textHint_ = std::string(kPlayingHintText);
-    StartClock();
+    clock_.Start();
 
     const int level = position_.ChosenLevel;
     const int number = position_.PuzzleNumber[level];
     caption_ = WindowTitle + " - " + std::string(LevelName(level)) + " - " + std::to_string(number);
-    if (options_.TimeOn && options_.TimeShow &&
-        (sudoku_.BestMinutes >= 1 || sudoku_.BestSeconds >= 1))
-        caption_ += " - Time to beat >> " + TwoDigits(sudoku_.BestMinutes) + ":" +
-                    TwoDigits(sudoku_.BestSeconds);
+    caption_ += clock_.TimeToBeat(sudoku());
     if (options_.Wells) SetupWells();
-    position_.OpenLevel = level;
-    position_.OpenRecord = number;
+    session_.Opened();
 }
 
 void Game::SpecialPencilmarks() {
-    filterOn_.fill(true);
+    brushes_.ShowAll();
     for (int c = 0; c < 81; ++c)
         if (ctx_.board.CurrentGrid[c] == 0) ctx_.board.Candidates[c] = kAllCandidates;
 }
@@ -173,16 +155,9 @@ void Game::SetPlayingCommands(bool progressRestored) {
 }
 
 bool Game::OpenLastSudoku() {
-    const int level = position_.ChosenLevel;
-    const int number = position_.PuzzleNumber[level];
-    if (CheckedPair(folders_.DataFolder, LevelStem(level), &services_.prompter) <= 0) return false;
-    SudokuRecord sudoku;
-    SudokuLogRecord log;
-    if (!ReadPair(folders_.DataFolder, LevelStem(level), number, sudoku, log, nullptr))
-        return false;
-    if (log.StepCount == 0) return false;
-    sudoku_ = sudoku;
-    logRecord_ = log;
+    LibraryPosition& position_ = session_.position();
+    const SudokuRecord& sudoku_ = session_.sudoku();
+    if (!session_.ReadLast()) return false;
     position_.SudokuSolved = false;
     position_.SudokuAutosolved = false;
     ClearGrid();
@@ -196,12 +171,14 @@ bool Game::OpenLastSudoku() {
 }
 
 void Game::CommandSave() {
+    const ChangeScope scope(*this);
     if (busy_) return;  // a search is running
+    const LibraryPosition& position_ = session_.position();
     Prompter& say = services_.prompter;
     if (position_.SudokuSolved && !position_.SudokuAutosolved)
         return say.Message("Sudoku solved",
                            "Sudoku already solved, you can only save unsolved sudokus !");
-    if (position_.CurrentStep == 0)
+    if (moves_.CurrentStep() == 0)
         return say.Message("Sudoku not in progress",
                            "You cannot save a sudoku that hasn't been changed since it was "
                            "opened !");
@@ -210,41 +187,32 @@ void Game::CommandSave() {
                            "Autosolve function is invoked at the current sudoku, therefore you "
                            "cannot save this sudoku !");
     if (position_.OpenLevel == 0 || position_.OpenRecord == 0) return;
-    SaveLastSudoku(services_.store, position_);
+    session_.SavePosition(moves_.CurrentStep());
 
     // A record holds 100 steps: a longer game is refused and the record on disk
     // keeps its former state.
-    if (position_.CurrentStep > kLogSteps) return say.Message(kStepLimitTitle, kStepLimitText);
-    SudokuLogRecord record = logRecord_;
-    record.StepCount = std::int16_t(position_.CurrentStep);
-    for (int i = 0; i < position_.CurrentStep; ++i) {
-        const MoveStep& s = log_[i];
-        record.LogDigit[i] = std::int16_t(s.LogDigit);
-        record.LogCell[i] = std::int16_t(s.LogCell);
-        record.LogOwnMarks[i] = std::int16_t(s.LogOwnMarks);
-        record.LogColumnMarks[i] = std::int16_t(s.LogColumnMarks);
-        record.LogRowMarks[i] = std::int16_t(s.LogRowMarks);
-        record.LogBoxMarks[i] = std::int16_t(s.LogBoxMarks);
-    }
+    if (moves_.CurrentStep() > kLogSteps) return say.Message(kStepLimitTitle, kStepLimitText);
+    SudokuLogRecord record = session_.logRecord();
+    moves_.WriteTo(record);
     for (int c = 0; c < 81; ++c) {
         record.Grid[c] = ctx_.board.CurrentGrid[c];
         record.SavedCandidates[c] =
             record.Grid[c] ? 0 : std::int16_t(ctx_.board.Candidates[c] << 1);
     }
-    Tick();
-    SetClock(record, clockSeconds_, options_.TimeOn, options_.TimeShow);
-    if (SaveGameLog(folders_, position_, record, &say)) logRecord_ = record;
+    clock_.WriteTo(record);
+    session_.SaveGame(record);
 }
 
 void Game::CommandSolution() {
+    const ChangeScope scope(*this);
     if (busy_) return;  // a search is running
-    timerRunning_ = false;
+    clock_.Stop();
     Speel(kSoundSolution);
-    HintStage = 0;
+    hints_.ResetStage();
     WisKleuren();
     for (int c = 0; c < 81; ++c) {
         ctx_.board.Candidates[c] = 0;
-        ctx_.board.CurrentGrid[c] = sudoku_.Solution[c];
+        ctx_.board.CurrentGrid[c] = sudoku().Solution[c];
     }
     if (options_.Wells) SetupWells();
     // As the end of a game, without the applause and the best time.
@@ -263,10 +231,12 @@ void Game::OpenPage(const std::string& page) {
         services_.prompter.Ask("URL Failed", "Web Page not Opened", Buttons::Ok, Icon::Exclamation);
 }
 
-void Game::CommandHelp() { OpenPage((folders_.AppFolder / "help" / "index.html").string()); }
+void Game::CommandHelp() {
+    OpenPage((session_.folders().AppFolder / "help" / "index.html").string());
+}
 
 void Game::WebSiteClick() {
-    OpenPage((folders_.AppFolder / "help" / "index.html").string() + "#about");
+    OpenPage((session_.folders().AppFolder / "help" / "index.html").string() + "#about");
 }
 
 }  // namespace tavi

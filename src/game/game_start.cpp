@@ -16,17 +16,21 @@ constexpr std::string_view kSaveQuestion = "Do you want to save the current sudo
 }  // namespace
 
 Game::Game(GameServices services, LibraryFolders folders, Options& options)
-    : services_(services), folders_(std::move(folders)), options_(options) {
+    : services_(services),
+      options_(options),
+      session_(std::move(folders), services.store, services.prompter),
+      clock_(services.clock, options) {
     ctx_.listener = this;
     ctx_.confirmPattern = [this](const HintRecord&) { return SueDeCoqSpotted(); };
-    filterOn_.fill(true);
 }
 
 bool Game::Start() {
+    const ChangeScope scope(*this);
+    LibraryPosition& position_ = session_.position();
     // Folders and the delivered library first; nothing reads a library before.
     std::error_code ignored;
-    std::filesystem::create_directories(folders_.DataFolder, ignored);
-    CopyLibraryFiles(folders_);
+    std::filesystem::create_directories(session_.folders().DataFolder, ignored);
+    CopyLibraryFiles(session_.folders());
 
     position_.ChosenLevel = 2;
     MakeMode = false;
@@ -35,9 +39,10 @@ bool Game::Start() {
     ReportSettingsProblems();
     if (!services_.sounds || !services_.sounds->Available()) options_.Sounds = false;
 
-    if (!PrepareLogFiles(folders_, options_, services_.store, services_.prompter)) return false;
+    if (!PrepareLogFiles(session_.folders(), options_, services_.store, services_.prompter))
+        return false;
 
-    brush_ = {};
+    brushes_.Off();
     position_.SudokuSolved = true;
     position_.SudokuAutosolved = false;
     ClearGrid();
@@ -45,9 +50,8 @@ bool Game::Start() {
     ClearSudokuData();
     HoverCell = kNoHover;
 
-    position_.OpenLevel = 0;
-    position_.OpenRecord = 0;
-    HaalLaatsteSudoku(services_.store, position_);
+    session_.Closed();
+    session_.ReadPosition();
     if (position_.LastLevel > 0) {
         const int level = position_.LastLevel;
         position_.ChosenLevel = level;
@@ -84,7 +88,8 @@ void Game::ReportSettingsProblems() {
 }
 
 void Game::OptionType(int level) {
-    if (level >= 1 && level <= 9) position_.ChosenLevel = level;
+    const ChangeScope scope(*this);
+    if (level >= 1 && level <= 9) session_.position().ChosenLevel = level;
 }
 
 void Game::Speel(int id) {
@@ -92,18 +97,16 @@ void Game::Speel(int id) {
 }
 
 void Game::ZetOpgelost() {
+    const ChangeScope scope(*this);
     if (MakeMode) return;
-    Tick();
-    timerRunning_ = false;
-    if (!position_.SudokuAutosolved) {
+    clock_.Tick();
+    clock_.Stop();
+    if (!position().SudokuAutosolved) {
         Speel(kSoundSolved);
-        const int best = sudoku_.BestMinutes * 60 + sudoku_.BestSeconds;
-        const bool noBest = sudoku_.BestMinutes == 0 && sudoku_.BestSeconds == 0;
-        if (options_.TimeOn && (clockSeconds_ < best || noBest)) {
+        if (clock_.BeatsBest(sudoku())) {
             services_.prompter.Message("Congratulations", "New best time !!!");
-            sudoku_.BestMinutes = std::int16_t(clockSeconds_ / 60);
-            sudoku_.BestSeconds = std::int16_t(clockSeconds_ % 60);
-            BewaarBestTime(folders_, position_, sudoku_, &services_.prompter);
+            clock_.SetBest(session_.sudoku());
+            session_.SaveBestTime();
         }
     }
     CloseGameRecord();
@@ -112,38 +115,41 @@ void Game::ZetOpgelost() {
 }
 
 void Game::CloseGameRecord() {
+    const ChangeScope scope(*this);
+    LibraryPosition& position_ = session_.position();
     if (options_.AutoErase ||
         services_.prompter.Ask("Sudoku solved",
                                "Do you want to erase progress of current solved sudoku ?",
                                Buttons::YesNo, Icon::Question) == Answer::Yes) {
-        AutoWisProgress(folders_, position_, sudoku_, logRecord_);
+        session_.EraseProgress();
         position_.SudokuSolved = true;
     }
     // A solved game whose progress the user keeps stays "Busy" if it is in
     // progress on disk, and comes back at the next start.
-    if (!position_.SudokuSolved && !SudInProgress(folders_, position_))
-        position_.SudokuSolved = true;
-    SaveLastSudoku(services_.store, position_);
+    if (!position_.SudokuSolved && !session_.OnDisk()) position_.SudokuSolved = true;
+    session_.SavePosition(moves_.CurrentStep());
     position_.SudokuSolved = true;
 }
 
 void Game::WriteSettingsOnExit() {
-    SaveLastSudoku(services_.store, position_);
+    session_.SavePosition(moves_.CurrentStep());
     SchrijfOpties(services_.store, options_);
 }
 
 bool Game::CommandExit() {
+    const ChangeScope scope(*this);
     if (busy_) return false;  // not while a search is running
     Prompter& ask = services_.prompter;
     auto plainYes = [&] {
         return ask.Ask(kQuitTitle, kQuitText, Buttons::YesNo, Icon::Question) == Answer::Yes;
     };
+    LibraryPosition& position_ = session_.position();
     auto discard = [&] {
         position_.SudokuSolved = true;
-        position_.CurrentStep = 0;
+        moves_.Clear();
     };
     if (position_.SudokuAutosolved) ZetOpgelost();
-    if (position_.SudokuSolved || position_.CurrentStep == 0) {
+    if (position_.SudokuSolved || moves_.CurrentStep() == 0) {
         if (!plainYes()) return false;
     } else if (options_.AutoSave) {
         if (!plainYes()) return false;
@@ -165,7 +171,9 @@ bool Game::CommandExit() {
 }
 
 bool Game::QueryUnload() {
+    const ChangeScope scope(*this);
     if (busy_) return false;  // not while a search is running
+    LibraryPosition& position_ = session_.position();
     Prompter& ask = services_.prompter;
     auto plainYes = [&] {
         return ask.Ask(kQuitTitle, kQuitText, Buttons::YesNo, Icon::Question) == Answer::Yes;
@@ -178,11 +186,11 @@ bool Game::QueryUnload() {
             CommandSave();
         } else {
             position_.SudokuSolved = true;
-            position_.CurrentStep = 0;
+            moves_.Clear();
         }
         return true;
     };
-    if (position_.SudokuSolved || position_.CurrentStep == 0) {
+    if (position_.SudokuSolved || moves_.CurrentStep() == 0) {
         if (!plainYes()) return false;
     } else if (options_.AutoSave) {
         if (!plainYes()) return false;
@@ -201,26 +209,23 @@ bool Game::QueryUnload() {
 void Game::ClearGrid() {
     ctx_.board.Candidates.fill(kAllCandidates);
     ctx_.board.CurrentGrid.fill(0);
-    WisKleuren();
-    filterOn_.fill(true);
+    brushes_.WisKleuren();
+    brushes_.ShowAll();
     labelStap_.clear();
     ResetHintStage();
     SelectedRow = SelectedColumn = kNoLine;
 }
 
 void Game::ClearSudokuData() {
-    sudoku_ = {};
-    logRecord_ = {};
-    logRecord_.SavedCandidates.fill(1022);
+    session_.Forget();
     ctx_.board.Puzzle.fill(0);
     ctx_.board.Solution.fill(0);
     ctx_.board.CurrentGrid.fill(0);
-    position_.CurrentStep = 0;
-    log_.clear();
+    moves_.Clear();
 }
 
 void Game::ResetHintStage() {
-    HintStage = 0;
+    hints_.ResetStage();
     commands_.HintCaption = "Hint";
 }
 

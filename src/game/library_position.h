@@ -8,8 +8,8 @@
 #include <cstdint>
 #include <string_view>
 
-#include "library/library_files.h"
 #include "grid/notifier.h"
+#include "library/library_files.h"
 #include "library/records.h"
 #include "settings/settings_store.h"
 
@@ -23,7 +23,7 @@ struct LibraryPosition {
     std::array<int, 10> StoredNumber{};  // the same, as read at start
     int LastLevel = 0;                   // the level of the last run
     std::array<bool, 10> LevelBusy{};    // by level: left with a game in progress
-    int CurrentStep = 0;                 // steps in the move log of the game in play
+    int CurrentStep = 0;                 // steps of the game in play, as last written
     bool SudokuSolved = true;            // no game going on
     bool SudokuAutosolved = false;
 };

@@ -69,7 +69,6 @@ void BoardWidget::mouseReleaseEvent(QMouseEvent* e) {
         case BoardSpot::ColumnHeader: game_.ColumnHeaderUp(target.index, *button, inside); break;
         case BoardSpot::None: return;
     }
-    emit Changed();
 }
 
 void BoardWidget::mouseMoveEvent(QMouseEvent* e) {

@@ -28,10 +28,6 @@ class BoardWidget : public QWidget {
     QSize sizeHint() const override { return {460, 460}; }
     QSize minimumSizeHint() const override { return {200, 200}; }
 
-  signals:
-    // A click reached the game: the window shows the game's new state.
-    void Changed();
-
   protected:
     void paintEvent(QPaintEvent*) override;
     void resizeEvent(QResizeEvent*) override;

@@ -84,10 +84,7 @@ MainWindow::MainWindow(Game& game, Options& options, const LibraryFolders& folde
     timer_ = new QTimer(this);
     timer_->setObjectName(QStringLiteral("Timer1"));
     timer_->setInterval(1000);
-    connect(timer_, &QTimer::timeout, this, [this] {
-        game_.Tick();
-        labelTijd_->setText(ToQString(game_.LabelTijd()));
-    });
+    connect(timer_, &QTimer::timeout, this, [this] { game_.Tick(); });
     timer_->start();
 
     setWindowIcon(QIcon(SiteEmblem(64, 1.0)));
@@ -102,11 +99,13 @@ MainWindow::MainWindow(Game& game, Options& options, const LibraryFolders& folde
     } else {
         resize(start);
     }
+    game_.SetEvents([this](Changes changes) { Show(changes); });
     Refresh();
 }
 
+MainWindow::~MainWindow() { game_.SetEvents(nullptr); }
+
 void MainWindow::ConnectBoard() {
-    connect(area_->Board(), &BoardWidget::Changed, this, &MainWindow::Refresh);
     for (int d = 1; d <= 9; ++d) {
         connect(area_->DigitButton(d), &ReleaseButton::Released, this,
                 [this, d](MouseButton button, bool inside) {
@@ -118,40 +117,49 @@ void MainWindow::ConnectBoard() {
 void MainWindow::Do(const std::function<void()>& handler) {
     if (game_.Busy()) return;
     handler();
-    Refresh();
 }
 
 void MainWindow::Breathe() {
-    Refresh();
+    // The game has told what its search changed so far; let it be drawn.
     QCoreApplication::processEvents();
 }
 
-void MainWindow::Refresh() {
-    setWindowTitle(ToQString(game_.Caption()));
-    area_->Refresh();
-    area_->Board()->update();
-    const int level = game_.position().ChosenLevel;
-    if (level >= 1 && level <= 9 && !levels_[level]->isChecked()) levels_[level]->setChecked(true);
-    RefreshCommands();
-    const QString hint = ToQString(game_.TextHint());
-    if (textHint_->toPlainText() != hint) textHint_->setPlainText(hint);
-    labelStap_->setText(ToQString(game_.LabelStap()));
-    labelTijd_->setText(ToQString(game_.LabelTijd()));
-    const QString text = ToQString(game_.SudTekst());
-    if (sudTekst_->text() != text) {
-        sudTekst_->setText(text);
-        sudTekst_->setCursorPosition(0);
+void MainWindow::Refresh() { Show(Changes{~0u}); }
+
+void MainWindow::Show(Changes c) {
+    if (c.Has(kChangeTitle)) setWindowTitle(ToQString(game_.Caption()));
+    // The digit buttons follow the filter, the wells show or hide.
+    if (c.Has(kChangePaint | kChangeWells)) area_->Refresh();
+    if (c.Has(kChangeBoard | kChangePaint)) area_->Board()->update();
+    if (c.Has(kChangeLevel)) {
+        const int level = game_.position().ChosenLevel;
+        if (level >= 1 && level <= 9 && !levels_[level]->isChecked())
+            levels_[level]->setChecked(true);
     }
-    RefreshPalette();
+    if (c.Has(kChangeCommands)) RefreshCommands();
+    if (c.Has(kChangeTexts)) {
+        const QString hint = ToQString(game_.TextHint());
+        if (textHint_->toPlainText() != hint) textHint_->setPlainText(hint);
+        labelStap_->setText(ToQString(game_.LabelStap()));
+        const QString text = ToQString(game_.SudTekst());
+        if (sudTekst_->text() != text) {
+            sudTekst_->setText(text);
+            sudTekst_->setCursorPosition(0);
+        }
+    }
+    if (c.Has(kChangeClock)) labelTijd_->setText(ToQString(game_.LabelTijd()));
+    if (c.Has(kChangeBrush)) {
+        RefreshPalette();
+        if (game_.brush().BrushActive)
+            setCursor(brushCursor_);
+        else
+            unsetCursor();
+    }
     // A hint shown while the option asks for the small window.
-    if (game_.HintWindowShows() != hintShows_) {
+    if (c.Has(kChangeHintWindow) && game_.HintWindowShows() != hintShows_) {
         hintShows_ = game_.HintWindowShows();
         Hints()->ShowHint();
     }
-    if (game_.brush().BrushActive)
-        setCursor(brushCursor_);
-    else
-        unsetCursor();
 }
 
 void MainWindow::RefreshCommands() {
@@ -183,8 +191,6 @@ void MainWindow::Exit() {
     if (game_.CommandExit()) {
         exiting_ = true;
         close();
-    } else {
-        Refresh();
     }
 }
 
@@ -197,7 +203,6 @@ void MainWindow::closeEvent(QCloseEvent* e) {
         e->accept();
     } else {
         e->ignore();
-        Refresh();
     }
 }
 
@@ -210,7 +215,6 @@ void MainWindow::changeEvent(QEvent* e) {
         } else if (!minimised && minimised_) {
             minimised_ = false;
             game_.WindowRestored();
-            Refresh();
         }
     }
     QMainWindow::changeEvent(e);

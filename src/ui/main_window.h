@@ -1,8 +1,8 @@
 // MainWindow: the game window. The board with its digit filter and wells, the
 // levels, the commands, the hint box, the step counter and clock, the palette,
 // the puzzle's text line and the small labels at the foot. Every control shows
-// what the game holds and passes its clicks to the game; after each event the
-// whole window is drawn again from the game.
+// what the game holds and passes its clicks to the game; the game then tells
+// the window what changed, and only those parts are drawn again.
 #pragma once
 
 #include <QCursor>
@@ -37,9 +37,12 @@ class MainWindow : public QMainWindow {
     // folder holds its pictures ("Brush.ico").
     MainWindow(Game& game, Options& options, const LibraryFolders& folders,
                QWidget* parent = nullptr);
+    ~MainWindow() override;
 
-    // Draws the window again from the game.
+    // Draws the whole window again from the game.
     void Refresh();
+    // Draws again what the game says changed.
+    void Show(Changes changes);
     // A long search of the game lets the window show its progress and take the
     // click on "Stop".
     void Breathe();
@@ -84,8 +87,8 @@ class MainWindow : public QMainWindow {
     QWidget* BuildFoot();
     void ConnectBoard();
 
-    // Runs a handler of the game, then shows its outcome; while the game is in
-    // a search it takes no other command.
+    // Runs a handler of the game, unless the game is in a search: then it takes
+    // no other command.
     void Do(const std::function<void()>& handler);
     void Exit();
     void NotAvailable(const QString& what);

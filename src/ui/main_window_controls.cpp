@@ -109,10 +109,7 @@ QWidget* MainWindow::BuildCommands() {
     on(kHint, [this] { game_.CommandHint(); });
     on(kAutoSolve, [this] { game_.CommandAutoSolve(); });
     // Scan answers also while it runs: its "Stop" ends the run.
-    connect(commands_[kScan], &QPushButton::clicked, this, [this] {
-        game_.CommandScan();
-        Refresh();
-    });
+    connect(commands_[kScan], &QPushButton::clicked, this, [this] { game_.CommandScan(); });
     connect(commands_[kOptions], &QPushButton::clicked, this, &MainWindow::ShowOptions);
     connect(commands_[kPrint], &QPushButton::clicked, this, &MainWindow::ShowPrint);
     connect(commands_[kMake], &QPushButton::clicked, this,

@@ -272,5 +272,30 @@ TEST_F(Input, HoverOnlyWithDimmedMarks) {
     EXPECT_EQ(g.HoverCell, kNoHover);
 }
 
+TEST_F(Input, TheWindowHearsWhatChangedAndOnlyThat) {
+    Game& g = Playing(2);
+    std::vector<unsigned> heard;
+    g.SetEvents([&](Changes c) { heard.push_back(c.bits); });
+    clock.now += 3;
+    g.Tick();
+    g.Tick();                // the same second: nothing to tell
+    g.MarkMouseMove(3, 10);  // no hover without dimmed marks
+    auto [cell, digit] = FirstOpenCell();
+    g.MarkMouseUp(digit, cell, MouseButton::Left, true);
+    g.PaletteUp(7, MouseButton::Left, true);
+    ASSERT_EQ(heard.size(), 3u);
+    EXPECT_EQ(heard[0], unsigned(kChangeClock));
+    EXPECT_EQ(heard[1], kChangeBoard | kChangeTexts | kChangeCommands | kChangeWells);
+    EXPECT_EQ(heard[2], unsigned(kChangeBrush));
+    // A search tells what it shows while it runs, before the window breathes.
+    heard.clear();
+    bool toldFirst = false;
+    yield = [&] { toldFirst = !heard.empty(); };
+    g.CommandHint();
+    yield = nullptr;
+    EXPECT_TRUE(toldFirst);
+    EXPECT_TRUE(Changes{heard.back()}.Has(kChangePaint));
+}
+
 }  // namespace
 }  // namespace tavi::testing

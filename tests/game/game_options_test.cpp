@@ -63,19 +63,6 @@ TEST_F(OptionsChange, WellsOnRebuildsThem) {
     EXPECT_TRUE(g.WellFilled(digit, Global::BoxOfCell[cell]));
 }
 
-TEST_F(OptionsChange, PenaltiesPutSecondsOnTheRunningClock) {
-    Game& g = Playing(1);
-    clock.now += 30;
-    g.Penalty(15);
-    EXPECT_EQ(g.ClockSeconds(), 45);
-    clock.now += 10;
-    g.Tick();
-    EXPECT_EQ(g.ClockSeconds(), 55);
-    options.TimeOn = false;
-    g.Penalty(20);
-    EXPECT_EQ(g.ClockSeconds(), 55);
-}
-
 TEST_F(OptionsChange, NoSoundDeviceTurnsSoundsOff) {
     options.Sounds = true;
     store.Write("Options", "Sounds", "True");

@@ -254,21 +254,43 @@ TEST_F(Puzzles, SolutionShowsTheBoardAndEndsTheGame) {
     EXPECT_FALSE(g.TimerRunning());
 }
 
-TEST_F(Puzzles, TheClockAcrossMidnightAndAPause) {
-    clock.now = 86400 - 30;
-    Game& g = Playing(1);
-    clock.now = 15;  // 45 seconds later, past midnight
-    g.Tick();
-    EXPECT_EQ(g.ClockSeconds(), 45);
-    EXPECT_EQ(g.LabelTijd(), "00:45");
-    g.WindowMinimised();
-    clock.now += 3600;
-    g.WindowRestored();
-    g.Tick();
-    EXPECT_EQ(g.ClockSeconds(), 45);
-    clock.now += 75;
-    g.Tick();
-    EXPECT_EQ(g.LabelTijd(), "02:00");
+// The clock alone: midnight, a pause, penalties, and the clock option.
+TEST(GameClockAlone, MidnightPausePenaltiesAndTheOption) {
+    FakeClock time;
+    Options options;
+    GameClock clock(time, options);
+    time.now = 86400 - 30;
+    clock.Start();
+    EXPECT_EQ(clock.Label(), "00:00");
+    time.now = 15;  // 45 seconds later, past midnight
+    clock.Tick();
+    EXPECT_EQ(clock.Seconds(), 45);
+    EXPECT_EQ(clock.Label(), "00:45");
+    clock.Pause();
+    time.now += 3600;
+    clock.Resume();
+    clock.Tick();
+    EXPECT_EQ(clock.Seconds(), 45);
+    time.now += 30;
+    clock.Penalty(15);
+    EXPECT_EQ(clock.Seconds(), 90);
+    time.now += 30;
+    clock.Tick();
+    EXPECT_EQ(clock.Label(), "02:00");
+    SudokuRecord best{};
+    best.BestMinutes = 2;
+    EXPECT_FALSE(clock.BeatsBest(best));
+    best.BestSeconds = 1;
+    EXPECT_TRUE(clock.BeatsBest(best));
+    EXPECT_EQ(clock.TimeToBeat(best), " - Time to beat >> 02:01");
+    // With the clock off no penalty counts and no time beats another.
+    options.TimeOn = false;
+    clock.Penalty(20);
+    EXPECT_EQ(clock.Seconds(), 120);
+    EXPECT_FALSE(clock.BeatsBest(best));
+    clock.Start();
+    EXPECT_FALSE(clock.Running());
+    EXPECT_EQ(clock.Label(), "");
 }
 
 TEST_F(Puzzles, WellsFollowThePlacedDigits) {

@@ -72,6 +72,7 @@ TEST_P(HintFamilies, ShowTheirSentenceAndColours) {
     game->context().board.CurrentGrid = found->state.CurrentGrid;
     game->context().board.Candidates = found->state.Candidates;
     game->SetupWells();
+    window->Refresh();  // the board was set behind the game's back
     Press("CommandHint");
     EXPECT_TRUE(game->TextHint().starts_with(family.head)) << game->TextHint();
     int painted = 0;
