@@ -48,6 +48,13 @@ int LibraryCommand(const std::vector<std::string>& args, std::ostream& out, std:
 // library check DIR [--level L]: the workbench's Check All over each library of
 // the folder (or of level L only): puzzles are rerated and moved, each library's
 // report is written, then how many puzzles needed each technique as their hardest.
+// library import TEXTFILE --dir DIR: the workbench's import of a foreign file
+// (81-character lines, 729-character candidate lines, 9-line grids): each puzzle
+// with one solution that is new to the library is rated and appended to the pair
+// of its level; the report says where they went and what was refused.
+int LibraryImportCommand(const std::filesystem::path& file, const std::filesystem::path& folder,
+                         std::ostream& out, std::ostream& err);
+
 int LibraryCheckCommand(const std::filesystem::path& folder, int onlyLevel, std::ostream& out,
                         std::ostream& err);
 

@@ -43,6 +43,10 @@ constexpr const char* kUsage =
     "  library build --out DIR --per-level N [--seed S] [--minutes M] [--threads T]\n"
     "        generate and rate puzzles, and write the nine .sds files of a library\n"
     "        with up to N puzzles per level; stops after M minutes (default 10)\n"
+    "  library import TEXTFILE --dir DIR\n"
+    "        import a foreign file (81-character lines, 729-character candidate\n"
+    "        lines, 9-line grids): each new puzzle with one solution is rated and\n"
+    "        appended to the library of its level\n"
     "  library check DIR [--level L]\n"
     "        rerate every library of DIR (or of level L) as the workbench's Check All\n"
     "        does, moving each puzzle to the library of its level; then the count of\n"
@@ -78,6 +82,10 @@ int main(int argc, char** argv) {
             return Usage("library check DIR [--level L] with L from 1 to 9");
         return tavi::cli::LibraryCheckCommand(args[2], level, std::cout, std::cerr);
     }
+    // library import without a level: the workbench's reader files each puzzle by
+    // its own level.
+    if (command == "library" && args.size() == 5 && args[1] == "import" && args[3] == "--dir")
+        return tavi::cli::LibraryImportCommand(args[2], args[4], std::cout, std::cerr);
     if (command == "library") return tavi::cli::LibraryCommand(args, std::cout, std::cerr);
 
     int technique = 0;

@@ -211,5 +211,27 @@ TEST(CliLibrary, ExportWritesPuzzleSolutionAndBestTimeAndFlagsADamagedFile) {
     EXPECT_EQ(RunCommand(GenerateCommand, {"generate", "--count", "-1"}).status, 2);
 }
 
+// Without a level, import reads a foreign file as the workbench does and files each
+// new puzzle by its own rating.
+TEST(CliLibrary, ImportWithoutALevelRatesAndFilesEachPuzzle) {
+    TempDir dir;
+    const auto& p = tavi::testing::GeneratedPuzzles(2);
+    const fs::path file = dir.path() / "foreign.txt";
+    std::ofstream(file) << FormatDigits(p[0].puzzle, '.') << " from elsewhere\n"
+                        << "a line of no use\n"
+                        << FormatDigits(p[1].puzzle, '0') << "\n"
+                        << FormatDigits(p[0].puzzle, '.') << "\n";
+    std::ostringstream out, err;
+    EXPECT_EQ(LibraryImportCommand(file, dir.path(), out, err), 2);
+    EXPECT_NE(err.str().find("foreign.txt, line 2: no puzzle"), std::string::npos) << err.str();
+    EXPECT_NE(out.str().find("2 sudokus imported: "), std::string::npos) << out.str();
+    EXPECT_NE(out.str().find("1 already in the library, 1 malformed (line 2)."), std::string::npos)
+        << out.str();
+    long filed = 0;
+    for (int level = 1; level <= kLevelCount; ++level)
+        filed += WholeRecords(PuzzleFile(dir.path(), LevelStem(level)), kSudokuRecordSize);
+    EXPECT_EQ(filed, 2);
+}
+
 }  // namespace
 }  // namespace tavi::cli
