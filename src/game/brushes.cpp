@@ -96,6 +96,7 @@ void Brushes::WisKleuren() {
     cellPaint_.fill(std::nullopt);
     for (auto& marks : markPaint_)
         marks.fill(std::nullopt);
+    hintPaints_.clear();
 }
 
 void Brushes::ToggleCellPaint(int cell, Color color) {
@@ -114,6 +115,19 @@ void Brushes::ApplyPaints(const std::vector<HintPaint>& paints,
             case HintPaint::Digit: markPaint_[p.cell][p.digit - 1] = colors[p.role]; break;
         }
     }
+    hintPaints_ = paints;
+    hintColors_ = colors;
+}
+
+void Brushes::Recolour(const std::array<Color, 9>& colors) {
+    for (const HintPaint& p : hintPaints_) {
+        if (p.what == HintPaint::Erase) continue;
+        auto& slot =
+            p.what == HintPaint::Cell ? cellPaint_[p.cell] : markPaint_[p.cell][p.digit - 1];
+        // A place painted over since keeps its new paint.
+        if (slot == hintColors_[p.role]) slot = colors[p.role];
+    }
+    hintColors_ = colors;
 }
 
 }  // namespace tavi

@@ -67,6 +67,8 @@ class Brushes {
     void ToggleCellPaint(int cell, Color color);
     // Colours of a hint, by role.
     void ApplyPaints(const std::vector<HintPaint>& paints, const std::array<Color, 9>& colors);
+    // New hint colours: the hint on the board takes them at once.
+    void Recolour(const std::array<Color, 9>& colors);
 
     // What the board shows of all this, to see whether it changed.
     bool SamePaint(const Brushes& other) const {
@@ -79,6 +81,9 @@ class Brushes {
     std::array<bool, 10> filterOn_{};
     std::array<std::optional<Color>, 81> cellPaint_{};
     std::array<std::array<std::optional<Color>, 9>, 81> markPaint_{};
+    // The hint on the board and the colours it was given.
+    std::vector<HintPaint> hintPaints_;
+    std::array<Color, 9> hintColors_{};
 };
 
 }  // namespace tavi

@@ -135,6 +135,8 @@ class Game : private MoveListener {
     bool Busy() const { return busy_; }
     // Colours of a hint on the board.
     void ApplyPaints(const std::vector<HintPaint>& paints);
+    // After the colours window: the hint on the board takes the new hint colours.
+    void ColoursChanged();
 
     // --- Options --------------------------------------------------------------
     // After the options window closed: what changed from `before` takes effect

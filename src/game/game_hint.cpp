@@ -17,6 +17,11 @@ constexpr std::string_view kAutosolveCompleted =
     "you'll have to enable more techniques or guess more than once...";
 }  // namespace
 
+void Game::ColoursChanged() {
+    const ChangeScope scope(*this);
+    brushes_.Recolour(options_.colors.HintColor);
+}
+
 void Game::ApplyPaints(const std::vector<HintPaint>& paints) {
     const ChangeScope scope(*this);
     brushes_.ApplyPaints(paints, options_.colors.HintColor);

@@ -277,7 +277,10 @@ void MainWindow::ShowOptions() {
     const Options before = options_;
     const auto customizeColors = [this](QWidget* parent) {
         ColorsWindow colors(options_.colors, store_, parent);
-        if (colors.exec() == QDialog::Accepted) Refresh();
+        if (colors.exec() == QDialog::Accepted) {
+            game_.ColoursChanged();
+            Refresh();
+        }
     };
     if (RunOptionsDialog(this, options_, game_.SoundAvailable(), customizeColors))
         game_.CommandOptions(before);

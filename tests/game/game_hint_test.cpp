@@ -44,6 +44,21 @@ TEST_F(Hints, ATechniqueHintChangesNothingAndCostsFifteenSeconds) {
     for (int c = 0; c < 81; ++c)
         painted |= g.CellPaint(c).has_value();
     EXPECT_TRUE(painted);
+
+    // New hint colours reach the hint on the board at once.
+    const auto old = options.colors.HintColor;
+    for (Color& c : options.colors.HintColor)
+        c ^= 0x00102030;
+    g.ColoursChanged();
+    int recoloured = 0;
+    for (int c = 0; c < 81; ++c) {
+        const auto paint = g.CellPaint(c);
+        if (!paint) continue;
+        EXPECT_EQ(std::find(old.begin(), old.end(), *paint), old.end()) << CellName(c);
+        recoloured += std::find(options.colors.HintColor.begin(), options.colors.HintColor.end(),
+                                *paint) != options.colors.HintColor.end();
+    }
+    EXPECT_GT(recoloured, 0);
 }
 
 TEST_F(Hints, NothingElseAnswersWhileASearchRuns) {
