@@ -1,5 +1,5 @@
 // The game window with a hint of each family on the board: a single, a pointing
-// pair, a naked triple, a hidden pair and a bifurcation. Each board is a state
+// pair, a naked triple, a hidden pair and an X-Wing. Each board is a state
 // that the ladder passes through on a generated puzzle. Pictures are written
 // only when TAVI_SHOTS_DIR names a folder; the hints are checked either way.
 #include <QDir>
@@ -29,7 +29,7 @@ const Family kFamilies[] = {
      [](const HintRecord& h) {
          return h.HintKind == 5 && h.HintVariant < 0 && h.HintCellCount == 2;
      }},
-    {"bifurcation", "BIFURCATION: ", [](const HintRecord& h) { return h.HintKind == 20; }},
+    {"x-wing", "X-WING: ", [](const HintRecord& h) { return h.HintKind == 6; }},
 };
 
 struct Found {
