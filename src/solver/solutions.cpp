@@ -60,6 +60,8 @@ struct State {
     std::array<std::uint32_t, 27> may;  // index 3 * digit + band, digits 0..8
     std::array<std::uint32_t, 3> solved;
     std::uint32_t dirty;  // bit 3 * digit + band: that word changed since it was looked at
+    std::uint32_t digitsChanged;  // bit d: a word of digit d changed since Columns looked
+    std::uint32_t bandsChanged;   // bit b: a word of band b changed since NakedSingles looked
 
     std::uint32_t Open(int d, int b) const { return may[3 * d + b] & ~solved[b]; }
     std::uint32_t Placed(int d, int b) const { return may[3 * d + b] & solved[b]; }
@@ -108,7 +110,10 @@ struct State {
 
     // Naked singles: cells left with one digit. False on a cell with none.
     bool NakedSingles(bool& progress) {
+        const std::uint32_t bands = bandsChanged;
+        bandsChanged = 0;
         for (int b = 0; b < 3; ++b) {
+            if (!(bands >> b & 1)) continue;
             const std::uint32_t open = ~solved[b] & kBandBits;
             if (!open) continue;
             std::uint32_t one = 0, two = 0;
@@ -139,6 +144,8 @@ struct State {
     // digit has no place left in some stack or column.
     bool Columns(bool& progress) {
         for (int d = 0; d < 9; ++d) {
+            if (!(digitsChanged >> d & 1)) continue;
+            digitsChanged &= ~(1u << d);
             std::array<std::uint32_t, 3> columns;  // per band: the columns the digit may take
             for (int b = 0; b < 3; ++b) {
                 const std::uint32_t x = may[3 * d + b];
@@ -188,6 +195,8 @@ struct State {
             while (dirty) {
                 const int i = std::countr_zero(dirty);
                 dirty &= dirty - 1;
+                digitsChanged |= 1u << (i / 3);
+                bandsChanged |= 1u << (i % 3);
                 if (!Band(i)) return false;
             }
             bool progress = false;
@@ -297,6 +306,8 @@ SolutionCount Solutions(const Digits& givens, int limit) {
     for (int i = 0; i < 27; ++i)
         s.may[i] = (kBandBits & ~s.solved[i % 3] & ~seen[i]) | given[i];
     s.dirty = kBandBits;
+    s.digitsChanged = 0x1FF;
+    s.bandsChanged = 7;
     Search search{limit < 1 ? 1 : limit, {}};
     if (s.Propagate()) search.Run(s);
     return search.answer;
