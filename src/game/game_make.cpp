@@ -169,12 +169,15 @@ void Game::Validate() {
     for (int c = 0; c < 81; ++c)
         if (board.Puzzle[c]) Zet(board, board.Puzzle[c], c);
 
-    // Nobody is asked about patterns while a made puzzle is rated.
+    // The rating is no play: nobody is asked about patterns, and what the
+    // techniques take away stays out of the entry's steps.
     auto confirm = std::move(ctx_.confirmPattern);
     ctx_.confirmPattern = nullptr;
+    ctx_.listener = nullptr;
     busy_ = true;
     const bool solved = SolveSudokuGame(ctx_, nullptr);
     busy_ = false;
+    ctx_.listener = this;
     ctx_.confirmPattern = std::move(confirm);
 
     int level = 0;

@@ -126,5 +126,142 @@ TEST_F(Make, EveryWayOutOfValidateThatStoresNothing) {
     }
 }
 
+TEST_F(Make, AHardPuzzleClickedInEndsAsTheLastRecordOfTheHardPairAfterAFailedWrite) {
+    Game& g = Making();
+    const Digits puzzle = DigitsOf(kHard);
+    int clues = 0;
+    for (int c = 0; c < 81; ++c)
+        if (puzzle[c]) {
+            g.MarkMouseUp(puzzle[c], c, MouseButton::Left, true);
+            ++clues;
+        }
+    ASSERT_EQ(g.board().CurrentGrid, puzzle);
+    EXPECT_EQ(g.CurrentStep(), clues);
+    EXPECT_FALSE(g.commands().Undo);  // no Undo while making
+
+    // Without its log file the Hard pair takes nothing: both files stay as they
+    // were, it is said, and the clues stay on the board for another try.
+    const long count = Records(3);
+    const auto log = LogFile(folders.DataFolder, LevelStem(3));
+    std::filesystem::rename(log, root / "aside");
+    g.CommandMake();
+    ASSERT_GE(prompter.shown.size(), 2u);
+    EXPECT_EQ(prompter.shown[0].text, "Sudoku solved and rated as Hard");
+    EXPECT_EQ(prompter.shown[1].title, "File Error");
+    EXPECT_EQ(Records(3), count);
+    EXPECT_TRUE(g.MakeMode);
+    EXPECT_EQ(g.board().CurrentGrid, puzzle);
+    EXPECT_EQ(g.board().Solution, Digits{});
+
+    std::filesystem::rename(root / "aside", log);
+    prompter.shown.clear();
+    g.CommandMake();
+    EXPECT_EQ(prompter.Texts(), std::vector<std::string>{"Sudoku solved and rated as Hard"});
+    ASSERT_EQ(Records(3), count + 1);
+    EXPECT_EQ(Records(3, true), count + 1);
+    const GeneratedPuzzle stored = Record(3, count + 1);
+    EXPECT_EQ(stored.puzzle, puzzle);
+    EXPECT_EQ(stored.solution, Solutions(puzzle).first);
+    const SudokuLogRecord entry = LogOf(3, count + 1);
+    EXPECT_EQ(entry.StepCount, clues);
+    EXPECT_EQ(entry.Grid, Digits{});
+    EXPECT_EQ(g.position().PuzzleNumber[3], count + 1);
+    EXPECT_EQ(g.position().ChosenLevel, 3);
+    EXPECT_FALSE(g.MakeMode);
+    EXPECT_EQ(g.commands(), Ended());
+    // The next New wraps to the first record.
+    g.CommandNew();
+    EXPECT_EQ(g.position().OpenRecord, 1);
+}
+
+TEST_F(Make, CluesFromTypedTextAndDroppedFiles) {
+    Game& g = Making();
+    // Typing: the 81st character reads the whole text, a character more adds
+    // nothing, and a text with letters enters nothing.
+    const std::string text(kHard);
+    g.SudTekstChange(text.substr(0, 80));
+    EXPECT_EQ(g.CurrentStep(), 0);
+    g.SudTekstChange(text);
+    EXPECT_EQ(g.board().CurrentGrid, DigitsOf(kHard));
+    const int steps = g.CurrentStep();
+    g.SudTekstChange(text + "7");
+    EXPECT_EQ(g.CurrentStep(), steps);
+    Game& h = Making();
+    h.SudTekstChange("Puzzle: " + text);
+    EXPECT_EQ(prompter.Texts(), std::vector<std::string>{std::string(kClueTextRefused)});
+    EXPECT_EQ(h.CurrentStep(), 0);
+    // Pasted behind the prompt that was not taken away.
+    h.SudTekstChange(std::string(kMakePrompt) + text);
+    EXPECT_EQ(h.board().CurrentGrid, DigitsOf(kHard));
+
+    const auto file = [&](const std::string& name, const std::string& content) {
+        std::ofstream(root / name, std::ios::binary) << content;
+        return root / name;
+    };
+    std::filesystem::create_directories(root / "folder.txt");
+    std::string rows;
+    for (int r = 0; r < 9; ++r)
+        rows += text.substr(size_t(r) * 9, 9) + "\r\n";
+    struct Drop {
+        std::vector<std::filesystem::path> files;
+        std::string said;  // empty: taken
+        std::string_view clues;
+    };
+    const std::string half = text.substr(0, 40);
+    const Drop drops[] = {
+        {{file("a.txt", text), file("b.txt", text)}, std::string(kDropOneFileText), {}},
+        {{root / "folder.txt"}, std::string(kDropNoFolderText), {}},
+        {{file("p.csv", text)}, std::string(kDropNotTxtText), {}},
+        {{root / "gone.txt"},
+         "Error reading sudoku from file " + (root / "gone.txt").string() + " !",
+         {}},
+        {{file("rows.txt", rows)}, std::string(kClueTextRefused), {}},
+        {{file("half.txt", half + "\n")}, "", half},
+        {{file("P.TXT", "\xEF\xBB\xBF" + text + "\r\nsolution line\r\n")}, "", text},
+    };
+    Game& d = Making();
+    for (const Drop& k : drops) {
+        SCOPED_TRACE(k.files.front().filename().string());
+        prompter.shown.clear();
+        d.SudTekstDrop(k.files);
+        EXPECT_EQ(prompter.Texts(),
+                  k.said.empty() ? std::vector<std::string>{} : std::vector<std::string>{k.said});
+        std::string expected(k.clues);
+        expected.resize(81, '.');
+        EXPECT_EQ(d.board().CurrentGrid, DigitsOf(expected));
+        if (k.said.empty())
+            EXPECT_EQ(d.SudTekst(), std::string(k.clues) + std::string(81 - k.clues.size(), ' '));
+    }
+}
+
+TEST_F(Make, TheWayInAsksAboutTheGameAndLeavesOnlyTheBoardAndValidate) {
+    Game& g = Playing(1);
+    options.AutoSave = false;
+    options.AskSave = true;
+    PlaceOne();
+    prompter.shown.clear();
+    prompter.answers = {Answer::No, Answer::No};
+    g.CommandMake();
+    EXPECT_EQ(prompter.Texts(), (std::vector<std::string>{
+                                    "Do you want to save the current sudoku ?",
+                                    "Do you want to erase the progress of the current sudoku ?"}));
+    CommandStates making{false, false, false, false, true};
+    making.Scan = false;
+    making.MakeCaption = "Validate";
+    EXPECT_EQ(g.commands(), making);
+    EXPECT_TRUE(g.MakeMode);
+    EXPECT_TRUE(g.GridEnabled());
+    EXPECT_EQ(g.board().CurrentGrid, Digits{});
+    EXPECT_EQ(g.SudTekst(), kMakePrompt);
+    EXPECT_EQ(g.LabelTijd(), "");
+    EXPECT_FALSE(g.TimerRunning());
+    EXPECT_EQ(g.position().OpenLevel, 0);
+    // The palette and the digit filter are dead.
+    g.PaletteUp(0, MouseButton::Left, true);
+    g.DigitButtonUp(5, MouseButton::Left, true);
+    EXPECT_FALSE(g.brush().BrushActive);
+    EXPECT_TRUE(g.FilterOn(5));
+}
+
 }  // namespace
 }  // namespace tavi::testing
