@@ -111,11 +111,7 @@ void Game::SudTekstChange(const std::string& text) {
     const ChangeScope scope(*this);
     if (!MakeMode || busy_) return;
     sudTekst_ = text;
-    // Text pasted into the prompt without taking the prompt away first.
-    std::string clues = text;
-    if (const size_t at = clues.find(kMakePrompt); at != std::string::npos)
-        clues.erase(at, kMakePrompt.size());
-    if (clues.size() > 80) EnterClues(clues, kMakeErrorTitle);
+    if (text.size() > 80) EnterClues(text, kMakeErrorTitle);
 }
 
 void Game::SudTekstDrop(const std::vector<std::filesystem::path>& files) {
