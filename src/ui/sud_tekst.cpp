@@ -27,6 +27,7 @@ void SudTekstLine::ShowGame(const Game& game) {
     // pastes is the whole text.
     const bool prompt = making && game.SudTekst() == kMakePrompt;
     setPlaceholderText(making ? ToQString(kMakePrompt) : QString());
+    setToolTip(placeholderText());
     const QString text = prompt ? QString() : ToQString(game.SudTekst());
     if (this->text() != text) {
         setText(text);
@@ -45,7 +46,7 @@ void SudTekstLine::FitFont() {
     QFont f =
         prompt ? QApplication::font(this) : QFontDatabase::systemFont(QFontDatabase::FixedFont);
     const QString sample = prompt ? placeholderText() : QString(81, QLatin1Char('0'));
-    for (int px = 15; px >= 8; --px) {
+    for (int px = 15; px >= (prompt ? 7 : 8); --px) {
         f.setPixelSize(px);
         if (QFontMetrics(f).horizontalAdvance(sample) + 14 <= width()) break;
     }
