@@ -12,6 +12,7 @@
 #pragma once
 
 #include <array>
+#include <filesystem>
 #include <functional>
 #include <optional>
 #include <string>
@@ -115,6 +116,18 @@ class Game : private MoveListener {
     void CommandSolution();
     void CommandHelp();
     void WebSiteClick();
+
+    // --- Own puzzles ---------------------------------------------------------
+    // CommandMake: with the caption "Make" the board is cleared for the clues of
+    // a puzzle of the user's own; with "Validate" the entry is checked, rated and
+    // added to the library of the level it reached.
+    void CommandMake();
+    // The puzzle line's text as the user typed or pasted it. While making, a
+    // text of more than 80 characters enters its first 81 as clues.
+    void SudTekstChange(const std::string& text);
+    // Files dropped on the puzzle line while making: one .txt file, whose first
+    // 81 characters are entered as clues.
+    void SudTekstDrop(const std::vector<std::filesystem::path>& files);
 
     // --- Hint, Autosolve and Scan -------------------------------------------
     // The next logical step, shown and not taken; its price goes on the clock.
@@ -278,6 +291,21 @@ class Game : private MoveListener {
     // Saves the position keys and the options: every way out ends here.
     void WriteSettingsOnExit();
     void OpenPage(const std::string& page);
+
+    // Own puzzles.
+    void StartMaking();
+    void Validate();
+    // Clues from a text of 81 characters: each digit 1 to 9 placed as a step,
+    // unless its cell holds it already; the 81 characters read come back. A
+    // text that can't be clues enters nothing and says so under `title`.
+    std::optional<std::string> EnterClues(std::string_view text, std::string_view title);
+    // The board back to the clues entered, with all marks they leave.
+    void RestoreClues();
+    // Adds the validated puzzle to `level`'s pair; false after a message when the
+    // write failed.
+    bool StoreMade(int level);
+    // The end of making, stored or not: the board empty and off.
+    void EndMaking();
 
     // Hint.
     bool HiddenMarksShownFor(std::string_view question);

@@ -201,6 +201,7 @@ void Game::CommandAutoSolve() {
 
 void Game::CommandScan() {
     const ChangeScope scope(*this);
+    if (MakeMode) return;  // no library file is open while a puzzle is made
     if (commands_.ScanCaption == "Stop") {
         scanStop_ = true;
         return;

@@ -6,7 +6,8 @@
 namespace tavi {
 
 MoveStep& Game::BeginStep(int cell) {
-    commands_.Undo = true;
+    // While a puzzle is made its clues can't be taken back with Undo.
+    if (!MakeMode) commands_.Undo = true;
     commands_.Redo = false;
     MoveStep& step = moves_.BeginStep(cell);
     ShowStepCount();

@@ -4,11 +4,9 @@
 
 #include <QApplication>
 #include <QCloseEvent>
-#include <QFontDatabase>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
@@ -27,31 +25,9 @@
 #include "ui/qt_convert.h"
 #include "ui/release_controls.h"
 #include "ui/revision_window.h"
+#include "ui/sud_tekst.h"
 
 namespace tavi::ui {
-
-namespace {
-
-// The puzzle's line of 81 digits, in a fixed-width font small enough to show
-// it whole.
-class PuzzleLine : public QLineEdit {
-  public:
-    using QLineEdit::QLineEdit;
-
-  protected:
-    void resizeEvent(QResizeEvent* e) override {
-        QFont f = QFontDatabase::systemFont(QFontDatabase::FixedFont);
-        const QString digits(81, QLatin1Char('0'));
-        for (int px = 15; px >= 8; --px) {
-            f.setPixelSize(px);
-            if (QFontMetrics(f).horizontalAdvance(digits) + 14 <= width()) break;
-        }
-        if (f != font()) setFont(f);
-        QLineEdit::resizeEvent(e);
-    }
-};
-
-}  // namespace
 
 MainWindow::MainWindow(Game& game, Options& options, const LibraryFolders& folders, QWidget* parent)
     : QMainWindow(parent),
@@ -68,9 +44,13 @@ MainWindow::MainWindow(Game& game, Options& options, const LibraryFolders& folde
     auto* left = new QVBoxLayout;
     left->setSpacing(8);
     area_ = new BoardArea(game, central);
-    sudTekst_ = new PuzzleLine(central);
-    sudTekst_->setObjectName(QStringLiteral("SudTekst"));
-    sudTekst_->setReadOnly(true);
+    sudTekst_ = new SudTekstLine(central);
+    connect(sudTekst_, &QLineEdit::textEdited, this, [this](const QString& text) {
+        Do([this, text] { game_.SudTekstChange(text.toStdString()); });
+    });
+    sudTekst_->onDrop = [this](const std::vector<std::filesystem::path>& files) {
+        Do([this, files] { game_.SudTekstDrop(files); });
+    };
     left->addWidget(area_, 1);
     left->addWidget(sudTekst_);
     outer->addLayout(left, 1);
@@ -141,12 +121,8 @@ void MainWindow::Show(Changes c) {
         const QString hint = ToQString(game_.TextHint());
         if (textHint_->toPlainText() != hint) textHint_->setPlainText(hint);
         labelStap_->setText(ToQString(game_.LabelStap()));
-        const QString text = ToQString(game_.SudTekst());
-        if (sudTekst_->text() != text) {
-            sudTekst_->setText(text);
-            sudTekst_->setCursorPosition(0);
-        }
     }
+    if (c.Has(kChangeTexts | kChangeCommands)) sudTekst_->ShowGame(game_);
     if (c.Has(kChangeClock)) labelTijd_->setText(ToQString(game_.LabelTijd()));
     if (c.Has(kChangeBrush)) {
         RefreshPalette();
@@ -245,11 +221,6 @@ void MainWindow::ScaleControls() {
         strong.setPixelSize(int(strong.pixelSize() * 1.25));
     labelStap_->setFont(strong);
     labelTijd_->setFont(strong);
-}
-
-void MainWindow::NotAvailable(const QString& what) {
-    QMessageBox::information(this, QStringLiteral("Tavi Sudoku 1"),
-                             what + QStringLiteral(" is not available yet."));
 }
 
 bool MainWindow::eventFilter(QObject* watched, QEvent* e) {

@@ -28,6 +28,7 @@ class BoardArea;
 class ClickLabel;
 class HintWindow;
 class RevisionWindow;
+class SudTekstLine;
 
 class MainWindow : public QMainWindow {
     Q_OBJECT
@@ -91,7 +92,6 @@ class MainWindow : public QMainWindow {
     // no other command.
     void Do(const std::function<void()>& handler);
     void Exit();
-    void NotAvailable(const QString& what);
     void ShowRevisions();
     void ShowWorkbench();
     void ShowOptions();
@@ -117,7 +117,7 @@ class MainWindow : public QMainWindow {
     QPlainTextEdit* textHint_ = nullptr;
     QLabel* labelStap_ = nullptr;
     QLabel* labelTijd_ = nullptr;
-    QLineEdit* sudTekst_ = nullptr;
+    SudTekstLine* sudTekst_ = nullptr;
     QTimer* timer_ = nullptr;
     RevisionWindow* revisions_ = nullptr;
     std::optional<PrintSettings> print_;  // the print window's, from its first opening on

@@ -108,12 +108,11 @@ QWidget* MainWindow::BuildCommands() {
     on(kHelp, [this] { game_.CommandHelp(); });
     on(kHint, [this] { game_.CommandHint(); });
     on(kAutoSolve, [this] { game_.CommandAutoSolve(); });
+    on(kMake, [this] { game_.CommandMake(); });
     // Scan answers also while it runs: its "Stop" ends the run.
     connect(commands_[kScan], &QPushButton::clicked, this, [this] { game_.CommandScan(); });
     connect(commands_[kOptions], &QPushButton::clicked, this, &MainWindow::ShowOptions);
     connect(commands_[kPrint], &QPushButton::clicked, this, &MainWindow::ShowPrint);
-    connect(commands_[kMake], &QPushButton::clicked, this,
-            [this] { NotAvailable(commands_[kMake]->text()); });
     connect(commands_[kExit], &QPushButton::clicked, this, &MainWindow::Exit);
     return box;
 }

@@ -1,9 +1,10 @@
 // Pictures of the windows for a person to look at, written into the folder named
 // by TAVI_SHOTS_DIR: run `TAVI_SHOTS_DIR=DIR build/tests/tavi-shots`.
 // Pictures of the window for a person to look at: at start, in play (marks, a
-// painted cell, a picked row), with a hint and at the end of a game, at 800 x 600 and at
-// 1600 x 1200. Written only when TAVI_SHOTS_DIR names a folder; without it the
-// same run still has to paint every state at both sizes.
+// painted cell, a picked row), with a hint, at the end of a game and while a
+// puzzle is made, at 800 x 600 and at 1600 x 1200. Written only when
+// TAVI_SHOTS_DIR names a folder; without it the same run still has to paint
+// every state at both sizes.
 #include <QDir>
 
 #include "window_fixture.h"
@@ -60,6 +61,19 @@ TEST_P(Screenshots, AtStartInPlayWithAHintAndAtTheEnd) {
         ClickMark(digit, cell);
     ASSERT_TRUE(game->position().SudokuSolved);
     Shot("end");
+}
+
+TEST_P(Screenshots, MakingAPuzzle) {
+    Open(GetParam());
+    Press("CommandMake");
+    // A few clues by click, the prompt still in the puzzle line.
+    const GeneratedPuzzle record = Record(3, 1);
+    for (int c = 0, clues = 0; c < 81 && clues < 9; ++c)
+        if (record.puzzle[c]) {
+            ClickMark(record.puzzle[c], c);
+            ++clues;
+        }
+    Shot("make");
 }
 
 INSTANTIATE_TEST_SUITE_P(Sizes, Screenshots, ::testing::Values(QSize(800, 600), QSize(1600, 1200)),
