@@ -255,9 +255,7 @@ void MainWindow::NotAvailable(const QString& what) {
 bool MainWindow::eventFilter(QObject* watched, QEvent* e) {
     // A double click on the hint box pops up the small hint window.
     if (watched == textHint_->viewport() && e->type() == QEvent::MouseButtonDblClick) {
-        HintWindow* hints = Hints();
-        hints->show();
-        hints->raise();
+        Hints()->Present();
         return true;
     }
     return QMainWindow::eventFilter(watched, e);
@@ -267,6 +265,7 @@ HintWindow* MainWindow::Hints() {
     if (!hints_) {
         hints_ = new HintWindow(game_, folders_, this);
         hints_->setWindowFlag(Qt::Window);
+        hints_->SetStore(store_);
         hints_->Refresh();
     }
     return hints_;
