@@ -14,7 +14,8 @@ namespace tavi::ui {
 namespace {
 
 const QColor kDisabledMark(206, 210, 217);
-const QColor kSelectedHeader(255, 0, 0);  // the colour value 255 of a picked header
+const QColor kSelectedHeader(255, 0, 0);
+const QColor kCursorColor(230, 120, 0);  // the colour value 255 of a picked header
 
 // Centres the digit by its ink, not by the font's line box, as the glyph cache
 // does.
@@ -190,6 +191,15 @@ void PaintBoard(QPainter& painter, const BoardGeometry& geometry, const BoardPic
     if (geometry.Headers()) PaintHeaders(painter, geometry, picture, look);
     PaintDigitsAndMarks(painter, geometry, picture, look, glyphs);
     PaintLines(painter, geometry, look);
+    if (picture.cursor >= 0 && picture.cursor < 81) {
+        // A frame inside the cell, drawn as a path so it stays sharp at any scale.
+        const int w = std::max(2, geometry.ThickLine());
+        const QRectF cell = QRectF(geometry.CellRect(picture.cursor)).adjusted(w, w, -w, -w);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(QPen(kCursorColor, w, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRect(cell);
+    }
     painter.restore();
 }
 

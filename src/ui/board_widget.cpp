@@ -38,7 +38,15 @@ BoardSpot BoardWidget::TargetAt(QPoint p) const {
 void BoardWidget::paintEvent(QPaintEvent*) {
     QPainter p(this);
     p.fillRect(rect(), palette().window());
-    PaintBoard(p, layout_, PictureOf(game_), ScreenLook(palette()), &glyphs_);
+    BoardPicture picture = PictureOf(game_);
+    picture.cursor = cursor_;
+    PaintBoard(p, layout_, picture, ScreenLook(palette()), &glyphs_);
+}
+
+void BoardWidget::SetCursorCell(int cell) {
+    if (cell == cursor_) return;
+    cursor_ = cell;
+    update();
 }
 
 // --- Mouse ---------------------------------------------------------------------

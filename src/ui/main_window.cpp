@@ -21,6 +21,7 @@
 #include "ui/board_area.h"
 #include "ui/colors_window.h"
 #include "ui/hint_window.h"
+#include "ui/keyboard_play.h"
 #include "ui/options_dialog.h"
 #include "ui/painted_pictures.h"
 #include "ui/print_window.h"
@@ -99,6 +100,8 @@ MainWindow::MainWindow(Game& game, Options& options, const LibraryFolders& folde
     } else {
         resize(start);
     }
+    new KeyboardPlay(game_, area_->Board(), this);
+    KeyboardPlay::AddShortcuts(this);
     game_.SetEvents([this](Changes changes) { Show(changes); });
     Refresh();
 }
