@@ -196,7 +196,8 @@ void PaintBoard(QPainter& painter, const BoardGeometry& geometry, const BoardPic
         const int w = std::max(2, geometry.ThickLine());
         const QRectF cell = QRectF(geometry.CellRect(picture.cursor)).adjusted(w, w, -w, -w);
         painter.setRenderHint(QPainter::Antialiasing);
-        painter.setPen(QPen(kCursorColor, w, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+        painter.setPen(QPen(picture.cursorFocused ? kCursorColor : look.thinLine, w, Qt::SolidLine,
+                            Qt::SquareCap, Qt::MiterJoin));
         painter.setBrush(Qt::NoBrush);
         painter.drawRect(cell);
     }

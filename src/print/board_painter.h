@@ -31,7 +31,8 @@ struct BoardPicture {
     bool enabled = true;                        // a board that takes no click draws its marks pale
     int selectedRow = -1;                       // a picked row header, drawn in red; -1 for none
     int selectedColumn = -1;
-    int cursor = -1;  // the keyboard's cell, framed; -1 for none
+    int cursor = -1;            // the keyboard's cell, framed; -1 for none
+    bool cursorFocused = true;  // the keys reach the board: the frame in full colour
     std::array<std::optional<Color>, 81> cellPaint{};
     std::array<std::array<std::optional<Color>, 9>, 81> markPaint{};
 

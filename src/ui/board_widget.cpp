@@ -40,7 +40,18 @@ void BoardWidget::paintEvent(QPaintEvent*) {
     p.fillRect(rect(), palette().window());
     BoardPicture picture = PictureOf(game_);
     picture.cursor = cursor_;
+    picture.cursorFocused = hasFocus();
     PaintBoard(p, layout_, picture, ScreenLook(palette()), &glyphs_);
+}
+
+void BoardWidget::focusInEvent(QFocusEvent* e) {
+    QWidget::focusInEvent(e);
+    if (cursor_ >= 0) update();
+}
+
+void BoardWidget::focusOutEvent(QFocusEvent* e) {
+    QWidget::focusOutEvent(e);
+    if (cursor_ >= 0) update();
 }
 
 void BoardWidget::SetCursorCell(int cell) {

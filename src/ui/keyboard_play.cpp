@@ -1,5 +1,6 @@
 #include "ui/keyboard_play.h"
 
+#include <QApplication>
 #include <QKeyEvent>
 #include <QPushButton>
 #include <QShortcut>
@@ -36,6 +37,7 @@ KeyboardPlay::KeyboardPlay(Game& game, BoardWidget* board, QObject* parent)
     : QObject(parent), game_(game), board_(board) {
     board_->setFocusPolicy(Qt::StrongFocus);
     board_->installEventFilter(this);
+    board_->setFocus();  // the keys play from the start
 }
 
 void KeyboardPlay::AddShortcuts(QWidget* window) {
@@ -112,6 +114,8 @@ void KeyboardPlay::MoveCursor(int rows, int columns) {
 void KeyboardPlay::Digit(int digit, bool mark) {
     const int cell = board_->CursorCell();
     if (cell < 0 || game_.Busy()) return;
+    // A mark that is not there takes no click, and no key either: say so.
+    if (!game_.board().CurrentGrid[cell] && !game_.MarkVisible(digit, cell)) QApplication::beep();
     game_.MarkMouseUp(digit, cell, mark ? MouseButton::Right : MouseButton::Left, true);
 }
 

@@ -78,6 +78,10 @@ TEST_F(DeskShots, MainAndHintWindowOnTheScreen) {
         ClickMark(digit, cell);
     }
     Press("CommandHint");
+    // The keyboard's cursor, moved from the middle one cell up and right.
+    Board()->setFocus();
+    for (int key : {Qt::Key_Down, Qt::Key_Up, Qt::Key_Right})
+        QTest::keyClick(Board(), Qt::Key(key));
     auto* hints = w.findChild<HintWindow*>(QStringLiteral("FormHint"));
     ASSERT_NE(hints, nullptr);
     ASSERT_TRUE(hints->isVisible());
