@@ -9,6 +9,7 @@
 #include <QPainter>
 #include <QScreen>
 
+#include "ui/check_window.h"
 #include "ui/colors_window.h"
 #include "ui/hint_window.h"
 #include "ui/options_dialog.h"
@@ -112,7 +113,8 @@ TEST_F(DeskShots, DialogsOnTheScreen) {
     Desktop({&techniques}, "desk-techniques");
     for (QDialog* d : std::initializer_list<QDialog*>{
              new ColorsWindow(options.colors, nullptr, &w),
-             new PrintWindow(print, PrintSnapshotOf(*game), folders.DataFolder, &w)}) {
+             new PrintWindow(print, PrintSnapshotOf(*game), folders.DataFolder, &w),
+             new CheckWindow(folders.DataFolder, &options.techniques.Order, nullptr, &w)}) {
         d->show();
         Desktop({d}, d->objectName());
         delete d;
