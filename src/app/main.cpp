@@ -5,6 +5,7 @@
 
 #include "game/game.h"
 #include "settings/options.h"
+#include "ui/app_icon.h"
 #include "ui/desktop_services.h"
 #include "ui/main_window.h"
 #include "ui/program_folders.h"
@@ -16,6 +17,8 @@ int main(int argc, char** argv) {
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Tavi Sudoku 1"));
     QApplication::setApplicationVersion(QStringLiteral("1.6"));
+    QApplication::setWindowIcon(tavi::ui::AppIcon());
+    QGuiApplication::setDesktopFileName(QString::fromLatin1(tavi::ui::kAppId));
 
     const tavi::LibraryFolders folders = tavi::ui::ProgramFolders();
     // A settings file that can't be read is left alone: the run keeps its

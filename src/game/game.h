@@ -62,6 +62,16 @@ inline constexpr std::string_view kStandingHintText =
 inline constexpr std::string_view kPlayingHintText =
     "Press [Hint] if you get stuck !!! Minimize Window to pause. DoubleClick this window to pop "
     "up the small Hint Window.";
+// The hint box after the board is full: a solved game, an autosolved one, the
+// solution shown, and the end of a Scan.
+inline constexpr std::string_view kSolvedText =
+    "Sudoku solved !!! Press [New] for the next sudoku.";
+inline constexpr std::string_view kAutosolvedText =
+    "Sudoku autosolved. Press [New] for the next sudoku.";
+inline constexpr std::string_view kSolutionText =
+    "This is the solution. Press [New] for the next sudoku.";
+inline constexpr std::string_view kScanDoneText = "Scan completed.";
+inline constexpr std::string_view kScanStoppedText = "Scan stopped.";
 inline constexpr int kNoHover = 729;
 inline constexpr std::string_view kSettingsProblemTitle = "Settings not read";
 inline constexpr int kNoLine = 9;  // SelectedRow and SelectedColumn when nothing is picked
@@ -190,6 +200,11 @@ class Game : private MoveListener {
     bool MarkCaptionsShown() const {
         return !(position().ChosenLevel < 4 && options_.PencilmarksOff);
     }
+    // Whether mark `digit` of `cell` shows its digit: always with pencil marks,
+    // and without them only the mark a hint has painted (Show Me).
+    bool MarkCaptionShown(int digit, int cell) const {
+        return MarkCaptionsShown() || MarkPaint(digit, cell).has_value();
+    }
     std::optional<Color> CellPaint(int cell) const { return brushes_.CellPaint(cell); }
     std::optional<Color> MarkPaint(int digit, int cell) const {
         return brushes_.MarkPaint(digit, cell);
@@ -286,6 +301,9 @@ class Game : private MoveListener {
     // The candidates as the automatic marks have them: all digits but those the
     // peers hold.
     void RebuildMarks();
+    // Takes away the marks of the digits the peers hold; the others stay as
+    // they are.
+    void PruneMarks();
     // Says so when the settings could not be read, or some of their values.
     void ReportSettingsProblems();
     // Saves the position keys and the options: every way out ends here.

@@ -237,16 +237,25 @@ void Game::CommandScan() {
 
     commands_.ScanCaption = "Stop";
     scanStop_ = false;
+    bool halted = false;
     for (long n = from; n <= to && !scanStop_; ++n) {
         position_.PuzzleNumber[level] = int(n);
-        if (!LoadPuzzle(false)) break;
+        if (!LoadPuzzle(false)) {
+            halted = true;  // the message said why
+            break;
+        }
         // With pencil marks off the board shows every digit as a mark: the
         // autosolver needs the real candidates.
         RebuildMarks();
         ModeScope autosolving(ctx_, ctx_.Mode().With(SolveMode::kAutosolveActive));
         position_.SudokuAutosolved = true;
-        if (AutoSolveBoard()) break;
+        if (AutoSolveBoard()) {
+            halted = true;
+            break;
+        }
     }
+    // A Scan that halted shows its hint; otherwise the box tells how it ended.
+    if (!halted) textHint_ = std::string(scanStop_ ? kScanStoppedText : kScanDoneText);
     scanStop_ = false;
     commands_.ScanCaption = "Scan";
 }

@@ -15,6 +15,15 @@ void Game::RebuildMarks() {
     }
 }
 
+void Game::PruneMarks() {
+    for (int c = 0; c < 81; ++c) {
+        if (ctx_.board.CurrentGrid[c]) continue;
+        for (int peer : Peers[c])
+            if (ctx_.board.CurrentGrid[peer])
+                ctx_.board.Candidates[c] &= CandidateMask(~DigitBit(ctx_.board.CurrentGrid[peer]));
+    }
+}
+
 void Game::CommandOptions(const Options& before) {
     const ChangeScope scope(*this);
     // The options window may have changed anything the window draws.
@@ -31,7 +40,7 @@ void Game::CommandOptions(const Options& before) {
     const bool marksNow = options_.Pencilmarks && !(lowLevel && options_.PencilmarksOff);
     const bool offChanged = lowLevel && options_.PencilmarksOff != before.PencilmarksOff;
     const bool updateChanged = gameOpen && options_.Pencilmarks != before.Pencilmarks;
-    if ((offChanged || updateChanged) && marksBefore != marksNow) {
+    if (offChanged && marksBefore != marksNow) {
         ResetHintStage();
         WisKleuren();
         brushes_.Off();
@@ -41,7 +50,12 @@ void Game::CommandOptions(const Options& before) {
         } else {
             SpecialPencilmarks();
         }
+    } else if (updateChanged && marksNow && !marksBefore) {
+        // The marks follow the digits again; the ones the player took away
+        // stay away.
+        PruneMarks();
     }
+    // Turning the automatic update off leaves the marks as they stand.
     if (options_.Wells && !before.Wells) SetupWells();
     if (options_.TimeOn != before.TimeOn)
         services_.prompter.Message("Time option changed",

@@ -173,6 +173,8 @@ bool Game::OpenLastSudoku() {
 void Game::CommandSave() {
     const ChangeScope scope(*this);
     if (busy_) return;  // a search is running
+    // A waiting "Show Me" is not kept in the file.
+    ResetHintStage();
     const LibraryPosition& position_ = session_.position();
     Prompter& say = services_.prompter;
     if (position_.SudokuSolved && !position_.SudokuAutosolved)
@@ -208,7 +210,7 @@ void Game::CommandSolution() {
     if (busy_) return;  // a search is running
     clock_.Stop();
     Speel(kSoundSolution);
-    hints_.ResetStage();
+    ResetHintStage();
     WisKleuren();
     for (int c = 0; c < 81; ++c) {
         ctx_.board.Candidates[c] = 0;
@@ -217,12 +219,13 @@ void Game::CommandSolution() {
     if (options_.Wells) SetupWells();
     // As the end of a game, without the applause and the best time.
     CloseGameRecord();
+    textHint_ = std::string(kSolutionText);
     commands_.Save = commands_.Undo = commands_.Redo = commands_.ResetCell = false;
     commands_.Hint = commands_.AutoSolve = commands_.Solution = false;
 }
 
 void Game::OpenPage(const std::string& page) {
-    if (!services_.pages) {
+    if (!services_.pages || !services_.pages->BrowserFound()) {
         services_.prompter.Ask("Browser Not Found", "Could not find associated Browser",
                                Buttons::Ok, Icon::Exclamation);
         return;

@@ -101,6 +101,11 @@ void Game::ZetOpgelost() {
     if (MakeMode) return;
     clock_.Tick();
     clock_.Stop();
+    ResetHintStage();
+    textHint_ = std::string(position().SudokuAutosolved ? kAutosolvedText : kSolvedText);
+    // The window shows the finished board, its counters and wells behind the
+    // boxes that follow, not the state before the last move.
+    Announce();
     if (!position().SudokuAutosolved) {
         Speel(kSoundSolved);
         if (clock_.BeatsBest(sudoku())) {

@@ -47,6 +47,8 @@ class TimeSource {
 class PageOpener {
   public:
     virtual ~PageOpener() = default;
+    // Whether a browser is there at all to open pages with.
+    virtual bool BrowserFound() const { return true; }
     virtual bool Open(const std::string& url) = 0;
 };
 

@@ -3,6 +3,7 @@
 #include <QFontMetrics>
 #include <QPainter>
 #include <algorithm>
+#include <cmath>
 
 #include "game/game.h"
 #include "grid/tables.h"
@@ -13,7 +14,8 @@ namespace tavi::ui {
 namespace {
 
 const QColor kDisabledMark(206, 210, 217);
-const QColor kSelectedHeader(255, 0, 0);  // the colour value 255 of a picked header
+const QColor kSelectedHeader(255, 0, 0);
+const QColor kCursorColor(230, 120, 0);  // the colour value 255 of a picked header
 
 // Centres the digit by its ink, not by the font's line box, as the glyph cache
 // does.
@@ -110,15 +112,15 @@ void PaintDigitsAndMarks(QPainter& p, const BoardGeometry& g, const BoardPicture
                       s.clue[c] && look.boldClues, look.digitFamily);
             continue;
         }
-        if (!s.markCaptions) continue;
         for (int m = 1; m <= 9; ++m) {
-            if (!s.MarkShown(m, c)) continue;
+            if (!s.MarkShown(m, c) || (s.bareMarks[c] & (1u << (m - 1)))) continue;
             const bool dim = s.dimmed[c] & (1u << (m - 1));
             const QColor color = !s.enabled ? kDisabledMark
                                  : dim      ? ColorOf(kDimmedMarkColor)
                                             : look.mark;
             const auto& under = s.markPaint[c][m - 1] ? s.markPaint[c][m - 1] : s.cellPaint[c];
-            DrawDigit(p, glyphs, g.MarkRect(m, c), m, markSize, ReadableOn(color, under), false,
+            DrawDigit(p, glyphs, g.MarkRect(m, c), m, markSize,
+                      ReadableOn(color, under, dim ? kDimmedContrast : kInkContrast), false,
                       look.digitFamily);
         }
     }
@@ -145,12 +147,39 @@ BoardLook BoardLook::Paper() {
     return look;
 }
 
-QColor ReadableOn(const QColor& ink, const std::optional<Color>& paint) {
+namespace {
+
+double Luminance(const QColor& c) {
+    const auto linear = [](double v) {
+        return v <= 0.04045 ? v / 12.92 : std::pow((v + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(c.redF()) + 0.7152 * linear(c.greenF()) + 0.0722 * linear(c.blueF());
+}
+
+QColor Mix(const QColor& from, const QColor& to, double t) {
+    return QColor::fromRgbF(float(from.redF() + (to.redF() - from.redF()) * t),
+                            float(from.greenF() + (to.greenF() - from.greenF()) * t),
+                            float(from.blueF() + (to.blueF() - from.blueF()) * t));
+}
+
+}  // namespace
+
+double ContrastRatio(const QColor& a, const QColor& b) {
+    const double la = Luminance(a), lb = Luminance(b);
+    return (std::max(la, lb) + 0.05) / (std::min(la, lb) + 0.05);
+}
+
+QColor ReadableOn(const QColor& ink, const std::optional<Color>& paint, double contrast) {
     if (!paint) return ink;
     const QColor back = ColorOf(*paint);
-    if (qGray(back.rgb()) >= 110 || qGray(ink.rgb()) >= 110) return ink;
-    return QColor(255 - (255 - ink.red()) / 4, 255 - (255 - ink.green()) / 4,
-                  255 - (255 - ink.blue()) / 4);
+    if (ContrastRatio(ink, back) >= contrast) return ink;
+    const QColor end =
+        ContrastRatio(Qt::black, back) >= ContrastRatio(Qt::white, back) ? Qt::black : Qt::white;
+    for (int step = 1; step < 32; ++step) {
+        const QColor mixed = Mix(ink, end, step / 32.0);
+        if (ContrastRatio(mixed, back) >= contrast) return mixed;
+    }
+    return end;
 }
 
 void PaintBoard(QPainter& painter, const BoardGeometry& geometry, const BoardPicture& picture,
@@ -162,6 +191,16 @@ void PaintBoard(QPainter& painter, const BoardGeometry& geometry, const BoardPic
     if (geometry.Headers()) PaintHeaders(painter, geometry, picture, look);
     PaintDigitsAndMarks(painter, geometry, picture, look, glyphs);
     PaintLines(painter, geometry, look);
+    if (picture.cursor >= 0 && picture.cursor < 81) {
+        // A frame inside the cell, drawn as a path so it stays sharp at any scale.
+        const int w = std::max(2, geometry.ThickLine());
+        const QRectF cell = QRectF(geometry.CellRect(picture.cursor)).adjusted(w, w, -w, -w);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(QPen(picture.cursorFocused ? kCursorColor : look.thinLine, w, Qt::SolidLine,
+                            Qt::SquareCap, Qt::MiterJoin));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRect(cell);
+    }
     painter.restore();
 }
 

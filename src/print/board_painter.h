@@ -22,14 +22,17 @@ namespace tavi::ui {
 class GlyphCache;
 
 struct BoardPicture {
-    std::array<int, 81> digits{};            // 0 for an open cell
-    std::array<bool, 81> clue{};             // a digit of the puzzle itself
-    std::array<std::uint16_t, 81> marks{};   // bit d - 1: mark d shows in the open cell
-    std::array<std::uint16_t, 81> dimmed{};  // bit d - 1: mark d is drawn dim
-    bool markCaptions = true;                // marks show their digit (not so without pencil marks)
-    bool enabled = true;                     // a board that takes no click draws its marks pale
-    int selectedRow = -1;                    // a picked row header, drawn in red; -1 for none
+    std::array<int, 81> digits{};               // 0 for an open cell
+    std::array<bool, 81> clue{};                // a digit of the puzzle itself
+    std::array<std::uint16_t, 81> marks{};      // bit d - 1: mark d shows in the open cell
+    std::array<std::uint16_t, 81> dimmed{};     // bit d - 1: mark d is drawn dim
+    std::array<std::uint16_t, 81> bareMarks{};  // bit d - 1: mark d shows no digit (play
+                                                // without pencil marks)
+    bool enabled = true;                        // a board that takes no click draws its marks pale
+    int selectedRow = -1;                       // a picked row header, drawn in red; -1 for none
     int selectedColumn = -1;
+    int cursor = -1;            // the keyboard's cell, framed; -1 for none
+    bool cursorFocused = true;  // the keys reach the board: the frame in full colour
     std::array<std::optional<Color>, 81> cellPaint{};
     std::array<std::array<std::optional<Color>, 9>, 81> markPaint{};
 
@@ -65,9 +68,19 @@ struct BoardLook {
 void PaintBoard(QPainter& painter, const BoardGeometry& geometry, const BoardPicture& picture,
                 const BoardLook& look, GlyphCache* glyphs = nullptr);
 
-// Ink that stays readable on a dark paint (a hint's pattern colour, say): on a
-// dark background the digit is drawn in a light tint of its own colour.
-QColor ReadableOn(const QColor& ink, const std::optional<Color>& paint);
+// The contrast of two colours by their relative luminance: 1 (the same) to 21
+// (black on white).
+double ContrastRatio(const QColor& a, const QColor& b);
+
+// Contrast wanted for digits and marks, and for dimmed marks (faint, still read).
+inline constexpr double kInkContrast = 4.5;
+inline constexpr double kDimmedContrast = 3.0;
+
+// Ink that stays readable on a paint (a hint's colour, say): the ink itself when
+// it stands out enough, else the ink moved towards black or white, whichever
+// stands out more from the paint, just far enough to reach `contrast`.
+QColor ReadableOn(const QColor& ink, const std::optional<Color>& paint,
+                  double contrast = kInkContrast);
 
 // The core keeps colours as 0x00BBGGRR.
 inline QColor ColorOf(Color c) {

@@ -5,7 +5,6 @@ namespace tavi::ui {
 BoardPicture PictureOf(const Game& game) {
     BoardPicture s;
     const Board& board = game.board();
-    s.markCaptions = game.MarkCaptionsShown();
     s.enabled = game.GridEnabled();
     s.selectedRow = game.SelectedRow < 9 ? game.SelectedRow : -1;
     s.selectedColumn = game.SelectedColumn < 9 ? game.SelectedColumn : -1;
@@ -18,6 +17,7 @@ BoardPicture PictureOf(const Game& game) {
             if (s.digits[c] || !game.MarkVisible(d, c) || !game.FilterOn(d)) continue;
             s.marks[c] |= std::uint16_t(1u << (d - 1));
             if (game.MarkDimmed(d, c)) s.dimmed[c] |= std::uint16_t(1u << (d - 1));
+            if (!game.MarkCaptionShown(d, c)) s.bareMarks[c] |= std::uint16_t(1u << (d - 1));
         }
     }
     return s;

@@ -38,7 +38,26 @@ BoardSpot BoardWidget::TargetAt(QPoint p) const {
 void BoardWidget::paintEvent(QPaintEvent*) {
     QPainter p(this);
     p.fillRect(rect(), palette().window());
-    PaintBoard(p, layout_, PictureOf(game_), ScreenLook(palette()), &glyphs_);
+    BoardPicture picture = PictureOf(game_);
+    picture.cursor = cursor_;
+    picture.cursorFocused = hasFocus();
+    PaintBoard(p, layout_, picture, ScreenLook(palette()), &glyphs_);
+}
+
+void BoardWidget::focusInEvent(QFocusEvent* e) {
+    QWidget::focusInEvent(e);
+    if (cursor_ >= 0) update();
+}
+
+void BoardWidget::focusOutEvent(QFocusEvent* e) {
+    QWidget::focusOutEvent(e);
+    if (cursor_ >= 0) update();
+}
+
+void BoardWidget::SetCursorCell(int cell) {
+    if (cell == cursor_) return;
+    cursor_ = cell;
+    update();
 }
 
 // --- Mouse ---------------------------------------------------------------------

@@ -25,6 +25,10 @@ class BoardWidget : public QWidget {
     // the cell itself (digit 0) when the square holds no mark, or a header.
     BoardSpot TargetAt(QPoint p) const;
 
+    // The keyboard's cursor: a cell, or -1 while the keyboard has not been used.
+    int CursorCell() const { return cursor_; }
+    void SetCursorCell(int cell);
+
     QSize sizeHint() const override { return {460, 460}; }
     QSize minimumSizeHint() const override { return {200, 200}; }
 
@@ -36,6 +40,8 @@ class BoardWidget : public QWidget {
     void mouseReleaseEvent(QMouseEvent*) override;
     void mouseMoveEvent(QMouseEvent*) override;
     void leaveEvent(QEvent*) override;
+    void focusInEvent(QFocusEvent*) override;
+    void focusOutEvent(QFocusEvent*) override;
 
   private:
     void Hover(const BoardSpot& spot);
@@ -46,6 +52,7 @@ class BoardWidget : public QWidget {
     std::optional<BoardSpot> pressed_;
     Qt::MouseButton pressedButton_ = Qt::NoButton;
     BoardSpot hover_;
+    int cursor_ = -1;
 };
 
 }  // namespace tavi::ui

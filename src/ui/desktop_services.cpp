@@ -1,6 +1,8 @@
 #include "ui/desktop_services.h"
 
 #include <QDesktopServices>
+#include <QProcess>
+#include <QStandardPaths>
 #include <QTime>
 #include <QUrl>
 
@@ -19,6 +21,28 @@ QUrl PageUrl(const std::string& page) {
     QUrl url = QUrl::fromLocalFile(hash < 0 ? text : text.left(hash));
     if (hash >= 0) url.setFragment(text.mid(hash + 1));
     return url;
+}
+
+bool DesktopPageOpener::BrowserFound() const {
+#if defined(Q_OS_UNIX) && !defined(Q_OS_MACOS)
+    // A browser named by the user, the system's choice of one, or the
+    // desktop's handler of web pages.
+    if (!qEnvironmentVariableIsEmpty("BROWSER")) return true;
+    if (!QStandardPaths::findExecutable(QStringLiteral("x-www-browser")).isEmpty()) return true;
+    const QString mime = QStandardPaths::findExecutable(QStringLiteral("xdg-mime"));
+    if (mime.isEmpty()) return false;
+    for (const char* type : {"x-scheme-handler/https", "text/html"}) {
+        QProcess query;
+        query.start(
+            mime, {QStringLiteral("query"), QStringLiteral("default"), QString::fromLatin1(type)});
+        if (query.waitForFinished(3000) && query.exitCode() == 0 &&
+            !query.readAllStandardOutput().trimmed().isEmpty())
+            return true;
+    }
+    return false;
+#else
+    return true;
+#endif
 }
 
 bool DesktopPageOpener::Open(const std::string& url) {

@@ -22,6 +22,7 @@ QUrl PageUrl(const std::string& page);
 // as file URLs.
 class DesktopPageOpener : public PageOpener {
   public:
+    bool BrowserFound() const override;
     bool Open(const std::string& url) override;
 };
 

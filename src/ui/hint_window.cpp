@@ -3,12 +3,17 @@
 #include <QApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <QGuiApplication>
 #include <QInputDialog>
 #include <QMenuBar>
+#include <QMoveEvent>
 #include <QPainter>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QRegularExpression>
+#include <QScreen>
+
+#include <algorithm>
 
 #include "hints/hint_kinds.h"
 #include "ui/qt_convert.h"
@@ -88,13 +93,66 @@ void HintWindow::ShowHint() {
     TakeSnapshot();
     const std::string& caption = game_.HintWindowCaption();
     setWindowTitle(ToQString(caption.empty() ? kMainDuplicateCaption : caption));
-    if (!isVisible() && parentWidget()) {
-        // Over the middle of the game window, the first time and after a close.
-        const QRect main = parentWidget()->window()->frameGeometry();
-        move(main.center() - QPoint(width() / 2, height() / 2));
-    }
+    Present();
+}
+
+void HintWindow::Present() {
+    if (!isVisible()) Place();
     show();
     raise();
+}
+
+QPoint HintWindowPlace(const QRect& mainFrame, const QSize& hintFrame, const QRect& screenFree) {
+    constexpr int kGap = 8;
+    const int top =
+        std::clamp(mainFrame.top(), screenFree.top(),
+                   std::max(screenFree.top(), screenFree.bottom() + 1 - hintFrame.height()));
+    const int right = mainFrame.right() + 1 + kGap;
+    if (right + hintFrame.width() <= screenFree.right() + 1) return {right, top};
+    const int left = mainFrame.left() - kGap - hintFrame.width();
+    if (left >= screenFree.left()) return {left, top};
+    return {std::max(screenFree.left(), screenFree.right() + 1 - hintFrame.width()),
+            std::max(screenFree.top(), screenFree.bottom() + 1 - hintFrame.height())};
+}
+
+void HintWindow::SetStore(SettingsStore* store) {
+    store_ = store;
+    if (!store_ || placed_) return;
+    bool okX = false, okY = false;
+    const int x = QString::fromStdString(store_->Read("FormHint", "Left", "")).toInt(&okX);
+    const int y = QString::fromStdString(store_->Read("FormHint", "Top", "")).toInt(&okY);
+    if (okX && okY) placed_ = QPoint(x, y);
+}
+
+void HintWindow::Place() {
+    const QWidget* main = parentWidget() ? parentWidget()->window() : nullptr;
+    QScreen* screen = main ? main->screen() : this->screen();
+    if (!screen) return;
+    // The frame is only known once shown; before, the size stands for it.
+    const QSize frame = frameGeometry().size().expandedTo(size());
+    const QRect free = screen->availableGeometry();
+    QPoint at;
+    if (placed_ && QGuiApplication::screenAt(*placed_ + QPoint(20, 20))) {
+        at = *placed_;  // the person's place, while a screen still shows it
+    } else if (main) {
+        at = HintWindowPlace(main->frameGeometry(), frame, free);
+    } else {
+        return;
+    }
+    placing_ = true;
+    move(at);
+    placing_ = false;
+}
+
+void HintWindow::moveEvent(QMoveEvent* e) {
+    QMainWindow::moveEvent(e);
+    // Only a move by the person counts, of a window on the screen.
+    if (placing_ || !isVisible() || !e->spontaneous()) return;
+    placed_ = pos();
+    if (store_) {
+        store_->Write("FormHint", "Left", std::to_string(placed_->x()));
+        store_->Write("FormHint", "Top", std::to_string(placed_->y()));
+    }
 }
 
 void HintWindow::Refresh() {

@@ -11,6 +11,7 @@
 
 #include "game/game.h"
 #include "library/library_files.h"
+#include "settings/settings_store.h"
 #include "ui/board_snapshot.h"
 
 class QPrinter;
@@ -51,16 +52,34 @@ class HintWindow : public QMainWindow {
     QImage Picture();
     const HintSnapshot& Snapshot() const { return snapshot_; }
     void SetNameAsker(NameAsker asker) { askName_ = std::move(asker); }
+    // Where the window keeps the place the person moved it to, for the next
+    // showing and the next run.
+    void SetStore(SettingsStore* store);
+    // Shows the window, when hidden first at its place: where the person last
+    // put it, else beside the game window.
+    void Present();
+
+  protected:
+    void moveEvent(QMoveEvent* e) override;
 
   private:
     void TakeSnapshot();
+    void Place();
 
     const Game& game_;
     LibraryFolders folders_;
     HintSnapshot snapshot_;
     NameAsker askName_;
     QWidget* board_ = nullptr;
+    SettingsStore* store_ = nullptr;
+    std::optional<QPoint> placed_;  // where the person put the window
+    bool placing_ = false;          // the window is being moved by the program
 };
+
+// Where the hint window opens on the free part of a screen: to the right of the
+// game window, else to its left, so the board stays in view; when neither side
+// has room, in the screen's bottom right corner. Always wholly on the screen.
+QPoint HintWindowPlace(const QRect& mainFrame, const QSize& hintFrame, const QRect& screenFree);
 
 // "Screenshots" beside the program, or in the data folder when the program's
 // folder can't be written; made when missing. Empty when neither can be made.

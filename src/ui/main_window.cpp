@@ -19,6 +19,7 @@
 #include "ui/board_area.h"
 #include "ui/colors_window.h"
 #include "ui/hint_window.h"
+#include "ui/keyboard_play.h"
 #include "ui/options_dialog.h"
 #include "ui/painted_pictures.h"
 #include "ui/print_window.h"
@@ -79,6 +80,8 @@ MainWindow::MainWindow(Game& game, Options& options, const LibraryFolders& folde
     } else {
         resize(start);
     }
+    new KeyboardPlay(game_, area_->Board(), this);
+    KeyboardPlay::AddShortcuts(this);
     game_.SetEvents([this](Changes changes) { Show(changes); });
     Refresh();
 }
@@ -226,9 +229,7 @@ void MainWindow::ScaleControls() {
 bool MainWindow::eventFilter(QObject* watched, QEvent* e) {
     // A double click on the hint box pops up the small hint window.
     if (watched == textHint_->viewport() && e->type() == QEvent::MouseButtonDblClick) {
-        HintWindow* hints = Hints();
-        hints->show();
-        hints->raise();
+        Hints()->Present();
         return true;
     }
     return QMainWindow::eventFilter(watched, e);
@@ -238,6 +239,7 @@ HintWindow* MainWindow::Hints() {
     if (!hints_) {
         hints_ = new HintWindow(game_, folders_, this);
         hints_->setWindowFlag(Qt::Window);
+        hints_->SetStore(store_);
         hints_->Refresh();
     }
     return hints_;

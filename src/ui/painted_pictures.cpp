@@ -1,5 +1,6 @@
 #include "ui/painted_pictures.h"
 
+#include <QGuiApplication>
 #include <QPainter>
 #include <QPainterPath>
 
@@ -23,7 +24,8 @@ QCursor BrushCursor(const std::filesystem::path& appFolder) {
         const QPixmap file(QString::fromStdString(icon.string()));
         if (!file.isNull()) return QCursor(file, 1, 1);
     }
-    QPixmap pixmap = Canvas(32, 1.0);
+    // Drawn for the sharpest screen, so the pointer is not blown up on it.
+    QPixmap pixmap = Canvas(32, qApp ? qApp->devicePixelRatio() : 1.0);
     QPainter p(&pixmap);
     p.setRenderHint(QPainter::Antialiasing);
     // Handle from the lower right, then the metal band, then the bristles

@@ -6,9 +6,16 @@
 
 namespace tavi::ui {
 
+QString DeliveredFolder(const QString& programDir) {
+    // Installed: the program in PREFIX/bin, what it brings in PREFIX/share.
+    const QDir shared(QDir(programDir).filePath(QStringLiteral("../share/tavi-sudoku")));
+    if (shared.exists(QStringLiteral("help/index.html"))) return shared.absolutePath();
+    return QDir(programDir).absolutePath();
+}
+
 LibraryFolders ProgramFolders() {
     LibraryFolders folders;
-    folders.AppFolder = QCoreApplication::applicationDirPath().toStdString();
+    folders.AppFolder = DeliveredFolder(QCoreApplication::applicationDirPath()).toStdString();
     const QString base = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
     const QString data = QDir(base).filePath(QStringLiteral("TaviSud1"));
     QDir().mkpath(data);

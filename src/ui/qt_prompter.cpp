@@ -1,8 +1,11 @@
 #include "ui/qt_prompter.h"
 
 #include <QApplication>
+#include <QGridLayout>
 #include <QInputDialog>
 #include <QMessageBox>
+
+#include <algorithm>
 
 #include "ui/qt_convert.h"
 
@@ -63,12 +66,26 @@ Answer AnswerOf(int button, Buttons asked) {
 
 void QtPrompter::Beep() { QApplication::beep(); }
 
-Answer QtPrompter::Ask(std::string_view title, std::string_view text, Buttons buttons, Icon icon) {
-    QMessageBox box(IconOf(icon), ToQString(title), ToQString(text), ButtonsOf(buttons), parent_);
-    box.setEscapeButton(EscapeOf(buttons));
+std::unique_ptr<QMessageBox> MessageBoxFor(QWidget* parent, std::string_view title,
+                                           std::string_view text, Buttons buttons, Icon icon) {
+    auto box = std::make_unique<QMessageBox>(IconOf(icon), ToQString(title), ToQString(text),
+                                             ButtonsOf(buttons), parent);
+    box->setEscapeButton(EscapeOf(buttons));
     if (buttons == Buttons::YesNo || buttons == Buttons::YesNoCancel)
-        box.setDefaultButton(QMessageBox::Yes);
-    return AnswerOf(box.exec(), buttons);
+        box->setDefaultButton(QMessageBox::Yes);
+    // Wide enough for its caption (drawn larger in the title bar) and never a
+    // narrow strip around a short text.
+    const int wanted =
+        std::max(300, box->fontMetrics().horizontalAdvance(box->windowTitle()) * 3 / 2 + 120);
+    if (auto* grid = qobject_cast<QGridLayout*>(box->layout()))
+        grid->addItem(new QSpacerItem(wanted, 0, QSizePolicy::Minimum, QSizePolicy::Fixed),
+                      grid->rowCount(), 0, 1, grid->columnCount());
+    return box;
+}
+
+Answer QtPrompter::Ask(std::string_view title, std::string_view text, Buttons buttons, Icon icon) {
+    const auto box = MessageBoxFor(parent_, title, text, buttons, icon);
+    return AnswerOf(box->exec(), buttons);
 }
 
 std::optional<std::string> QtPrompter::Input(std::string_view title, std::string_view prompt,

@@ -4,10 +4,17 @@
 
 #include <QPointer>
 #include <QWidget>
+#include <memory>
 
 #include "game/platform.h"
 
+class QMessageBox;
+
 namespace tavi::ui {
+
+// The box the prompter shows for a question, not yet shown.
+std::unique_ptr<QMessageBox> MessageBoxFor(QWidget* parent, std::string_view title,
+                                           std::string_view text, Buttons buttons, Icon icon);
 
 class QtPrompter : public Prompter {
   public:

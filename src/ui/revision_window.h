@@ -11,7 +11,8 @@ class RevisionWindow : public QDialog {
     explicit RevisionWindow(QWidget* parent = nullptr);
 };
 
-// The history shown, newest first.
+// The history, newest first: as plain text, and as the window shows it.
 QString RevisionHistory();
+QString RevisionHistoryHtml();
 
 }  // namespace tavi::ui

@@ -155,11 +155,21 @@ TEST_F(Hints, WithoutPencilmarksTheHintComesInTwoStages) {
     for (int d = 1; d <= 9; ++d)
         if (g.MarkPaint(d, cell) == options.colors.HintColor[kBaseCandidates]) digit = d;
     EXPECT_EQ(digit, g.board().Solution[cell]);
-    // A change of the board drops a waiting second stage.
+    // The mark shown is the only one that shows its digit.
+    EXPECT_TRUE(g.MarkCaptionShown(digit, cell));
+    EXPECT_FALSE(g.MarkCaptionShown(digit % 9 + 1, cell));
+    // A change of the board, a Save and the Solution drop a waiting second stage.
     g.CommandHint();
     EXPECT_EQ(g.commands().HintCaption, "Show Me");
     g.MarkMouseUp(digit, cell, MouseButton::Left, true);
     EXPECT_EQ(g.commands().HintCaption, "Hint");
+    g.CommandHint();
+    g.CommandSave();
+    EXPECT_EQ(g.commands().HintCaption, "Hint");
+    g.CommandHint();
+    g.CommandSolution();
+    EXPECT_EQ(g.commands().HintCaption, "Hint");
+    EXPECT_EQ(g.TextHint(), kSolutionText);
 }
 
 TEST_F(Hints, WhereTheLogicEndsAHintCostsNothing) {
@@ -194,6 +204,7 @@ TEST_F(Hints, AutosolvePlaysThroughAndCannotBeSaved) {
     EXPECT_EQ(g.board().CurrentGrid, g.board().Solution);
     EXPECT_TRUE(g.position().SudokuSolved);
     EXPECT_GT(g.CurrentStep(), 0);
+    EXPECT_EQ(g.TextHint(), kAutosolvedText);
     // No applause and no best time for an autosolved game.
     EXPECT_FALSE(prompter.Showed("New best time !!!"));
 }
@@ -270,6 +281,7 @@ TEST_F(Hints, ScanRunsAutosolveOverARange) {
     EXPECT_EQ(g.position().OpenRecord, 3);
     EXPECT_EQ(g.commands().ScanCaption, "Scan");
     EXPECT_TRUE(g.position().SudokuSolved);
+    EXPECT_EQ(g.TextHint(), kScanDoneText);
     EXPECT_EQ(prompter.shown.at(prompter.shown.size() - 1).text, "Enter a value between 2 and 3");
 }
 

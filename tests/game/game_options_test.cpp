@@ -1,4 +1,5 @@
 // What a change of the options does to the game on the board, and the penalty.
+#include "grid/candidates.h"
 #include "settings/options_form.h"
 #include "support/game_fixture.h"
 
@@ -31,6 +32,31 @@ TEST_F(OptionsChange, PencilmarksOffOnAnEasyGameAndBack) {
     ChangeOptions(g, [](OptionsForm& f) { f.PencilmarksOff = false; });
     EXPECT_TRUE(g.MarkCaptionsShown());
     EXPECT_EQ(g.board().Candidates, automatic.Candidates);
+}
+
+TEST_F(OptionsChange, AutomaticMarksOffLeavesTheMarksAndOnPrunesThem) {
+    Game& g = Playing(5);
+    auto [cell, digit] = FirstOpenCell();
+    const int other = [&, cell = cell, digit = digit] {
+        for (int d = 1; d <= 9; ++d)
+            if (d != digit && g.MarkVisible(d, cell)) return d;
+        return 0;
+    }();
+    ASSERT_NE(other, 0);
+    g.MarkMouseUp(other, cell, MouseButton::Right, true);
+    const Board before = g.board();
+    ChangeOptions(g, [](OptionsForm& f) { f.Pencilmarks = false; });
+    EXPECT_EQ(g.board().Candidates, before.Candidates);
+    // Placing now leaves the peers' marks; turning the update on takes them away
+    // and keeps the mark the player removed away.
+    g.MarkMouseUp(digit, cell, MouseButton::Left, true);
+    const int peer = Peers[cell][0];
+    const bool peerHad = before.Has(digit, peer) && !before.CurrentGrid[peer];
+    EXPECT_EQ(g.board().Has(digit, peer), peerHad);
+    ChangeOptions(g, [](OptionsForm& f) { f.Pencilmarks = true; });
+    EXPECT_FALSE(!g.board().CurrentGrid[peer] && g.board().Has(digit, peer));
+    g.CommandUndo();
+    EXPECT_FALSE(g.board().Has(other, cell));
 }
 
 TEST_F(OptionsChange, PencilmarksOffMeansNothingFromLevelFour) {

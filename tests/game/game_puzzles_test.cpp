@@ -198,8 +198,28 @@ TEST_F(Puzzles, SolvingByHandEndsTheGameWithABestTime) {
     Game& g = Playing(1);
     options.Sounds = true;
     clock.now += 65;
+    // What a window drawing each change would show behind the box: the last
+    // step counted and every well full.
+    std::string stepsShown;
+    int wellsShown = 0;
+    g.SetEvents([&](Changes c) {
+        if (c.Has(kChangeTexts)) stepsShown = g.LabelStap();
+        if (c.Has(kChangeWells)) {
+            wellsShown = 0;
+            for (int d = 1; d <= 9; ++d)
+                for (int b = 0; b < 9; ++b)
+                    wellsShown += g.WellFilled(d, b);
+        }
+    });
+    prompter.onShow = [&](const ScriptedPrompter::Shown& box) {
+        if (box.title != "Congratulations") return;
+        EXPECT_EQ(stepsShown, std::to_string(g.CurrentStep()));
+        EXPECT_EQ(wellsShown, 81);
+    };
     SolveByHand();
+    prompter.onShow = nullptr;
     EXPECT_TRUE(prompter.Showed("New best time !!!"));
+    EXPECT_EQ(g.TextHint(), kSolvedText);
     EXPECT_EQ(sounds.played.back(), kSoundSolved);
     const SudokuRecord best = [&] {
         SudokuRecord r;
@@ -236,6 +256,20 @@ TEST_F(Puzzles, KeepingTheProgressOfASolvedGameLeavesItBusy) {
     SolveByHand();
     EXPECT_TRUE(prompter.Showed("Do you want to erase progress of current solved sudoku ?"));
     EXPECT_EQ(store.Read("SudokuLevel2", "Busy", ""), "Yes");
+}
+
+TEST_F(Puzzles, HelpWithoutABrowserAndWithOneThatFails) {
+    Game& g = Started();
+    pages.browser = false;
+    g.CommandHelp();
+    EXPECT_EQ(prompter.shown.back().title, "Browser Not Found");
+    EXPECT_EQ(prompter.shown.back().text, "Could not find associated Browser");
+    EXPECT_TRUE(pages.opened.empty());
+    pages.browser = true;
+    pages.opens = false;
+    g.WebSiteClick();
+    EXPECT_EQ(prompter.shown.back().title, "URL Failed");
+    EXPECT_EQ(prompter.shown.back().text, "Web Page not Opened");
 }
 
 TEST_F(Puzzles, SolutionShowsTheBoardAndEndsTheGame) {

@@ -6,6 +6,7 @@
 
 #include <deque>
 #include <filesystem>
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -30,10 +31,13 @@ class ScriptedPrompter : public Prompter {
     std::deque<Answer> answers;
     std::deque<std::optional<std::string>> inputs;
     int beeps = 0;
+    // Called as each box comes up, while the game waits for it.
+    std::function<void(const Shown&)> onShow;
 
     void Beep() override { ++beeps; }
     Answer Ask(std::string_view title, std::string_view text, Buttons buttons, Icon) override {
         shown.push_back({std::string(title), std::string(text), buttons});
+        if (onShow) onShow(shown.back());
         if (buttons == Buttons::Ok) return Answer::Ok;
         if (answers.empty()) {
             ADD_FAILURE() << "unexpected question: " << title << " / " << text;
@@ -82,9 +86,11 @@ struct FakeSounds : SoundPlayer {
 
 struct FakePages : PageOpener {
     std::vector<std::string> opened;
+    bool browser = true, opens = true;
+    bool BrowserFound() const override { return browser; }
     bool Open(const std::string& url) override {
         opened.push_back(url);
-        return true;
+        return opens;
     }
 };
 

@@ -11,6 +11,8 @@
 #include <QTimer>
 #include <fstream>
 
+#include "print/board_painter.h"
+#include "settings/colors.h"
 #include "support/game_fixture.h"
 #include "ui/qt_convert.h"
 
@@ -147,6 +149,41 @@ TEST_F(HintWindowTest, PrintingWithoutAPrinterDoesNoHarm) {
     });
     w.findChild<QAction*>("mnuWindowPrint")->trigger();
     EXPECT_TRUE(dialogSeen);
+}
+
+}  // namespace
+}  // namespace tavi::ui
+
+namespace tavi::ui {
+namespace {
+
+TEST(HintWindowPlace, BesideTheGameWindowElseInTheCornerAndAlwaysOnTheScreen) {
+    const QRect screen(0, 0, 1920, 1040);
+    const QSize hint(400, 420);
+    // Room on the right; then only on the left; the top follows the game window.
+    EXPECT_EQ(HintWindowPlace(QRect(100, 50, 1000, 700), hint, screen), QPoint(1108, 50));
+    EXPECT_EQ(HintWindowPlace(QRect(700, 900, 1000, 100), hint, screen), QPoint(292, 620));
+    // A game window filling a small screen: the corner, away from the board.
+    const QRect small(0, 0, 1366, 740);
+    const QPoint corner = HintWindowPlace(QRect(20, 10, 1257, 707), hint, small);
+    EXPECT_EQ(corner, QPoint(966, 320));
+    // A hint window larger than the screen keeps its top left corner on it.
+    EXPECT_EQ(HintWindowPlace(QRect(0, 0, 800, 600), QSize(900, 900), QRect(0, 0, 800, 600)),
+              QPoint(0, 0));
+}
+
+TEST(ReadableInk, MarksStandOutOnEveryHintColour) {
+    for (const Color paint : kDefaultHintColor)
+        for (const auto& [ink, wanted] : {std::pair{ColorOf(kDimmedMarkColor), kDimmedContrast},
+                                          std::pair{QColor(60, 64, 72), kInkContrast},
+                                          std::pair{QColor(Qt::white), kInkContrast}}) {
+            const QColor drawn = ReadableOn(ink, paint, wanted);
+            EXPECT_GE(ContrastRatio(drawn, ColorOf(paint)), wanted - 0.05)
+                << std::hex << paint << " " << ink.name().toStdString();
+        }
+    // Ink that reads already is left alone, and so is ink on no paint.
+    EXPECT_EQ(ReadableOn(Qt::black, Color(0x00FFFFFF)), QColor(Qt::black));
+    EXPECT_EQ(ReadableOn(ColorOf(kDimmedMarkColor), std::nullopt), ColorOf(kDimmedMarkColor));
 }
 
 }  // namespace

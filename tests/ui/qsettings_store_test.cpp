@@ -88,5 +88,18 @@ TEST(ProgramFolders, DataFolderIsTaviSud1InTheUsersDataFolderAndIsMade) {
     EXPECT_FALSE(folders.AppFolder.empty());
 }
 
+TEST(ProgramFolders, AnInstalledProgramFindsWhatItBringsUnderShare) {
+    QTemporaryDir prefix;
+    const QDir root(prefix.path());
+    root.mkpath("bin");
+    // Without help pages under share, the build folder: beside the program.
+    EXPECT_EQ(DeliveredFolder(root.filePath("bin")), root.filePath("bin"));
+    root.mkpath("share/tavi-sudoku/help");
+    QFile page(root.filePath("share/tavi-sudoku/help/index.html"));
+    ASSERT_TRUE(page.open(QIODevice::WriteOnly));
+    page.close();
+    EXPECT_EQ(DeliveredFolder(root.filePath("bin")), root.filePath("share/tavi-sudoku"));
+}
+
 }  // namespace
 }  // namespace tavi::ui

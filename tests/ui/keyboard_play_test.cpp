@@ -1,0 +1,138 @@
+// Keyboard play against mouse play: two windows over the same generated library,
+// one played with clicks and one with keys, must end in the same game.
+#include <QApplication>
+#include <QShortcut>
+
+#include "grid/tables.h"
+#include "ui/wells_widget.h"
+#include "window_fixture.h"
+
+namespace tavi::ui {
+namespace {
+
+class Player : public WindowFixture {
+  public:
+    void TestBody() override {}
+
+    MainWindow& OpenActive() {
+        Open();
+        window->activateWindow();
+        QApplication::setActiveWindow(&*window);
+        Board()->setFocus();
+        return *window;
+    }
+    void Key(int key, Qt::KeyboardModifiers mods = Qt::NoModifier) {
+        QTest::keyClick(Board(), Qt::Key(key), mods);
+        QApplication::processEvents();
+    }
+    void CursorTo(int cell) {
+        if (Board()->CursorCell() < 0) Key(Qt::Key_Down);  // shows the cursor
+        while (Board()->CursorCell() / 9 < cell / 9)
+            Key(Qt::Key_Down);
+        while (Board()->CursorCell() / 9 > cell / 9)
+            Key(Qt::Key_Up);
+        while (Board()->CursorCell() % 9 < cell % 9)
+            Key(Qt::Key_Right);
+        while (Board()->CursorCell() % 9 > cell % 9)
+            Key(Qt::Key_Left);
+        ASSERT_EQ(Board()->CursorCell(), cell);
+    }
+    // A visible mark of `cell` that is not its solution.
+    int WrongMark(int cell) const {
+        for (int d = 1; d <= 9; ++d)
+            if (d != game->board().Solution[cell] && game->MarkVisible(d, cell)) return d;
+        return 0;
+    }
+};
+
+struct Outcome {
+    Board board;
+    std::vector<MoveStep> log;
+    int step, seconds;
+    std::string steps;
+    std::array<std::array<bool, 9>, 10> wells{};
+    std::vector<int> sounds;
+
+    explicit Outcome(const Player& p) : board(p.game->board()), log(p.game->MoveLog()) {
+        step = p.game->CurrentStep();
+        seconds = p.game->ClockSeconds();
+        steps = p.game->LabelStap();
+        for (int d = 1; d <= 9; ++d)
+            for (int b = 0; b < 9; ++b)
+                wells[d][b] = p.game->WellFilled(d, b);
+        sounds = p.sounds.played;
+    }
+};
+
+TEST(KeyboardPlay, KeysMakeTheSameGameAsClicks) {
+    Player mouse, keys;
+    mouse.options.Sounds = keys.options.Sounds = true;
+    mouse.OpenActive();
+    mouse.Press("CommandNew");
+    keys.OpenActive();
+    keys.Key(Qt::Key_N, Qt::ControlModifier);
+    ASSERT_EQ(mouse.game->board().Puzzle, keys.game->board().Puzzle);
+
+    // A digit placed, a mark taken away, a wrong digit placed and cleared.
+    auto [cell, digit] = mouse.FirstOpenCell();
+    mouse.ClickMark(digit, cell);
+    keys.CursorTo(cell);
+    keys.Key(Qt::Key_0 + digit);
+
+    auto [other, right] = mouse.FirstOpenCell();
+    const int wrong = mouse.WrongMark(other);
+    ASSERT_NE(wrong, 0);
+    mouse.ClickMark(wrong, other, Qt::RightButton);
+    keys.CursorTo(other);
+    keys.Key(Qt::Key_0 + wrong, Qt::ControlModifier);
+
+    const int bad = mouse.WrongMark(other);
+    if (bad) {
+        mouse.ClickMark(bad, other);
+        keys.Key(Qt::Key_0 + bad);
+        const QRect row = mouse.Board()->Layout().RowHeaderRect(other / 9);
+        const QRect column = mouse.Board()->Layout().ColumnHeaderRect(other % 9);
+        QTest::mouseClick(mouse.Board(), Qt::LeftButton, {}, row.center());
+        QTest::mouseClick(mouse.Board(), Qt::LeftButton, {}, column.center());
+        mouse.Press("CommandResetCell");
+        keys.Key(Qt::Key_Delete);
+        EXPECT_EQ(keys.game->board().CurrentGrid[other], 0);
+    }
+
+    // A hint (its price on the clock), two undos and a redo.
+    mouse.Press("CommandHint");
+    keys.Key(Qt::Key_H);
+    EXPECT_GE(keys.game->ClockSeconds(), 10);
+    for (int i = 0; i < 2; ++i) {
+        mouse.Press("CommandUndo");
+        keys.Key(Qt::Key_Z, Qt::ControlModifier);
+    }
+    mouse.Press("CommandRedo");
+    keys.Key(Qt::Key_Y, Qt::ControlModifier);
+
+    const Outcome a(mouse), b(keys);
+    EXPECT_EQ(a.board.CurrentGrid, b.board.CurrentGrid);
+    EXPECT_EQ(a.board.Candidates, b.board.Candidates);
+    EXPECT_EQ(a.log, b.log);
+    EXPECT_EQ(a.step, b.step);
+    EXPECT_EQ(a.steps, b.steps);
+    EXPECT_EQ(a.seconds, b.seconds);
+    EXPECT_EQ(a.wells, b.wells);
+    EXPECT_EQ(a.sounds, b.sounds);
+    EXPECT_EQ(b.step, (bad ? 4 : 2) - 2 + 1);
+}
+
+TEST(KeyboardPlay, ToolTipsNameTheShortcuts) {
+    Player p;
+    p.OpenActive();
+    EXPECT_EQ(p.Button("CommandUndo")->toolTip(), "Undo (Ctrl+Z)");
+    EXPECT_EQ(p.Button("CommandRedo")->toolTip(), "Redo (Ctrl+Y, Ctrl+Shift+Z)");
+    EXPECT_EQ(p.Button("CommandHint")->toolTip(), "Hint (H)");
+    // The mouse alone shows no cursor.
+    p.Press("CommandNew");
+    p.ClickMark(1, 0);
+    EXPECT_EQ(p.Board()->CursorCell(), -1);
+}
+
+}  // namespace
+}  // namespace tavi::ui
