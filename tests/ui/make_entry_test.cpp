@@ -1,5 +1,5 @@
-// Making a puzzle in the window: Make opens the puzzle line for a drop, and a
-// text file dropped on it puts its clues on the board.
+// Making a puzzle in the window: Make opens the puzzle line for a drop, a text
+// file dropped on it puts its clues on the board, and digit keys enter clues too.
 #include <QDropEvent>
 #include <QMimeData>
 #include <QUrl>
@@ -53,6 +53,26 @@ TEST_F(MakeWindowTest, AFileDroppedOnTheLineAfterMakeEntersItsClues) {
     EXPECT_TRUE(DropOn(line, {root / "mine.txt"}));
     EXPECT_EQ(game->board().CurrentGrid, record.puzzle);
     EXPECT_EQ(line->text().toStdString(), text);
+}
+
+// Clues typed on the board while making go in as clicks on marks do: the digit at
+// the cursor, and the same digit gone from the marks of the cell's peers.
+TEST_F(MakeWindowTest, DigitKeysEnterCluesAtTheCursor) {
+    Open();
+    window->activateWindow();
+    QApplication::setActiveWindow(&*window);
+    Press("CommandMake");
+    Board()->setFocus();
+    Board()->SetCursorCell(40);
+    QTest::keyClick(Board(), Qt::Key_7);
+    QTest::keyClick(Board(), Qt::Key_Right);
+    QTest::keyClick(Board(), Qt::Key_3);
+    QApplication::processEvents();
+    EXPECT_EQ(game->board().CurrentGrid[40], 7);
+    EXPECT_EQ(game->board().CurrentGrid[41], 3);
+    EXPECT_FALSE(game->MarkVisible(7, 44));  // same row
+    EXPECT_FALSE(game->MarkVisible(3, 77));  // same column
+    EXPECT_TRUE(game->MarkVisible(7, 0));    // no peer of cell 40
 }
 
 }  // namespace
