@@ -12,13 +12,7 @@
 namespace tavi::cli {
 namespace {
 
-std::vector<std::string> Lines(const std::string& text) {
-    std::vector<std::string> lines;
-    std::istringstream in(text);
-    for (std::string l; std::getline(in, l);)
-        lines.push_back(l);
-    return lines;
-}
+using testing::Lines;
 
 std::vector<std::string> Fields(const std::string& line) {
     std::vector<std::string> f;

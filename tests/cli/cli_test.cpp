@@ -10,7 +10,6 @@
 
 #include "cli/commands.h"
 #include "grid/candidates.h"
-#include "grid/levels.h"
 #include "solver/ladder.h"
 #include "support/puzzles.h"
 
@@ -40,6 +39,8 @@ Output RunSteps(const std::string& input) {
     return RunCommand([](auto& in, auto& out, auto& err) { return Steps(in, out, err); }, input);
 }
 
+using testing::DeadCell;
+
 std::vector<std::string> Split(const std::string& text, char sep) {
     std::vector<std::string> parts;
     std::string part;
@@ -59,47 +60,11 @@ Digits FiveHoles() {
     return d;
 }
 
-// Open cells everywhere, but A9 can hold nothing: A1..A8 hold 1..8 and E9 a 9.
-Digits DeadCell() {
-    Digits d{};
-    for (int c = 0; c < 8; ++c)
-        d[c] = std::uint8_t(c + 1);
-    d[44] = 9;
-    return d;
-}
-
-TEST(CliRate, RatesEachPuzzleAndSkipsCommentsAndBlankLines) {
-    const auto& puzzles = testing::GeneratedPuzzles(3);
-    std::string input = "# a comment\n\n";
-    for (const auto& p : puzzles)
-        input += FormatDigits(p.puzzle, '.') + "  trailing words\n";
-    const Output o = RunRate(input);
-    EXPECT_EQ(o.status, 0);
-    EXPECT_EQ(o.err, "");
-    std::istringstream lines(o.out);
-    std::string line;
-    int n = 0;
-    while (std::getline(lines, line)) {
-        ASSERT_LT(n, 3);
-        EXPECT_EQ(line.substr(0, 82), FormatDigits(puzzles[n].puzzle, '.') + "\t") << line;
-        ++n;
-    }
-    EXPECT_EQ(n, 3);
-}
-
-TEST(CliRate, GivesTheWorkbenchRatingAndOutlawWhenTheLadderFails) {
+TEST(CliRate, GivesTheRatingAndOutlawWhenTheLadderFails) {
     Digits clash = FiveHoles();
     clash[0] = clash[1];  // the same digit twice in row A
     std::string input;
     std::vector<std::string> expected;
-    for (const auto& p : testing::GeneratedPuzzles(20)) {
-        SolveContext ctx;
-        ctx.board = BoardFromPuzzle(p.puzzle);
-        const int level = SolveSudoku(ctx, {}) ? ctx.SolvingLevel : 9;
-        input += Text(p.puzzle) + "\n";
-        expected.push_back(Text(p.puzzle) + "\t" + std::to_string(level) + "\t" +
-                           std::string(LevelName(level)));
-    }
     for (auto [puzzle, rating] : {std::pair{FiveHoles(), "1\tEasy"},
                                   {DeadCell(), "9\tOutlaw"},
                                   {clash, "invalid\tclashing givens"}}) {
@@ -109,7 +74,7 @@ TEST(CliRate, GivesTheWorkbenchRatingAndOutlawWhenTheLadderFails) {
     const Output o = RunRate(input);
     EXPECT_EQ(o.status, 1);  // the clash is reported, not rated
     EXPECT_EQ(Split(o.out, '\n'), expected);
-    EXPECT_NE(o.err.find("line 23: invalid puzzle"), std::string::npos) << o.err;
+    EXPECT_NE(o.err.find("line 3: invalid puzzle"), std::string::npos) << o.err;
 }
 
 TEST(CliRate, SummaryCountsEachLevelOnStandardError) {
@@ -127,8 +92,7 @@ TEST(CliRate, SummaryCountsEachLevelOnStandardError) {
 
 TEST(CliSolve, SaysUniqueNoneOrMultiple) {
     const auto& p = testing::GeneratedPuzzles(1)[0];
-    Digits clueLess = p.puzzle;
-    *std::find_if(clueLess.begin(), clueLess.end(), [](auto d) { return d != 0; }) = 0;
+    const Digits clueLess = testing::WithoutFirstClue(p.puzzle);
     Digits clash{};
     clash[0] = clash[1] = 1;
     struct Case {
@@ -159,8 +123,9 @@ TEST(CliSolve, SaysUniqueNoneOrMultiple) {
         many += input;
         manyExpected += expected;
     }
-    const Output threaded =
-        RunCommand([](auto& in, auto& out, auto& err) { return Solve(in, out, err, "standard input", 2); }, many);
+    const Output threaded = RunCommand(
+        [](auto& in, auto& out, auto& err) { return Solve(in, out, err, "standard input", 2); },
+        many);
     EXPECT_EQ(threaded.status, 0);
     EXPECT_TRUE(threaded.out == manyExpected);
 }

@@ -4,7 +4,6 @@
 
 #include <sstream>
 
-#include "cli/in_order.h"
 #include "grid/levels.h"
 #include "library/library_files.h"
 #include "library/library_test_support.h"
@@ -29,13 +28,7 @@ Output RunCommand(int (*command)(const std::vector<std::string>&, std::ostream&,
     return {status, out.str(), err.str()};
 }
 
-std::vector<std::string> Lines(const std::string& text) {
-    std::vector<std::string> lines;
-    std::istringstream in(text);
-    for (std::string line; std::getline(in, line);)
-        lines.push_back(line);
-    return lines;
-}
+using tavi::testing::Lines;
 
 TEST(CliGenerate, TheSameSeedGivesTheSameMinimalUniquePuzzles) {
     const Output a = RunCommand(GenerateCommand, {"generate", "--count", "4", "--seed", "99"});
@@ -74,25 +67,6 @@ TEST(CliGenerate, TheNumberOfThreadsDoesNotChangeThePuzzles) {
               2);
 }
 
-TEST(CliInOrder, ResultsArriveInOrderAndUseCanStop) {
-    std::vector<long> seen;
-    const long used = RunInOrder<long>(
-        100, 4, 7, [] { return [](long i) { return i * i; }; },
-        [&](long i, long square) {
-            EXPECT_EQ(square, i * i);
-            seen.push_back(i);
-            return i < 60;
-        });
-    EXPECT_EQ(used, 61);
-    ASSERT_EQ(seen.size(), 61u);
-    for (long i = 0; i < 61; ++i)
-        EXPECT_EQ(seen[std::size_t(i)], i);
-    EXPECT_EQ(
-        RunInOrder<long>(
-            10, 3, 4, [] { return [](long i) { return i; }; }, [](long, long) { return true; }),
-        10);
-}
-
 TEST(CliLibrary, BuildWritesNineRatedFilesAndReportsTheCounts) {
     TempDir dir;
     const Output o = RunCommand(LibraryCommand, {"library", "build", "--out", dir.path().string(),
@@ -125,14 +99,8 @@ TEST(CliLibrary, BuildWritesNineRatedFilesAndReportsTheCounts) {
 TEST(CliLibrary, ImportAppendsWithSolutionsAndSkipsBadLinesByNumber) {
     TempDir dir;
     const auto& puzzles = tavi::testing::GeneratedPuzzles(3);
-    Digits twoSolutions = puzzles[0].puzzle;
-    for (int c = 0; c < 81; ++c)
-        if (twoSolutions[c]) {
-            twoSolutions[c] = 0;
-            break;
-        }
+    const Digits twoSolutions = tavi::testing::WithoutFirstClue(puzzles[0].puzzle);
     Digits clash = puzzles[1].puzzle;
-    clash[0] = clash[1] = 0;
     clash[0] = clash[1] = 5;
     const fs::path text = dir / "in.txt";
     {

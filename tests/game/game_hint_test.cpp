@@ -176,10 +176,7 @@ TEST_F(Hints, WhereTheLogicEndsAHintCostsNothing) {
     // A puzzle the ladder can't finish, as record 1 of the Outlaw file: two rows
     // and one digit leave the rest wide open, with one two-candidate cell whose
     // guesses both leave it open. (The generated puzzles are all solved by now.)
-    const Digits puzzle = DigitsOf(
-        "123456789456789123000000000000000000000000000000000000000000000000000000900000000");
-    const Digits solution = DigitsOf(
-        "123456789456789123789123456214365897365897214897214365531642978642978531978531642");
+    const Digits puzzle = DigitsOf(kOpenPuzzle), solution = DigitsOf(kOpenSolution);
     {
         SolveContext ctx;
         ctx.board = BoardFromPuzzle(puzzle);

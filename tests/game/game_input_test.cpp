@@ -48,20 +48,6 @@ TEST_F(Input, PlacingTakesTheCellsMarksAndThePeersMarks) {
     EXPECT_EQ(sounds.played, std::vector<int>{});  // sounds are off by default
 }
 
-TEST_F(Input, WithoutAutomaticUpdateOnlyTheCellLosesItsMarks) {
-    Game& g = Playing(5);
-    options.Pencilmarks = false;
-    auto [cell, digit] = FirstOpenCell();
-    const auto before = Marks();
-    g.MarkMouseUp(digit, cell, MouseButton::Left, true);
-    for (int c = 0; c < 81; ++c)
-        if (c != cell) {
-            EXPECT_EQ(g.board().Candidates[c], before[c]);
-        }
-    const MoveStep& s = g.MoveLog()[0];
-    EXPECT_EQ(s.LogColumnMarks | s.LogRowMarks | s.LogBoxMarks, 0);
-}
-
 TEST_F(Input, PencilmarksOffMattersOnlyBelowLevelFour) {
     options.PencilmarksOff = true;
     options.Sounds = true;

@@ -59,14 +59,6 @@ TEST_F(OptionsChange, AutomaticMarksOffLeavesTheMarksAndOnPrunesThem) {
     EXPECT_FALSE(g.board().Has(other, cell));
 }
 
-TEST_F(OptionsChange, PencilmarksOffMeansNothingFromLevelFour) {
-    Game& g = Playing(4);
-    const Board before = g.board();
-    ChangeOptions(g, [](OptionsForm& f) { f.PencilmarksOff = true; });
-    EXPECT_TRUE(g.MarkCaptionsShown());
-    EXPECT_EQ(g.board().Candidates, before.Candidates);
-}
-
 TEST_F(OptionsChange, TheClockOptionWaitsForTheNextSudoku) {
     Game& g = Playing(1);
     ChangeOptions(g, [](OptionsForm& f) { f.TimeOn = false; });

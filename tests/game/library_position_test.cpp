@@ -10,9 +10,7 @@ namespace {
 
 namespace fs = std::filesystem;
 using testing::BusyLog;
-using testing::FileBytes;
 using testing::MakeLevelFiles;
-using testing::RecordingNotifier;
 using testing::RecordOf;
 using testing::TempDir;
 
@@ -35,52 +33,39 @@ LibraryPosition Playing(int level, int record, int steps) {
     return p;
 }
 
-TEST(SaveLastSudoku, AGameInProgressMarksItsLevelBusy) {
-    MemorySettingsStore store;
-    SaveLastSudoku(store, Playing(3, 17, 5));
-    EXPECT_EQ(store.Read("Sudoku", "Level", "?"), "3");
-    for (int i = 1; i <= 9; ++i) {
-        EXPECT_EQ(Number(store, i), std::to_string(i == 3 ? 17 : 10 * i));
-        EXPECT_EQ(Busy(store, i), i == 3 ? "Yes" : "No");
-    }
-}
-
-TEST(SaveLastSudoku, AnUntouchedPuzzleIsOfferedAgainAndIsNotBusy) {
-    MemorySettingsStore store;
-    SaveLastSudoku(store, Playing(2, 1, 0));
-    EXPECT_EQ(Number(store, 2), "0");  // the next New opens record 1 again
-    EXPECT_EQ(Busy(store, 2), "No");
-
-    SaveLastSudoku(store, Playing(2, 8, 0));
-    EXPECT_EQ(Number(store, 2), "7");
-}
-
-TEST(SaveLastSudoku, SolvedOrAutosolvedGamesKeepTheirNumberAndAreNotBusy) {
-    MemorySettingsStore store;
-    LibraryPosition solved = Playing(4, 6, 12);
+// What the store keeps of each level on the way out: the record to offer next
+// and whether a saved game waits there.
+TEST(SaveLastSudoku, NumberAndBusyFollowTheGameOnTheBoard) {
+    struct Case {
+        const char* name;
+        LibraryPosition position;
+        const char* number;  // of the level played
+        const char* busy;
+    };
+    LibraryPosition solved = Playing(4, 6, 12), autosolved = Playing(4, 6, 0),
+                    closed = Playing(5, 9, 3);
     solved.SudokuSolved = true;
-    SaveLastSudoku(store, solved);
-    EXPECT_EQ(Number(store, 4), "6");
-    EXPECT_EQ(Busy(store, 4), "No");
-
-    LibraryPosition autosolved = Playing(4, 6, 0);
     autosolved.SudokuAutosolved = true;
-    SaveLastSudoku(store, autosolved);
-    EXPECT_EQ(Number(store, 4), "6");
-    EXPECT_EQ(Busy(store, 4), "No");
-}
-
-TEST(SaveLastSudoku, WithNoPuzzleOpenTheNumbersStayAndNothingIsBusy) {
-    MemorySettingsStore store;
-    for (int i = 1; i <= 9; ++i)
-        store.Write("SudokuLevel" + std::to_string(i), "Busy", "Yes");
-    LibraryPosition p = Playing(5, 9, 3);
-    p.OpenLevel = 0;
-    p.OpenRecord = 0;
-    SaveLastSudoku(store, p);
-    for (int i = 1; i <= 9; ++i) {
-        EXPECT_EQ(Number(store, i), std::to_string(i == 5 ? 9 : 10 * i));
-        EXPECT_EQ(Busy(store, i), "No");
+    closed.OpenLevel = closed.OpenRecord = 0;
+    const Case cases[] = {
+        {"in progress", Playing(3, 17, 5), "17", "Yes"},
+        {"untouched, offered again", Playing(2, 8, 0), "7", "No"},
+        {"solved", solved, "6", "No"},
+        {"autosolved", autosolved, "6", "No"},
+        {"no puzzle open", closed, "9", "No"},
+    };
+    for (const Case& k : cases) {
+        SCOPED_TRACE(k.name);
+        MemorySettingsStore store;
+        for (int i = 1; i <= 9; ++i)
+            store.Write("SudokuLevel" + std::to_string(i), "Busy", "Yes");
+        SaveLastSudoku(store, k.position);
+        const int level = k.position.ChosenLevel;
+        EXPECT_EQ(store.Read("Sudoku", "Level", "?"), std::to_string(level));
+        for (int i = 1; i <= 9; ++i) {
+            EXPECT_EQ(Number(store, i), i == level ? k.number : std::to_string(10 * i));
+            EXPECT_EQ(Busy(store, i), i == level ? k.busy : "No");
+        }
     }
 }
 
@@ -124,31 +109,6 @@ struct GameLibrary {
     fs::path Puzzles(int level) const { return PuzzleFile(data.path(), LevelStem(level)); }
 };
 
-TEST(SudInProgress, FollowsTheStatesOfTheLogRecord) {
-    GameLibrary lib;
-    LibraryPosition p = Playing(2, 3, 1);
-    const SudokuRecord s = RecordOf(2);
-    EXPECT_FALSE(SudInProgress(lib.folders, p));  // empty, as the first run made it
-
-    SudokuLogRecord log;
-    log.Grid = s.Puzzle;
-    int userCell = 0;
-    while (s.Puzzle[userCell])
-        ++userCell;
-    log.Grid[userCell] = s.Solution[userCell];
-    log.StepCount = 1;
-    ASSERT_TRUE(WriteSudokuLogRecord(lib.Log(2), 3, log));
-    EXPECT_TRUE(SudInProgress(lib.folders, p));  // in progress
-
-    ASSERT_TRUE(AutoWisProgress(lib.folders, p, s, log));
-    EXPECT_FALSE(SudInProgress(lib.folders, p));  // erased: Grid = Puzzle
-    SudokuLogRecord onDisk;
-    ASSERT_TRUE(ReadSudokuLogRecord(lib.Log(2), 3, onDisk));
-    EXPECT_EQ(onDisk.Grid, s.Puzzle);
-    EXPECT_EQ(onDisk.StepCount, 0);
-    EXPECT_EQ(onDisk.ElapsedMinutes, 0);
-}
-
 TEST(SudInProgress, ReadsChosenLevelAndAnswersNoWhenItCantRead) {
     GameLibrary lib;
     SudokuLogRecord log = BusyLog(1);
@@ -166,71 +126,6 @@ TEST(SudInProgress, ReadsChosenLevelAndAnswersNoWhenItCantRead) {
     EXPECT_FALSE(SudInProgress(lib.folders, p));
     fs::resize_file(lib.Puzzles(2), 0);
     EXPECT_FALSE(SudInProgress(lib.folders, p));
-}
-
-TEST(AutoWisProgress, DoesNothingWithoutAnOpenPuzzle) {
-    GameLibrary lib;
-    const auto before = FileBytes(lib.Log(1));
-    SudokuLogRecord log = BusyLog(1);
-    LibraryPosition p = Playing(1, 2, 3);
-    p.OpenRecord = 0;
-    EXPECT_FALSE(AutoWisProgress(lib.folders, p, RecordOf(1), log));
-    EXPECT_EQ(log, BusyLog(1));
-    EXPECT_EQ(FileBytes(lib.Log(1)), before);
-}
-
-TEST(BewaarBestTime, RewritesTheWholeRecordAtOpenRecord) {
-    GameLibrary lib;
-    SudokuRecord s = RecordOf(1);
-    s.BestMinutes = 4;
-    s.BestSeconds = 5;
-    ASSERT_TRUE(BewaarBestTime(lib.folders, Playing(7, 2, 9), s, nullptr));
-    SudokuRecord back;
-    ASSERT_TRUE(ReadSudokuRecord(lib.Puzzles(7), 2, back));
-    EXPECT_EQ(back, s);
-    ASSERT_TRUE(ReadSudokuRecord(lib.Puzzles(7), 3, back));
-    EXPECT_EQ(back, RecordOf(2));
-
-    RecordingNotifier notifier;
-    EXPECT_FALSE(BewaarBestTime(lib.folders, Playing(7, 9, 9), s, &notifier));
-    ASSERT_EQ(notifier.messages.size(), 1u);
-    EXPECT_EQ(notifier.messages[0].first, "File Error");
-    EXPECT_EQ(fs::file_size(lib.Puzzles(7)), 4u * 166);
-}
-
-TEST(AddMadePuzzle, BecomesRecordCountPlusOneInBothFilesAndTheLevelsNumber) {
-    GameLibrary lib;
-    LibraryPosition p;
-    ASSERT_TRUE(AddMadePuzzle(lib.folders, 8, p, RecordOf(6), SudokuLogRecord{}, nullptr));
-    EXPECT_EQ(p.PuzzleNumber[8], 5);
-    EXPECT_EQ(WholeRecords(lib.Puzzles(8), 166), 5);
-    EXPECT_EQ(WholeRecords(lib.Log(8), 1449), 5);
-    SudokuRecord back;
-    ASSERT_TRUE(ReadSudokuRecord(lib.Puzzles(8), 5, back));
-    EXPECT_EQ(back, RecordOf(6));
-
-    RecordingNotifier notifier;
-    fs::remove(lib.Log(3));
-    EXPECT_FALSE(AddMadePuzzle(lib.folders, 3, p, RecordOf(6), {}, &notifier));
-    EXPECT_EQ(p.PuzzleNumber[3], 0);
-    EXPECT_EQ(WholeRecords(lib.Puzzles(3), 166), 4);
-    ASSERT_EQ(notifier.messages.size(), 1u);
-    EXPECT_EQ(notifier.messages[0].first, "File Error");
-}
-
-TEST(SaveGameLog, MoreThanAHundredStepsIsRefusedAndTheSavedGameKept) {
-    GameLibrary lib;
-    const LibraryPosition p = Playing(1, 2, 101);
-    ASSERT_TRUE(SaveGameLog(lib.folders, p, BusyLog(3), nullptr));
-    const auto before = FileBytes(lib.Log(1));
-
-    SudokuLogRecord tooLong = BusyLog(4);
-    tooLong.StepCount = 101;
-    RecordingNotifier notifier;
-    EXPECT_FALSE(SaveGameLog(lib.folders, p, tooLong, &notifier));
-    ASSERT_EQ(notifier.messages.size(), 1u);
-    EXPECT_EQ(notifier.messages[0].first, kStepLimitTitle);
-    EXPECT_EQ(FileBytes(lib.Log(1)), before);
 }
 
 }  // namespace

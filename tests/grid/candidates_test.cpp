@@ -141,25 +141,5 @@ TEST(EmptyCell, FindsAnOpenCellWithoutCandidatesAndIgnoresFilledCells) {
     EXPECT_TRUE(EmptyCell(b));
 }
 
-TEST(SetupCandidates, BuildsTheCandidatesFromThePuzzleAlone) {
-    for (const auto& p : testing::GeneratedPuzzles(3)) {
-        Board b;
-        b.Puzzle = p.puzzle;
-        b.CurrentGrid.fill(9);  // stale state that must not survive
-        b.Candidates.fill(0);
-        SetupCandidates(b);
-        EXPECT_EQ(b.CurrentGrid, p.puzzle);
-        for (int c = 0; c < 81; ++c) {
-            CandidateMask expected = 0;
-            if (!p.puzzle[c]) {
-                expected = kAllCandidates;
-                for (int peer : Peers[c])
-                    if (p.puzzle[peer]) expected &= CandidateMask(~DigitBit(p.puzzle[peer]));
-            }
-            ASSERT_EQ(b.Candidates[c], expected) << CellName(c);
-        }
-    }
-}
-
 }  // namespace
 }  // namespace tavi

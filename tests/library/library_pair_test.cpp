@@ -70,23 +70,6 @@ TEST(WritePair, WhenTheLogCantFollowThePuzzleRecordIsPutBack) {
     EXPECT_EQ(FileBytes(sds), before);
 }
 
-TEST(AppendToPair, AddsAtCountPlusOneInBothFiles) {
-    TempDir dir;
-    MakeLevelFiles(dir.path(), kStem, 4);
-    long number = 0;
-    ASSERT_TRUE(AppendToPair(dir.path(), kStem, RecordOf(5), BusyLog(5), &number));
-    EXPECT_EQ(number, 5);
-    SudokuRecord r;
-    SudokuLogRecord l;
-    ASSERT_TRUE(ReadPair(dir.path(), kStem, 5, r, l, nullptr));
-    EXPECT_EQ(r, RecordOf(5));
-    EXPECT_EQ(l, BusyLog(5));
-
-    TempDir empty;  // a new pair starts at 1
-    ASSERT_TRUE(AppendToPair(empty.path(), kStem, RecordOf(1), {}, &number));
-    EXPECT_EQ(number, 1);
-}
-
 TEST(AppendToPair, RefusesHalfAPairAndRepairsOneOutOfStep) {
     TempDir dir;
     MakeLevelFiles(dir.path(), kStem, 4, /*withLog=*/false);

@@ -41,16 +41,6 @@ TEST(CopyLibraryFiles, CopiesWhatIsMissingAndNeverOverwrites) {
     EXPECT_EQ(std::distance(fs::directory_iterator(lib.data.path()), fs::directory_iterator()), 9);
 }
 
-TEST(CopyLibraryFiles, AMissingSourceIsPassedOver) {
-    Library lib;
-    MakeLevelFiles(lib.app.path(), LevelStem(1), 2, false);
-    CopyLibraryFiles(lib.folders);
-    EXPECT_TRUE(FileExists(PuzzleFile(lib.data.path(), LevelStem(1))));
-    EXPECT_FALSE(fs::exists(PuzzleFile(lib.data.path(), LevelStem(2))));
-    LibraryFolders nowhere{lib.app / "gone", lib.data / "gone"};
-    CopyLibraryFiles(nowhere);  // no folders at all: nothing happens, nothing throws
-}
-
 TEST(MaakSudLog, MakesOneEmptyLogRecordPerPuzzle) {
     Library lib;
     for (int level = 1; level <= 9; ++level)
@@ -92,27 +82,6 @@ TEST(MaakSudLog, AnOddSizedLibraryGetsALogForEachWholeRecord) {
     RecordingNotifier notifier;
     ASSERT_TRUE(MaakSudLog(lib.folders, notifier));
     EXPECT_EQ(fs::file_size(LogFile(lib.data.path(), LevelStem(4))), 2u * 1449);
-}
-
-TEST(MaakSudLog, StopsAtAMissingOrEmptyLibraryAndSaysWhich) {
-    for (const bool missing : {true, false}) {
-        Library lib;
-        for (int level = 1; level <= 9; ++level)
-            if (level != 5) MakeLevelFiles(lib.data.path(), LevelStem(level), 3, false);
-        const fs::path insane = PuzzleFile(lib.data.path(), LevelStem(5));
-        if (!missing) WriteBytes(insane, {});
-        RecordingNotifier notifier;
-
-        EXPECT_FALSE(MaakSudLog(lib.folders, notifier));
-
-        ASSERT_EQ(notifier.messages.size(), 2u);
-        EXPECT_EQ(notifier.messages[1].first, "Logfile creation failure");
-        EXPECT_EQ(notifier.messages[1].second, "Could not open source file " + insane.string());
-        // The levels before it were done, the ones after it not.
-        EXPECT_TRUE(FileExists(LogFile(lib.data.path(), LevelStem(4))));
-        EXPECT_FALSE(fs::exists(LogFile(lib.data.path(), LevelStem(5))));
-        EXPECT_FALSE(fs::exists(LogFile(lib.data.path(), LevelStem(6))));
-    }
 }
 
 TEST(MaakSudLog, ALogThatCantBeWrittenEndsWithFalseAndKeepsTheOldOne) {

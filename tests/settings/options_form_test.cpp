@@ -5,22 +5,6 @@
 namespace tavi {
 namespace {
 
-TEST(OptionsForm, WorksOnACopyThatOkTakes) {
-    Options options;
-    OptionsForm form = OptionsForm::From(options);
-    form.Dimmed = true;
-    form.Wells = false;
-    form.Save = SaveChoice::Never;
-    // Cancel: the form is dropped and nothing changed.
-    EXPECT_FALSE(options.Dimmed);
-    EXPECT_TRUE(options.Wells);
-    form.ApplyTo(options);
-    EXPECT_TRUE(options.Dimmed);
-    EXPECT_FALSE(options.Wells);
-    EXPECT_FALSE(options.AutoSave);
-    EXPECT_FALSE(options.AskSave);
-}
-
 TEST(OptionsForm, TheSaveChoices) {
     struct Case {
         SaveChoice choice;
@@ -39,13 +23,6 @@ TEST(OptionsForm, TheSaveChoices) {
     }
     // A stored pair that no choice makes (save without asking, not asking) reads as Allways.
     EXPECT_EQ(SaveChoiceOf(true, false), SaveChoice::Allways);
-}
-
-TEST(OptionsForm, TheTimerChoiceFollowsKeepTime) {
-    OptionsForm f = OptionsForm::From(Options{});
-    EXPECT_TRUE(f.TimerChoiceEnabled());
-    f.TimeOn = false;
-    EXPECT_FALSE(f.TimerChoiceEnabled());
 }
 
 }  // namespace

@@ -31,8 +31,7 @@ std::vector<Board> StuckBoards(int count) {
     // Two rows and one digit: a two-candidate cell in C1 whose guesses both leave
     // the board open, so that every trial fails.
     SolveContext open;
-    open.board = BoardFromPuzzle(testing::DigitsOf(
-        "123456789456789123000000000000000000000000000000000000000000000000000000900000000"));
+    open.board = BoardFromPuzzle(testing::DigitsOf(testing::kOpenPuzzle));
     int cells = open.board.EmptyCount();
     bool contradiction = false;
     if (!PreSolve(open, cells, contradiction) && !contradiction) boards.push_back(open.board);

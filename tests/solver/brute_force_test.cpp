@@ -91,53 +91,6 @@ TEST(SearchLog, RemoveCandidatesAndUndoRestoreExactly) {
     EXPECT_GE(steps, 150u);
 }
 
-TEST(BruteForce, CountsNoneOneOrMany) {
-    const auto& p = testing::GeneratedPuzzles(1)[0];
-    Digits oneClueLess = p.puzzle;
-    for (int c = 0; c < 81; ++c)
-        if (oneClueLess[c]) {
-            oneClueLess[c] = 0;
-            break;
-        }
-    // A1..A8 hold 1..8 and E9 holds 9: A9 has no candidate before any search.
-    Digits emptyCell{};
-    for (int c = 0; c < 8; ++c)
-        emptyCell[c] = std::uint8_t(c + 1);
-    emptyCell[44] = 9;
-    // Two 5s in row A: no cell runs dry, yet there is no solution.
-    Digits clash{};
-    clash[0] = clash[4] = 5;
-    struct Case {
-        const char* name;
-        Digits puzzle;
-        int solutions;
-        int noSolutionFound;  // -1: either
-    } cases[] = {
-        {"unique", p.puzzle, 1, false},
-        {"a clue less", oneClueLess, 2, false},
-        {"no clue at all", Digits{}, 2, false},
-        {"the solution itself", p.solution, 1, false},
-        {"a cell without candidates", emptyCell, 0, true},
-        {"clashing givens", clash, 0, -1},
-    };
-    for (const Case& k : cases) {
-        SCOPED_TRACE(k.name);
-        SolveContext ctx;
-        ctx.board.Puzzle = k.puzzle;
-        bool flag = k.noSolutionFound != 1;
-        EXPECT_EQ(BruteForceSolutions(ctx, flag), k.solutions);
-        if (k.noSolutionFound >= 0) {
-            EXPECT_EQ(flag, bool(k.noSolutionFound));
-        }
-        if (k.solutions == 1) {
-            EXPECT_EQ(ctx.board.CurrentGrid, p.solution);
-        }
-        SolveContext again;
-        again.board.Puzzle = k.puzzle;
-        EXPECT_EQ(BruteForceSolve(again), k.solutions == 1);
-    }
-}
-
 TEST(UniqueSud, WorksOnCurrentGridAndLeavesTheCandidatesAlone) {
     const auto& p = testing::GeneratedPuzzles(2)[1];
     Digits oneClueLess = p.puzzle;

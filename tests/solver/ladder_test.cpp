@@ -103,6 +103,11 @@ TEST(WorkbenchLadder, FullBoardAndContradictions) {
     while (p.puzzle[empty])
         ++empty;
     broken.board.Candidates[empty] = 0;
+    SolveContext head = broken;
+    int cells = head.board.EmptyCount();
+    bool contradiction = false;
+    EXPECT_FALSE(PreSolve(head, cells, contradiction));
+    EXPECT_TRUE(contradiction) << "the head of the ladder flags it for the search";
     EXPECT_FALSE(SolveSudoku(broken, run));
     EXPECT_EQ(broken.SolvingLevel, 0);
 
@@ -167,38 +172,6 @@ TEST(WorkbenchLadder, FollowsTheTechniqueOrder) {
     order = DefaultTechniqueOrder();
     order[39] = 12;
     EXPECT_EQ(rate(order), 8);
-}
-
-TEST(GameLadder, SpeaksWithTheLevelAndIgnoresTheOrder) {
-    const GeneratedPuzzle* p = PuzzleRated(3);
-    ASSERT_NE(p, nullptr);
-    RecordingNotifier notifier;
-    SolveContext ctx(Side::Game);
-    ctx.board = BoardFromPuzzle(p->puzzle);
-    EXPECT_TRUE(SolveSudokuGame(ctx, &notifier));
-    EXPECT_EQ(ctx.SolvingLevel, 3);
-    EXPECT_EQ(notifier.beeps, 1);
-    ASSERT_EQ(notifier.messages.size(), 1u);
-    EXPECT_EQ(notifier.messages[0].second, "Sudoku solved and rated as Hard");
-}
-
-TEST(PreSolve, SolvesWhatTheHeadCanAndFlagsContradictions) {
-    const GeneratedPuzzle* p = PuzzleRated(2);
-    ASSERT_NE(p, nullptr);
-    SolveContext ctx;
-    ctx.board = BoardFromPuzzle(p->puzzle);
-    int cells = ctx.board.EmptyCount();
-    bool contradiction = false;
-    EXPECT_TRUE(PreSolve(ctx, cells, contradiction));
-    EXPECT_EQ(cells, 0);
-    EXPECT_FALSE(contradiction);
-    EXPECT_EQ(ctx.board.CurrentGrid, p->solution);
-
-    ctx.board = BoardFromPuzzle(p->puzzle);
-    ctx.board.Candidates[std::find(p->puzzle.begin(), p->puzzle.end(), 0) - p->puzzle.begin()] = 0;
-    cells = ctx.board.EmptyCount();
-    EXPECT_FALSE(PreSolve(ctx, cells, contradiction));
-    EXPECT_TRUE(contradiction);
 }
 
 }  // namespace

@@ -57,14 +57,11 @@ std::pair<int, int> ClueAndEmptyPeer(const Digits& puzzle) {
 TEST(Solutions, AgreesWithTheBruteForceSearchOnEveryKindOfGrid) {
     const auto& made = testing::GeneratedPuzzles(40);
     const GeneratedPuzzle& p = made[0];
-    Digits clueLess = p.puzzle, doubled = p.puzzle, swapped = p.solution, deadCell{};
-    clueLess[ClueAndEmptyPeer(p.puzzle).first] = 0;
+    const Digits clueLess = testing::WithoutFirstClue(p.puzzle);
+    Digits doubled = p.puzzle, swapped = p.solution;
     const auto [clue, peer] = ClueAndEmptyPeer(p.puzzle);
     doubled[peer] = p.puzzle[clue];
     std::swap(swapped[0], swapped[1]);
-    for (int c = 0; c < 8; ++c)  // A1..A8 hold 1..8, E9 holds 9: A9 has no digit left
-        deadCell[c] = std::uint8_t(c + 1);
-    deadCell[44] = 9;
     struct Case {
         const char* name;
         Digits puzzle;
@@ -76,7 +73,7 @@ TEST(Solutions, AgreesWithTheBruteForceSearchOnEveryKindOfGrid) {
         {"the empty grid", Digits{}, 2},
         {"a full grid", p.solution, 1},
         {"a full grid with a clash", swapped, 0},
-        {"a cell without digits", deadCell, 0},
+        {"a cell without digits", testing::DeadCell(), 0},
     };
     for (const Case& k : cases) {
         EXPECT_EQ(Solutions(k.puzzle).count, k.count) << k.name;

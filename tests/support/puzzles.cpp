@@ -2,7 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <map>
+#include <sstream>
 
 #include "grid/candidates.h"
 
@@ -25,6 +27,27 @@ Digits DigitsOf(std::string_view text) {
     auto d = ParseDigits(text, &why);
     EXPECT_TRUE(d.has_value()) << why << ": " << text;
     return d.value_or(Digits{});
+}
+
+Digits DeadCell() {
+    Digits d{};
+    for (int c = 0; c < 8; ++c)
+        d[c] = std::uint8_t(c + 1);
+    d[44] = 9;
+    return d;
+}
+
+Digits WithoutFirstClue(Digits puzzle) {
+    *std::find_if(puzzle.begin(), puzzle.end(), [](auto d) { return d != 0; }) = 0;
+    return puzzle;
+}
+
+std::vector<std::string> Lines(const std::string& text) {
+    std::vector<std::string> lines;
+    std::istringstream in(text);
+    for (std::string line; std::getline(in, line);)
+        lines.push_back(line);
+    return lines;
 }
 
 SolveContext ContextFor(std::string_view puzzle, Side side) {

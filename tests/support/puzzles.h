@@ -2,6 +2,7 @@
 // helpers to build boards from text.
 #pragma once
 
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -17,6 +18,23 @@ const std::vector<GeneratedPuzzle>& GeneratedPuzzles(int count, std::uint64_t se
 
 // Digits from 81 characters ('.' or '0' empty); fails the test on a bad string.
 Digits DigitsOf(std::string_view text);
+
+// A puzzle that logic leaves wide open: two rows and one digit, with many
+// solutions, of which kOpenSolution is one. Its C1 has two candidates, and
+// each guess there leaves the board open.
+inline constexpr std::string_view kOpenPuzzle =
+    "123456789456789123000000000000000000000000000000000000000000000000000000900000000";
+inline constexpr std::string_view kOpenSolution =
+    "123456789456789123789123456214365897365897214897214365531642978642978531978531642";
+
+// Open cells everywhere, but A9 can hold nothing: A1..A8 hold 1..8 and E9 a 9.
+Digits DeadCell();
+
+// `puzzle` less its first clue: a puzzle with several solutions.
+Digits WithoutFirstClue(Digits puzzle);
+
+// The lines of `text`.
+std::vector<std::string> Lines(const std::string& text);
 
 // A context whose board holds `puzzle` with its candidates set up.
 SolveContext ContextFor(std::string_view puzzle, Side side = Side::Workbench);

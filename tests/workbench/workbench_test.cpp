@@ -14,6 +14,7 @@
 #include "grid/candidates.h"
 #include "library/library_files.h"
 #include "library/library_pair.h"
+#include "library/library_test_support.h"
 #include "library/pair_guard.h"
 #include "library/pair_rewrite.h"
 #include "solver/ladder.h"
@@ -115,15 +116,12 @@ TEST(ForeignPuzzles, LinesCandidatesAndGridsWithTheirProblems) {
 class WorkbenchTest : public ::testing::Test {
   public:
     WorkbenchTest() {
-        fs::remove_all(root);
-        fs::create_directories(root);
         for (const auto& p : testing::GeneratedPuzzles(200, 5)) {
             SolveContext ctx;
             ctx.board = BoardFromPuzzle(p.puzzle);
             (SolveSudoku(ctx, {}) && ctx.SolvingLevel == 1 ? easy : other).push_back(p);
         }
     }
-    ~WorkbenchTest() override { fs::remove_all(root); }
 
     void Add(int level, const GeneratedPuzzle& p) {
         ASSERT_TRUE(AppendToPair(root, LevelStem(level), {p.puzzle, p.solution, 0, 0}, {}));
@@ -131,11 +129,8 @@ class WorkbenchTest : public ::testing::Test {
     // A puzzle no logic solves: two rows and one digit, with many solutions, one
     // of them on file; relabelled by `i`, so that each is a puzzle of its own.
     GeneratedPuzzle Broken(int i) {
-        const Digits puzzle = testing::DigitsOf(
-            "123456789456789123000000000000000000000000000000000000000000000000000000900000000");
-        const Digits solution = testing::DigitsOf(
-            "123456789456789123789123456214365897365897214897214365531642978642978531978531642");
-        GeneratedPuzzle p{puzzle, solution};
+        GeneratedPuzzle p{testing::DigitsOf(testing::kOpenPuzzle),
+                          testing::DigitsOf(testing::kOpenSolution)};
         for (int c = 0; c < 81; ++c) {
             if (p.puzzle[c]) p.puzzle[c] = std::uint8_t((p.puzzle[c] + i - 1) % 9 + 1);
             p.solution[c] = std::uint8_t((p.solution[c] + i - 1) % 9 + 1);
@@ -150,9 +145,8 @@ class WorkbenchTest : public ::testing::Test {
         return bench;
     }
 
-    static inline int counter = 0;
-    fs::path root = fs::temp_directory_path() / ("tavi-workbench-" + std::to_string(::getpid()) +
-                                                 "-" + std::to_string(counter++));
+    testing::TempDir dir;
+    const fs::path root = dir.path();
     std::vector<GeneratedPuzzle> easy, other;
     ScriptedPrompter prompter;
     Workbench bench{prompter, root};
@@ -278,12 +272,11 @@ TEST_F(WorkbenchTest, ImportRatesChecksAndFilesEachPuzzleByItsLevel) {
 // A rewrite killed at any instant leaves the old pair or the new pair whole once
 // the next open has recovered it.
 TEST(PairRewrite, AKillAtAnyInstantLeavesTheOldOrTheNewPair) {
-    const fs::path root =
-        fs::temp_directory_path() / ("tavi-rewrite-" + std::to_string(::getpid()));
+    const testing::TempDir dir;
+    const fs::path root = dir.path();
     const std::string stem = "Sudoku_Hard.sd";
     std::mt19937 random(7);
     int old = 0, fresh = 0;
-    fs::remove_all(root);
     const fs::path made = root / "made";
     fs::create_directories(made);
     for (int i = 1; i <= 300; ++i) {
@@ -324,7 +317,6 @@ TEST(PairRewrite, AKillAtAnyInstantLeavesTheOldOrTheNewPair) {
         }
         ++(puzzles.size() == 300 ? old : fresh);
     }
-    fs::remove_all(root);
     EXPECT_GT(old, 0);
     EXPECT_GT(fresh, 0);
 }
