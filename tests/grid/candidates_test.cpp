@@ -13,31 +13,6 @@ using testing::OpenBoard;
 using testing::RecordingListener;
 using testing::SetCandidates;
 
-bool ArePeers(int a, int b) {
-    return a != b &&
-           (a / 9 == b / 9 || a % 9 == b % 9 || Global::BoxOfCell[a] == Global::BoxOfCell[b]);
-}
-
-TEST(Zet, ClearsTheCellAndTheDigitFromItsTwentyPeersOnly) {
-    Board b = OpenBoard();
-    Zet(b, 5, 40);
-    EXPECT_EQ(b.Candidates[40], 0);
-    EXPECT_EQ(b.CurrentGrid[40], 0) << "the caller writes CurrentGrid";
-    int peers = 0;
-    for (int c = 0; c < 81; ++c) {
-        if (c == 40) continue;
-        const CandidateMask expected =
-            ArePeers(c, 40) ? kAllCandidates & ~DigitBit(5) : kAllCandidates;
-        peers += ArePeers(c, 40);
-        EXPECT_EQ(b.Candidates[c], expected) << CellName(c);
-    }
-    EXPECT_EQ(peers, 20);
-    for (int d = 1; d <= 9; ++d)
-        EXPECT_FALSE(KnopAan(b, d, 40));
-    EXPECT_TRUE(KnopAan(b, 4, 41));
-    EXPECT_FALSE(KnopAan(b, 5, 41));
-}
-
 // How a technique's removal lands: under a hint it only reports, with ForceZet it
 // removes quietly, otherwise it removes and the game's move log hears of it.
 TEST(VerwijderKnop, HonoursHintOnlyAndForceZet) {
