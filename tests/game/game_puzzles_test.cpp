@@ -234,6 +234,7 @@ TEST_F(Puzzles, SolvingByHandEndsTheGameWithABestTime) {
     EXPECT_TRUE(g.commands().New);
     // AutoErase: the progress is gone, the level not busy.
     EXPECT_EQ(LogOf(1, 1).StepCount, 0);
+    EXPECT_EQ(LogOf(1, 1).Grid, Record(1, 1).puzzle);
     EXPECT_EQ(store.Read("SudokuLevel1", "Busy", ""), "No");
 
     // The same puzzle again, slower: no best time; the caption shows the one to beat.

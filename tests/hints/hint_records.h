@@ -33,7 +33,6 @@ class Record {
     Record& valueCount(int v) { return h_.HintValueCount = v, *this; }
 
     operator const HintRecord&() const { return h_; }
-    const HintRecord& get() const { return h_; }
 
   private:
     Record& Fill(HintRecord::List& list, int& count, std::initializer_list<int> values) {

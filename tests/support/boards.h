@@ -16,7 +16,6 @@
 namespace tavi::testing {
 
 inline const auto& Row(int r) { return UnitCells[r]; }
-inline const auto& Column(int c) { return UnitCells[9 + c]; }
 inline const auto& Box(int b) { return UnitCells[18 + b]; }
 
 // No digit placed, all nine candidates everywhere.
@@ -53,22 +52,6 @@ void KeepDigitsOnlyIn(Board& b, std::initializer_list<int> digits, const Unit& u
         KeepDigitOnlyIn(b, d, unit, keep);
 }
 
-// "Digit `digit` stands in unit `unit` only in `cells`": units 0..8 are the rows,
-// 9..17 the columns, 18..26 the boxes.
-inline constexpr int kRows = 0, kColumns = 9, kBoxes = 18;
-struct Only {
-    int digit, unit;
-    std::vector<int> cells;
-};
-inline Board OpenBoardWith(const std::vector<Only>& shapes) {
-    Board b = OpenBoard();
-    for (const Only& s : shapes)
-        for (int c : UnitCells[s.unit])
-            if (std::find(s.cells.begin(), s.cells.end(), c) == s.cells.end())
-                b.Candidates[c] &= CandidateMask(~DigitBit(s.digit));
-    return b;
-}
-
 // The candidates that `after` lost against `before`, as (cell, digit) in cell order.
 using Removal = std::pair<int, int>;
 inline std::vector<Removal> Removals(const Board& before, const Board& after) {
@@ -76,14 +59,6 @@ inline std::vector<Removal> Removals(const Board& before, const Board& after) {
     for (int c = 0; c < 81; ++c)
         for (int d = 1; d <= 9; ++d)
             if (before.Has(d, c) && !after.Has(d, c)) out.emplace_back(c, d);
-    return out;
-}
-
-// `digit` from each of `cells`, in the order given.
-inline std::vector<Removal> RemovalsOf(int digit, const std::vector<int>& cells) {
-    std::vector<Removal> out;
-    for (int c : cells)
-        out.emplace_back(c, digit);
     return out;
 }
 
@@ -113,31 +88,6 @@ inline HintRecord MarkedHint(int mark = -99) {
     h.HintCells.fill(mark);
     h.HintValues.fill(mark);
     return h;
-}
-
-// A technique run twice on `board`: as a hint on the game's side, which must
-// change nothing and write the record, and for real on the workbench, which must
-// raise the level to `level`. Answers the record and what the real run took away.
-struct HintAndRemovals {
-    bool found;
-    HintRecord hint;
-    std::vector<Removal> removed;
-};
-template <typename Technique>
-HintAndRemovals RunAsHintAndForReal(const Board& board, int level, Technique technique) {
-    SolveContext hint = ContextOn(board, Side::Game);
-    ModeScope looking_hint(hint, hint.Mode().With(SolveMode::kHintOnly));
-    hint.hint = MarkedHint();
-    const bool hinted = technique(hint);
-    EXPECT_EQ(hint.board.Candidates, board.Candidates) << "a hint changes nothing";
-    EXPECT_EQ(hint.SolvingLevel, 0);
-    EXPECT_EQ(hint.hint.HintKind != -99, hinted) << "a hit writes the record, a miss does not";
-
-    SolveContext real = ContextOn(board);
-    const bool found = technique(real);
-    EXPECT_EQ(hinted, found);
-    EXPECT_EQ(real.SolvingLevel, found ? level : 0);
-    return {found, hint.hint, Removals(board, real.board)};
 }
 
 }  // namespace tavi::testing

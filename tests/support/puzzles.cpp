@@ -50,10 +50,4 @@ std::vector<std::string> Lines(const std::string& text) {
     return lines;
 }
 
-SolveContext ContextFor(std::string_view puzzle, Side side) {
-    SolveContext ctx(side);
-    ctx.board = BoardFromPuzzle(DigitsOf(puzzle));
-    return ctx;
-}
-
 }  // namespace tavi::testing

@@ -36,19 +36,6 @@ Digits WithoutFirstClue(Digits puzzle);
 // The lines of `text`.
 std::vector<std::string> Lines(const std::string& text);
 
-// A context whose board holds `puzzle` with its candidates set up.
-SolveContext ContextFor(std::string_view puzzle, Side side = Side::Workbench);
-
-// A board with no digits and only the candidates given per cell, for building
-// patterns by hand: every cell starts with all nine, then `keep(cell)` gives the mask.
-template <typename F>
-Board BoardWithCandidates(F keep) {
-    Board b;
-    for (int c = 0; c < 81; ++c)
-        b.Candidates[c] = keep(c);
-    return b;
-}
-
 // Records what the solver says.
 struct RecordingNotifier : Notifier {
     int beeps = 0;
