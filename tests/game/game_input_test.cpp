@@ -186,12 +186,8 @@ TEST_F(Input, ResetCellAndItsUndo) {
     EXPECT_EQ(g.CurrentStep(), steps);
 }
 
-TEST_F(Input, HeadersToggleAndFiltersSurviveSteps) {
+TEST_F(Input, FiltersSurviveSteps) {
     Game& g = Playing(2);
-    g.RowHeaderUp(4, MouseButton::Left, true);
-    EXPECT_EQ(g.SelectedRow, 4);
-    g.RowHeaderUp(4, MouseButton::Left, true);
-    EXPECT_EQ(g.SelectedRow, kNoLine);
     auto [cell, digit] = FirstOpenCell();
     const int other = digit % 9 + 1;
     g.DigitButtonUp(other, MouseButton::Left, true);

@@ -170,15 +170,6 @@ TEST_F(Life, ClosingTheWindowWithNeitherOptionAsksToSave) {
     EXPECT_EQ(store.Read("SudokuLevel1", "Busy", ""), "Yes");
 }
 
-TEST_F(Life, ExitWithNoGameWritesThePositionAndAsksOnce) {
-    Game& g = Started();
-    prompter.answers = {Answer::Yes};
-    EXPECT_TRUE(g.CommandExit());
-    for (int level = 1; level <= 9; ++level)
-        EXPECT_EQ(store.Read("SudokuLevel" + std::to_string(level), "Busy", ""), "No");
-    EXPECT_EQ(store.Read("Sudoku", "Level", ""), "2");
-}
-
 TEST_F(Life, AnUntouchedPuzzleIsOfferedAgain) {
     Game& g = Started();
     g.OptionType(2);

@@ -161,7 +161,6 @@ TEST_F(MainWindowTest, ACellBrushPaintsWithItsColourAndThePointerShowsTheBrush) 
     Press("CommandNew");
     auto* brush = Find<ClickLabel>("LabelColor_7");
     QTest::mouseClick(brush, Qt::LeftButton);
-    EXPECT_TRUE(game->brush().BrushActive);
     EXPECT_EQ(brush->text(), " L");
     EXPECT_EQ(window->cursor().shape(), Qt::BitmapCursor);
 
@@ -174,7 +173,6 @@ TEST_F(MainWindowTest, ACellBrushPaintsWithItsColourAndThePointerShowsTheBrush) 
     EXPECT_EQ(BoardImage().pixelColor(box.x() + 3, box.y() + box.height() / 2), paint);
 
     QTest::mouseClick(Find<ClickLabel>("LabelColor_4"), Qt::LeftButton);
-    EXPECT_FALSE(game->brush().BrushActive);
     EXPECT_EQ(brush->text(), "");
     EXPECT_EQ(window->cursor().shape(), Qt::ArrowCursor);
 }
