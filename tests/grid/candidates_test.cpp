@@ -79,34 +79,6 @@ TEST(PlaceDigit, FollowsTheMode) {
     }
 }
 
-TEST(Exclusief, LooksOnlyAtWhatLiesOutsideTheSet) {
-    const int set[5] = {1, 2, 3, 4, 5};
-    using testing::MaskOf;
-    struct Case {
-        CandidateMask candidates;
-        int count;
-        bool answer;
-    } cases[] = {
-        {MaskOf({1, 2}), 2, true},
-        {MaskOf({1, 2, 3}), 2, false},
-        {MaskOf({1}), 2, true},
-        {0, 2, true},
-        {MaskOf({2, 9}), 2, false},
-        {MaskOf({3, 4}), 4, true},
-        {MaskOf({1, 2, 3, 4, 5}), 5, true},
-        {MaskOf({5, 6}), 5, false},
-        {MaskOf({8, 9}), 1, true},
-        {MaskOf({8, 9}), 6, true},
-        {MaskOf({8, 9}), 0, true},
-    };
-    for (const Case& k : cases) {
-        Board b = OpenBoard();
-        b.Candidates[30] = k.candidates;
-        EXPECT_EQ(Exclusief(b, set, k.count, 30), k.answer)
-            << "count " << k.count << ", mask " << b.Candidates[30];
-    }
-}
-
 TEST(EmptyCell, FindsAnOpenCellWithoutCandidatesAndIgnoresFilledCells) {
     Board b = OpenBoard();
     b.CurrentGrid[0] = 4;
