@@ -6,7 +6,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cstdlib>
 #include <fstream>
 #include <random>
 #include <string>
@@ -89,23 +88,18 @@ TEST(Solutions, AgreesWithTheBruteForceSearchOnEveryKindOfGrid) {
     EXPECT_EQ(Solutions(clueLess, 1).count, 1);
 }
 
-// The public lists, read where they lie; without them this part is skipped.
-TEST(Solutions, AgreesWithTheBruteForceSearchOnThePublicLists) {
-    const char* dir = std::getenv("TAVI_PUZZLE_DIR");
-    const std::string folder = dir ? dir : TAVI_DEFAULT_PUZZLE_DIR;
+// The project's hardest generated puzzles, with the one solution on file.
+TEST(Solutions, AgreesWithTheBruteForceSearchOnTheHardPuzzles) {
+    std::ifstream file(std::string(TAVI_TEST_DATA_DIR) + "/hard_puzzles.txt");
     int read = 0;
-    for (const char* name : {"puzzles2_17_clue.txt", "puzzles3_magictour_top1465.txt",
-                             "puzzles6_forum_hardest_1106.txt"}) {
-        std::ifstream in(folder + "/" + name);
-        std::string line;
-        for (int taken = 0; taken < 100 && std::getline(in, line);) {
-            const auto puzzle = ParseDigits(line);
-            if (!puzzle) continue;
-            ++taken, ++read;
-            ExpectAgreement(*puzzle, name);
-        }
+    for (std::string line; std::getline(file, line);) {
+        if (line.empty() || line[0] == '#') continue;
+        const Digits puzzle = testing::DigitsOf(line.substr(0, 81));
+        ASSERT_EQ(FormatDigits(Solutions(puzzle).first), line.substr(82, 81));
+        ExpectAgreement(puzzle, "hard");
+        ++read;
     }
-    if (read == 0) GTEST_SKIP() << "no public puzzle lists in " << folder;
+    EXPECT_GE(read, 300);
 }
 
 // A few thousand generated puzzles, changed at random: clues taken away, added or
