@@ -90,22 +90,6 @@ TEST_F(Input, TakingAMarkAwayAndTheOnlyMarkLeft) {
     EXPECT_EQ(g.board().CurrentGrid[cell], 0);
 }
 
-TEST_F(Input, AReleaseOutsideTheMarkAndTheMiddleButton) {
-    Game& g = Playing(2);
-    auto [cell, digit] = FirstOpenCell();
-    g.MarkMouseUp(digit, cell, MouseButton::Left, false);
-    EXPECT_EQ(g.board().CurrentGrid[cell], 0);
-    EXPECT_EQ(g.CurrentStep(), 0);
-    const auto before = Marks();
-    g.MarkMouseUp(digit, cell, MouseButton::Middle, true);
-    ASSERT_EQ(g.CurrentStep(), 1);
-    EXPECT_EQ(g.MoveLog()[0].LogDigit, 0);
-    EXPECT_EQ(Marks(), before);
-    g.CommandUndo();  // changes nothing but the counter
-    EXPECT_EQ(g.CurrentStep(), 0);
-    EXPECT_EQ(Marks(), before);
-}
-
 TEST_F(Input, UndoRedoRestoreExactlyWhateverTheOptionsSayNow) {
     Game& g = Playing(5);
     auto [cell, digit] = FirstOpenCell();
