@@ -159,8 +159,9 @@ TEST(CliSolve, SaysUniqueNoneOrMultiple) {
         many += input;
         manyExpected += expected;
     }
-    const Output threaded =
-        RunCommand([](auto& in, auto& out, auto& err) { return Solve(in, out, err, "standard input", 2); }, many);
+    const Output threaded = RunCommand(
+        [](auto& in, auto& out, auto& err) { return Solve(in, out, err, "standard input", 2); },
+        many);
     EXPECT_EQ(threaded.status, 0);
     EXPECT_TRUE(threaded.out == manyExpected);
 }
@@ -304,6 +305,13 @@ TEST(CliProgram, ExitStatusTellsWhetherEveryLineWasAPuzzle) {
     EXPECT_EQ(run("solve " + bad.string()), 2);
     EXPECT_EQ(Split(written(), '\n').size(), 1u);
     EXPECT_EQ(run("steps < " + bad.string()), 2);
+    // Every command of the usage text is taken, the board commands too.
+    EXPECT_EQ(run("states --all " + good.string()), 0);
+    const std::string boards = written();
+    EXPECT_FALSE(boards.empty());
+    std::ofstream(dir / "boards.txt") << boards;
+    EXPECT_EQ(run("rung 4 " + (dir / "boards.txt").string()), 0);
+    EXPECT_FALSE(written().empty());
 
     // Paths that are no readable file, and binary input: a message naming the
     // file (and line), status 2, for every command.
