@@ -218,9 +218,16 @@ bool ALSxz_3(SolveContext& ctx, const CandidateMask (&digits)[81], const Holders
     if (mode1 == 3 && !x1.SubsetOf(RowSet(base / 9)) && !x1.SubsetOf(ColumnSet(base % 9)))
         return false;
 
+    // Only an x-holder in a unit with every x-holder of the first set can be joined
+    // to it; no other cell passes the test of the join below.
+    CellSet joinable;
+    for (int u = 0; u < 27; ++u)
+        if (x1.SubsetOf(UnitSet(u))) joinable |= UnitSet(u);
+    joinable &= all.of[x];
+    joinable -= x1;
+
     int pool[9];
-    for (int j = 0; j < 81; ++j) {
-        if (digits[j] == 0 || !HasDigit(digits[j], x) || x1.Has(j)) continue;
+    for (int j : joinable) {
         for (int kind = mode1; kind <= 3; ++kind) {
             const int unit = UnitOf(kind, j);
             if (kind == mode1 && unit == UnitOf(kind, base)) continue;
@@ -243,27 +250,27 @@ bool ALSxz_3(SolveContext& ctx, const CandidateMask (&digits)[81], const Holders
             }
             const bool hit = ForEachSet(
                 ctx, pool, poolSize, digits, [&](const int* set2, int n, CandidateMask cands2) {
-                    CellSet both = first;
+                    CellSet second;
                     for (int i = 0; i < n; ++i)
-                        both.Add(set2[i]);
+                        second.Add(set2[i]);
+                    const CellSet both = first | second;
                     if (InOneUnit(both, j)) return false;
                     for (int z : DigitSet(CandidateMask(cands1 & cands2))) {
                         if (z == x) continue;
-                        const CellSet zHolders =
-                            HoldersIn(b, z, set1, count1) | HoldersIn(b, z, set2, n);
+                        const CellSet zHolders = both & all.of[z];
                         bool doubleLinked = true;
                         for (int c : zHolders)
                             doubleLinked &= (zHolders - CellSet::Of(c)).SubsetOf(PeerSet(c));
-                        const CellSet xHolders = x1 | HoldersIn(b, x, set2, n);
+                        const CellSet xHolders = x1 | (second & all.of[x]);
                         bool found = ALSxz_Hit(all, zHolders, z);
                         if (!found && doubleLinked) {
                             found = ALSxz_Hit(all, xHolders, x);
                             for (int k = 1; k <= 9 && !found; ++k) {
                                 if (k == x || k == z) continue;
                                 if (HasDigit(cands1, k))
-                                    found = ALSxz_Hit(all, HoldersIn(b, k, set1, count1), k);
+                                    found = ALSxz_Hit(all, first & all.of[k], k);
                                 if (!found && HasDigit(cands2, k))
-                                    found = ALSxz_Hit(all, HoldersIn(b, k, set2, n), k);
+                                    found = ALSxz_Hit(all, second & all.of[k], k);
                             }
                         }
                         if (!found) continue;
