@@ -318,7 +318,9 @@ struct AicSearch {
                 }
             }
             if (!moved && cellCursor[p] != kSameCell && cellCursor[p] < kExhausted) {
-                const int c = NextFrom(otherCells[p], cellCursor[p]);
+                // The set loses each cell as it is taken: its lowest is the next.
+                const int c = otherCells[p].Empty() ? 81 : otherCells[p].First();
+                if (c < 81) otherCells[p].Remove(c);
                 cellCursor[p] = c;
                 if (c < 81) {
                     cells[p] = c, chainDigits[p] = chainDigits[p - 1];

@@ -117,8 +117,14 @@ struct MedusaSearch {
     // The rules in their order on the cluster grown from (start, d).
     bool Rules(int start, int d) {
         // Rules 1 and 3: two coloured candidates in one cell.
+        const CellSet coloured = [&] {
+            CellSet all;
+            for (int k = 1; k <= 9; ++k)
+                all |= plus[k] | minus[k];
+            return all;
+        }();
         for (int rule : {1, 3})
-            for (int cell = 0; cell < 81; ++cell)
+            for (int cell : coloured)
                 for (int x : b.CandidatesOf(cell))
                     for (int y : b.CandidatesOf(cell)) {
                         if (y <= x || !colour[cell][x] || !colour[cell][y]) continue;
@@ -162,7 +168,7 @@ struct MedusaSearch {
         }
         // Rule 5: an uncoloured candidate that sees its digit coloured, with the
         // opposite colour in its own cell.
-        for (int cell = 0; cell < 81; ++cell) {
+        for (int cell : coloured) {
             int signs = 0;  // bit 0: a + candidate in the cell, bit 1: a - one
             for (int k : b.CandidatesOf(cell))
                 signs |= colour[cell][k] > 0 ? 1 : colour[cell][k] < 0 ? 2 : 0;
