@@ -221,7 +221,8 @@ bool ALSxz_3(SolveContext& ctx, const CandidateMask (&digits)[81], const Holders
     // Only an x-holder in a unit with every x-holder of the first set can be joined
     // to it; no other cell passes the test of the join below.
     CellSet joinable;
-    for (int u = 0; u < 27; ++u)
+    const int anyX = x1.First();  // x1 holds the first set's own cell at least
+    for (int u : {anyX / 9, 9 + anyX % 9, 18 + Global::BoxOfCell[anyX]})
         if (x1.SubsetOf(UnitSet(u))) joinable |= UnitSet(u);
     joinable &= all.of[x];
     joinable -= x1;
