@@ -50,7 +50,7 @@ struct MedusaSearch {
                 for (int i = 0; i < 9; ++i) {
                     const int unit = kind == 0 ? 18 + i : kind == 1 ? i : 9 + i;
                     const CellSet in = holders[d] & UnitSet(unit);
-                    if (in.Count() != 2) continue;
+                    if (CountUpTo(in, 2) != 2) continue;
                     const int x = in.First();
                     const int y = (in - CellSet::Of(x)).First();
                     if (kind > 0 && BoxUnit(x) == BoxUnit(y)) continue;

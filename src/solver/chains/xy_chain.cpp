@@ -25,7 +25,7 @@ struct Link {
 
 struct XYSearch {
     SolveContext& ctx;
-    std::array<std::array<std::uint8_t, 10>, 27> unitCount{};  // unit, digit
+    std::array<std::array<std::uint8_t, 10>, 27> unitCount{};  // unit, digit; 3 for more
     std::array<bool, 81> biValue{};
     std::array<int, 10> biValueCount{};
     // Per cell, digit and unit kind (row, column, box): the one bi-value cell the
@@ -40,7 +40,7 @@ struct XYSearch {
             holders[d] = b.CellsWith(d);
         for (int u = 0; u < 27; ++u)
             for (int d = 1; d <= 9; ++d)
-                unitCount[u][d] = std::uint8_t((holders[d] & UnitSet(u)).Count());
+                unitCount[u][d] = std::uint8_t(CountUpTo(holders[d] & UnitSet(u), 2));
         for (int cell = 0; cell < 81; ++cell) {
             for (auto& kinds : partner[cell])
                 kinds = {-1, -1, -1};
