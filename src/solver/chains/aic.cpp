@@ -104,6 +104,7 @@ struct AicSearch {
     std::array<CellSet, 10> biHolders{};  // bi-value cells holding the digit
     std::array<std::array<CellSet, 81>, 10> conjugatePeers{}, linkPeers{};
     std::array<DigitSet, 81> strongDigits{};  // the digits of which the cell is a strong node
+    std::array<CellSet, 81> anyLink{};        // per cell: where a link from it may go, any digit
 
     // The walk.
     std::array<int, 83> cells{}, chainDigits{}, cellCursor{}, digitCursor{};
@@ -149,6 +150,8 @@ struct AicSearch {
             }
             for (int cell : links[d].strong)
                 strongDigits[cell].Add(d);
+            for (int cell : holders[d])
+                anyLink[cell] |= linkPeers[d][cell] | (biHolders[d] & PeerSet(cell));
         }
     }
 
@@ -191,8 +194,26 @@ struct AicSearch {
 
     DeadEnds::Key KeyAt(int p) const {
         DeadEnds::Key k;
+        // Below this position the walk asks for the flag of a cell only if a link
+        // may lead there from a cell it can still reach (or for a cell that sees
+        // the start's nodes, or for its own last cell). The cells it can reach are
+        // found here through the links of every digit, the flagged cells barred;
+        // the flags of all other cells make no difference and are left out, so
+        // that more branches are known as the same.
+        const int q = cells[p - 1];
+        CellSet reached = CellSet::Of(q), frontier = reached, asked;
+        while (!frontier.Empty()) {
+            CellSet next;
+            for (int c : frontier)
+                next |= anyLink[c];
+            asked |= next;
+            frontier = next - inChain - reached;
+            reached |= frontier;
+        }
+        asked |= seesStartCell;
+        asked.Add(q);
         static_assert(sizeof(CellSet) == 2 * sizeof(std::uint64_t));
-        const auto words = std::bit_cast<std::array<std::uint64_t, 2>>(inChain);
+        const auto words = std::bit_cast<std::array<std::uint64_t, 2>>(inChain & asked);
         k.low = words[0];
         k.high = words[1];
         k.node = std::uint32_t(p | cells[p - 1] << 6 | chainDigits[p - 1] << 13 |
