@@ -3,6 +3,7 @@
 // and weak from the first node; at each position the links inside the cell are
 // tried before the links to other cells.
 #include <bit>
+#include <cstdlib>
 #include <memory>
 #include <vector>
 
@@ -45,17 +46,17 @@ class DeadEnds {
     // A new start node: everything kept so far is forgotten.
     void NewStart() {
         if (++generation_ == 0) {  // after four billion starts: wipe, not misread
-            for (Entry& e : table_)
-                e.generation = 0;
+            for (std::size_t i = 0; table_ && i < kSize; ++i)
+                table_.get()[i].generation = 0;
             generation_ = 1;
         }
     }
 
     // The limit count of a branch met before, or -1.
     int Find(const Key& key) const {
-        if (table_.empty()) return -1;
+        if (!table_) return -1;
         for (std::size_t i = Slot(key), n = 0; n < kProbes; ++n, i = (i + 1) & kMask) {
-            const Entry& e = table_[i];
+            const Entry& e = table_.get()[i];
             if (e.generation != generation_) return -1;
             if (e.key.low == key.low && e.key.high == key.high && e.key.node == key.node)
                 return int(e.count);
@@ -64,9 +65,12 @@ class DeadEnds {
     }
 
     void Keep(const Key& key, int count) {
-        if (table_.empty()) table_.resize(kSize);  // on the first walk long enough to need it
+        // On the first walk long enough to need it. Zeroed pages from the system
+        // are zero entries of no generation, and only those used are touched.
+        if (!table_) table_.reset(static_cast<Entry*>(std::calloc(kSize, sizeof(Entry))));
+        if (!table_) return;
         for (std::size_t i = Slot(key), n = 0; n < kProbes; ++n, i = (i + 1) & kMask) {
-            Entry& e = table_[i];
+            Entry& e = table_.get()[i];
             if (e.generation == generation_) continue;
             e = {key, generation_, std::uint32_t(count)};
             return;
@@ -88,7 +92,10 @@ class DeadEnds {
         return std::size_t(h) & kMask;
     }
 
-    std::vector<Entry> table_;
+    struct Free {
+        void operator()(Entry* e) const { std::free(e); }
+    };
+    std::unique_ptr<Entry, Free> table_;
     std::uint32_t generation_ = 0;
 };
 
