@@ -2,6 +2,8 @@
 // items_per_second reads as puzzles per second.
 #include <benchmark/benchmark.h>
 
+#include <algorithm>
+#include <ctime>
 #include <sstream>
 
 #include "cli/library_commands.h"
@@ -85,6 +87,38 @@ void BM_RateTop1465(benchmark::State& state) {
     RateAll(state, puzzles);
 }
 BENCHMARK(BM_RateTop1465);
+
+// The forum's hardest puzzles one at a time, for the spread: the median and the
+// slowest rating, in thread time (the machine is shared).
+void BM_RateForumHardestSpread(benchmark::State& state) {
+    static const auto puzzles = ReadPuzzleFile("puzzles6_forum_hardest_1106.txt");
+    if (puzzles.empty()) {
+        state.SkipWithError("no puzzles");
+        return;
+    }
+    auto threadMs = [] {
+        timespec t{};
+        clock_gettime(CLOCK_THREAD_CPUTIME_ID, &t);
+        return double(t.tv_sec) * 1e3 + double(t.tv_nsec) / 1e6;
+    };
+    std::vector<double> ms;
+    for (auto _ : state) {
+        ms.clear();
+        for (const Digits& p : puzzles) {
+            SolveContext ctx;
+            ctx.board = BoardFromPuzzle(p);
+            const double start = threadMs();
+            benchmark::DoNotOptimize(SolveSudoku(ctx, {}));
+            ms.push_back(threadMs() - start);
+        }
+    }
+    std::sort(ms.begin(), ms.end());
+    state.counters["puzzles"] = double(ms.size());
+    state.counters["median_ms"] = ms[ms.size() / 2];
+    state.counters["p99_ms"] = ms[ms.size() * 99 / 100];
+    state.counters["max_ms"] = ms.back();
+}
+BENCHMARK(BM_RateForumHardestSpread)->Iterations(1)->Unit(benchmark::kMillisecond);
 
 void BM_BruteForce17Clue(benchmark::State& state) {
     static const auto puzzles = ReadPuzzleFile("puzzles2_17_clue.txt", 5000);

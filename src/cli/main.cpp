@@ -129,7 +129,8 @@ int main(int argc, char** argv) {
     }
 
     const bool known = command == "rate" || command == "solve" || command == "steps" ||
-                       command == "hint" || command == "signature";
+                       command == "hint" || command == "signature" || command == "states" ||
+                       command == "rung";
     if (!known) return Usage("unknown command " + command);
     std::ifstream fileStream;
     std::string source(tavi::cli::kStandardInput);

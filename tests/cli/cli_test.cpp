@@ -269,6 +269,13 @@ TEST(CliProgram, ExitStatusTellsWhetherEveryLineWasAPuzzle) {
     EXPECT_EQ(run("solve " + bad.string()), 2);
     EXPECT_EQ(Split(written(), '\n').size(), 1u);
     EXPECT_EQ(run("steps < " + bad.string()), 2);
+    // Every command of the usage text is taken, the board commands too.
+    EXPECT_EQ(run("states --all " + good.string()), 0);
+    const std::string boards = written();
+    EXPECT_FALSE(boards.empty());
+    std::ofstream(dir / "boards.txt") << boards;
+    EXPECT_EQ(run("rung 4 " + (dir / "boards.txt").string()), 0);
+    EXPECT_FALSE(written().empty());
 
     // Paths that are no readable file, and binary input: a message naming the
     // file (and line), status 2, for every command.

@@ -78,9 +78,18 @@ CellSet HoldersIn(const Board& b, int digit, const int* cells, int count) {
     return s;
 }
 
+// The holders of each digit on the board as the search found it.
+struct Holders {
+    std::array<CellSet, 10> of;
+    explicit Holders(const Board& b) {
+        for (int d = 1; d <= 9; ++d)
+            of[d] = b.CellsWith(d);
+    }
+};
+
 // ALSxz_Hit: some cell outside the holders holds `digit` and sees every holder.
-bool ALSxz_Hit(const Board& b, const CellSet& holders, int digit) {
-    return !((CommonPeers(holders) & b.CellsWith(digit)) - holders).Empty();
+bool ALSxz_Hit(const Holders& all, const CellSet& holders, int digit) {
+    return !((CommonPeers(holders) & all.of[digit]) - holders).Empty();
 }
 
 // Takes `digit` from every cell that sees all `holders`.
@@ -91,7 +100,7 @@ void RemoveSeeingAll(SolveContext& ctx, const CellSet& holders, int digit) {
 
 // The first stage: bi-value cell `base` with digits x and z against a set whose
 // only x-holder sees it.
-bool BiValueStage(SolveContext& ctx, const CandidateMask (&digits)[81]) {
+bool BiValueStage(SolveContext& ctx, const CandidateMask (&digits)[81], const Holders& all) {
     const Board& b = ctx.board;
     int pool[9];
     for (int base = 0; base < 81; ++base) {
@@ -123,11 +132,11 @@ bool BiValueStage(SolveContext& ctx, const CandidateMask (&digits)[81]) {
                             CellSet xList = HoldersIn(b, x, set, n) & PeerSet(base);
                             xList.Add(base);
                             const DigitSet others = DigitSet(mask) - DigitSet(digits[base]);
-                            bool found = ALSxz_Hit(b, zList, z);
+                            bool found = ALSxz_Hit(all, zList, z);
                             if (!found && doubleLinked) {
-                                found = ALSxz_Hit(b, xList, x);
+                                found = ALSxz_Hit(all, xList, x);
                                 for (int k : others)
-                                    if (!found) found = ALSxz_Hit(b, HoldersIn(b, k, set, n), k);
+                                    if (!found) found = ALSxz_Hit(all, HoldersIn(b, k, set, n), k);
                             }
                             if (!found) return false;
 
@@ -195,8 +204,9 @@ bool InOneUnit(const CellSet& cells, int anyCell) {
 
 // ALSxz_3: a second set against the first one (`set1`, generated from `base` in a
 // unit of kind `mode1`), joined by x.
-bool ALSxz_3(SolveContext& ctx, const CandidateMask (&digits)[81], const int* set1, int count1,
-             int x, int base, CandidateMask cands1, int mode1, AlsPairHit& out) {
+bool ALSxz_3(SolveContext& ctx, const CandidateMask (&digits)[81], const Holders& all,
+             const int* set1, int count1, int x, int base, CandidateMask cands1, int mode1,
+             AlsPairHit& out) {
     const Board& b = ctx.board;
     const CellSet x1 = HoldersIn(b, x, set1, count1);
     const CellSet first = [&] {
@@ -208,9 +218,17 @@ bool ALSxz_3(SolveContext& ctx, const CandidateMask (&digits)[81], const int* se
     if (mode1 == 3 && !x1.SubsetOf(RowSet(base / 9)) && !x1.SubsetOf(ColumnSet(base % 9)))
         return false;
 
+    // Only an x-holder in a unit with every x-holder of the first set can be joined
+    // to it; no other cell passes the test of the join below.
+    CellSet joinable;
+    const int anyX = x1.First();  // x1 holds the first set's own cell at least
+    for (int u : {anyX / 9, 9 + anyX % 9, 18 + Global::BoxOfCell[anyX]})
+        if (x1.SubsetOf(UnitSet(u))) joinable |= UnitSet(u);
+    joinable &= all.of[x];
+    joinable -= x1;
+
     int pool[9];
-    for (int j = 0; j < 81; ++j) {
-        if (digits[j] == 0 || !HasDigit(digits[j], x) || x1.Has(j)) continue;
+    for (int j : joinable) {
         for (int kind = mode1; kind <= 3; ++kind) {
             const int unit = UnitOf(kind, j);
             if (kind == mode1 && unit == UnitOf(kind, base)) continue;
@@ -233,27 +251,27 @@ bool ALSxz_3(SolveContext& ctx, const CandidateMask (&digits)[81], const int* se
             }
             const bool hit = ForEachSet(
                 ctx, pool, poolSize, digits, [&](const int* set2, int n, CandidateMask cands2) {
-                    CellSet both = first;
+                    CellSet second;
                     for (int i = 0; i < n; ++i)
-                        both.Add(set2[i]);
+                        second.Add(set2[i]);
+                    const CellSet both = first | second;
                     if (InOneUnit(both, j)) return false;
                     for (int z : DigitSet(CandidateMask(cands1 & cands2))) {
                         if (z == x) continue;
-                        const CellSet zHolders =
-                            HoldersIn(b, z, set1, count1) | HoldersIn(b, z, set2, n);
+                        const CellSet zHolders = both & all.of[z];
                         bool doubleLinked = true;
                         for (int c : zHolders)
                             doubleLinked &= (zHolders - CellSet::Of(c)).SubsetOf(PeerSet(c));
-                        const CellSet xHolders = x1 | HoldersIn(b, x, set2, n);
-                        bool found = ALSxz_Hit(b, zHolders, z);
+                        const CellSet xHolders = x1 | (second & all.of[x]);
+                        bool found = ALSxz_Hit(all, zHolders, z);
                         if (!found && doubleLinked) {
-                            found = ALSxz_Hit(b, xHolders, x);
+                            found = ALSxz_Hit(all, xHolders, x);
                             for (int k = 1; k <= 9 && !found; ++k) {
                                 if (k == x || k == z) continue;
                                 if (HasDigit(cands1, k))
-                                    found = ALSxz_Hit(b, HoldersIn(b, k, set1, count1), k);
+                                    found = ALSxz_Hit(all, first & all.of[k], k);
                                 if (!found && HasDigit(cands2, k))
-                                    found = ALSxz_Hit(b, HoldersIn(b, k, set2, n), k);
+                                    found = ALSxz_Hit(all, second & all.of[k], k);
                             }
                         }
                         if (!found) continue;
@@ -281,7 +299,7 @@ bool ALSxz_3(SolveContext& ctx, const CandidateMask (&digits)[81], const int* se
 }
 
 // ALSxz_2: every first set, from each cell, each of its digits as x, each unit.
-bool ALSxz_2(SolveContext& ctx, AlsPairHit& out) {
+bool ALSxz_2(SolveContext& ctx, const Holders& all, AlsPairHit& out) {
     CandidateMask digits[81];
     for (int c = 0; c < 81; ++c)
         digits[c] = ctx.board.Candidates[c];
@@ -296,7 +314,7 @@ bool ALSxz_2(SolveContext& ctx, AlsPairHit& out) {
                     if (c != i && digits[c] != 0) pool[poolSize++] = c;
                 const bool hit = ForEachSet(
                     ctx, pool, poolSize, digits, [&](const int* set, int n, CandidateMask mask) {
-                        return ALSxz_3(ctx, digits, set, n, x, i, mask, kind, out);
+                        return ALSxz_3(ctx, digits, all, set, n, x, i, mask, kind, out);
                     });
                 if (hit) return true;
             }
@@ -310,13 +328,14 @@ bool ALSxz(SolveContext& ctx) {
     CandidateMask digits[81];
     for (int c = 0; c < 81; ++c)
         digits[c] = ctx.board.Candidates[c];
-    if (BiValueStage(ctx, digits)) {
+    const Holders all(ctx.board);
+    if (BiValueStage(ctx, digits, all)) {
         if (!ctx.HintOnly()) ctx.RaiseLevel(7);
         return true;
     }
 
     AlsPairHit hit;
-    if (!ALSxz_2(ctx, hit)) return false;
+    if (!ALSxz_2(ctx, all, hit)) return false;
     // The removal, from what the record keeps.
     const Board& b = ctx.board;
     const CellSet z1 = HoldersIn(b, hit.z, hit.first, hit.firstCount);

@@ -29,6 +29,17 @@ inline bool SharesUnitIn(int a, int b, UnitMask units) {
     return BoxUnit(a) == BoxUnit(b) && (units >> BoxUnit(a) & 1);
 }
 
+// The number of cells of `s` up to `most`; a bigger set answers `most` + 1. A few
+// steps of taking the lowest cell, where a full count would be a library call.
+inline int CountUpTo(CellSet s, int most) {
+    int n = 0;
+    while (!s.Empty() && n <= most) {
+        s.Remove(s.First());
+        ++n;
+    }
+    return n;
+}
+
 namespace detail {
 inline constexpr auto kCellsBelow = [] {
     std::array<CellSet, 82> below{};
@@ -73,7 +84,7 @@ inline DigitLinks LinksOf(const CellSet& holders) {
     DigitLinks l;
     for (int u = 0; u < 27; ++u) {
         const CellSet in = holders & UnitSet(u);
-        if (in.Count() != 2) continue;
+        if (CountUpTo(in, 2) != 2) continue;
         l.conjugate |= UnitMask{1} << u;
         const int a = in.First();
         CellSet rest = in;
@@ -82,7 +93,7 @@ inline DigitLinks LinksOf(const CellSet& holders) {
         if (u < 18 || (RowUnit(a) != RowUnit(b) && ColumnUnit(a) != ColumnUnit(b))) l.strong |= in;
     }
     for (int u = 0; u < 27; ++u)
-        if (!(l.conjugate >> u & 1) && (l.strong & UnitSet(u)).Count() >= 2)
+        if (!(l.conjugate >> u & 1) && CountUpTo(l.strong & UnitSet(u), 2) >= 2)
             l.weak |= UnitMask{1} << u;
     return l;
 }
@@ -110,7 +121,7 @@ inline Colouring ColourDigit(const Board& board, int digit) {
         for (int u : {i, 9 + i, 18 + i}) {
             pair[u] = {-1, -1};
             const CellSet in = holders & UnitSet(u);
-            if (in.Count() != 2) continue;
+            if (CountUpTo(in, 2) != 2) continue;
             // A box's holders in box order are its holders in cell order.
             int k = 0;
             for (int c : in) {

@@ -63,8 +63,11 @@ void Propagate(int baseCell, ExamGrid& g) {
                 for (int u = 9 * kind; u < 9 * kind + 9; ++u) {
                     CellSet holders = g.open[d - 1] & UnitSet(u);
                     holders.Remove(baseCell);
-                    if (holders.Count() != 1) continue;
-                    ApplyForce(holders.First(), d, g);
+                    if (holders.Empty()) continue;
+                    const int only = holders.First();  // the one holder, if one
+                    holders.Remove(only);
+                    if (!holders.Empty()) continue;
+                    ApplyForce(only, d, g);
                     found = true;
                     break;
                 }

@@ -35,18 +35,22 @@ struct MedusaSearch {
     std::array<std::array<std::int8_t, 10>, 81> colour{};  // +1, -1 or 0
     std::array<bool, 81 * 10> seen{};
     std::vector<int> nodes;  // coloured candidates as codes, in order of colouring
+    // The holders of each digit; the board stays as it is until a rule hits.
+    std::array<CellSet, 10> holders{};
+    // The cells coloured + and - per digit, as the colours say.
+    std::array<CellSet, 10> plus{}, minus{};
 
     explicit MedusaSearch(SolveContext& c) : ctx(c), b(c.board) {
         for (auto& kind : partner)
             for (auto& digit : kind)
                 digit.fill(-1);
         for (int d = 1; d <= 9; ++d) {
-            const CellSet holders = b.CellsWith(d);
+            holders[d] = b.CellsWith(d);
             for (int kind = 0; kind < 3; ++kind)
                 for (int i = 0; i < 9; ++i) {
                     const int unit = kind == 0 ? 18 + i : kind == 1 ? i : 9 + i;
-                    const CellSet in = holders & UnitSet(unit);
-                    if (in.Count() != 2) continue;
+                    const CellSet in = holders[d] & UnitSet(unit);
+                    if (CountUpTo(in, 2) != 2) continue;
                     const int x = in.First();
                     const int y = (in - CellSet::Of(x)).First();
                     if (kind > 0 && BoxUnit(x) == BoxUnit(y)) continue;
@@ -66,6 +70,8 @@ struct MedusaSearch {
         for (int code : nodes)
             colour[code % 81][code / 81 + 1] = 0;
         nodes.clear();
+        plus.fill(CellSet());
+        minus.fill(CellSet());
         colour[start][d] = 1;
         nodes.push_back(Code(start, d));
         for (size_t q = 0; q < nodes.size(); ++q) {
@@ -79,6 +85,10 @@ struct MedusaSearch {
             for (int kind = 0; kind < 3; ++kind)
                 link(partner[kind][k][cell], k);
             if (BiValue(cell)) link(cell, (b.CandidatesOf(cell) - DigitSet::Of(k)).First());
+        }
+        for (int code : nodes) {
+            const int cell = code % 81, k = code / 81 + 1;
+            (colour[cell][k] > 0 ? plus : minus)[k].Add(cell);
         }
     }
 
@@ -107,8 +117,14 @@ struct MedusaSearch {
     // The rules in their order on the cluster grown from (start, d).
     bool Rules(int start, int d) {
         // Rules 1 and 3: two coloured candidates in one cell.
+        const CellSet coloured = [&] {
+            CellSet all;
+            for (int k = 1; k <= 9; ++k)
+                all |= plus[k] | minus[k];
+            return all;
+        }();
         for (int rule : {1, 3})
-            for (int cell = 0; cell < 81; ++cell)
+            for (int cell : coloured)
                 for (int x : b.CandidatesOf(cell))
                     for (int y : b.CandidatesOf(cell)) {
                         if (y <= x || !colour[cell][x] || !colour[cell][y]) continue;
@@ -129,39 +145,37 @@ struct MedusaSearch {
                     }
         // Rule 2: one digit twice in one colour in a house.
         for (int k = 1; k <= 9; ++k)
-            for (int x = 0; x < 81; ++x) {
-                if (!colour[x][k]) continue;
-                for (int y = x + 1; y < 81; ++y)
-                    if (colour[y][k] == colour[x][k] && SeesCell(x, y)) {
-                        RemoveColour(colour[x][k]);
-                        FillHint(2, start, d, k, Code(x, k), Code(y, k));
-                        return true;
-                    }
+            for (int x : plus[k] | minus[k]) {
+                const CellSet& same = colour[x][k] > 0 ? plus[k] : minus[k];
+                const int y = NextFrom(same & PeerSet(x), x + 1);
+                if (y == 81) continue;
+                RemoveColour(colour[x][k]);
+                FillHint(2, start, d, k, Code(x, k), Code(y, k));
+                return true;
             }
         // Rule 4: an uncoloured candidate that sees the digit in both colours.
-        for (int k = 1; k <= 9; ++k)
-            for (int x = 0; x < 81; ++x) {
-                if (colour[x][k] != 1) continue;
-                for (int y = 0; y < 81; ++y) {
-                    if (colour[y][k] != -1) continue;
-                    bool any = false;
-                    for (int v : PeerSet(x) & PeerSet(y) & b.CellsWith(k))
-                        if (v != x && v != y && !colour[v][k]) any |= VerwijderKnop(ctx, k, v);
-                    if (!any) continue;
+        for (int k = 1; k <= 9; ++k) {
+            const CellSet uncoloured = holders[k] - plus[k] - minus[k];
+            for (int x : plus[k])
+                for (int y : minus[k]) {
+                    const CellSet victims = PeerSet(x) & PeerSet(y) & uncoloured;
+                    if (victims.Empty()) continue;
+                    for (int v : victims)
+                        VerwijderKnop(ctx, k, v);
                     FillHint(4, start, d, k, Code(std::min(x, y), k), Code(std::max(x, y), k));
                     return true;
                 }
-            }
+        }
         // Rule 5: an uncoloured candidate that sees its digit coloured, with the
         // opposite colour in its own cell.
-        for (int cell = 0; cell < 81; ++cell) {
+        for (int cell : coloured) {
             int signs = 0;  // bit 0: a + candidate in the cell, bit 1: a - one
             for (int k : b.CandidatesOf(cell))
                 signs |= colour[cell][k] > 0 ? 1 : colour[cell][k] < 0 ? 2 : 0;
             if (!signs) continue;
             for (int k : b.CandidatesOf(cell)) {
                 if (colour[cell][k]) continue;
-                for (int e : PeerSet(cell) & b.CellsWith(k)) {
+                for (int e : PeerSet(cell) & holders[k]) {
                     const int c = colour[e][k];
                     if (!c || !(signs & (c > 0 ? 2 : 1))) continue;
                     VerwijderKnop(ctx, k, cell);
@@ -178,12 +192,12 @@ struct MedusaSearch {
             if (colour[cell][x] || colour[cell][y]) continue;
             for (int sign : {1, -1}) {
                 int ex = -1, ey = -1;
-                for (int e : PeerSet(cell) & b.CellsWith(x))
+                for (int e : PeerSet(cell) & holders[x])
                     if (colour[e][x] == sign) {
                         ex = e;
                         break;
                     }
-                for (int e : PeerSet(cell) & b.CellsWith(y))
+                for (int e : PeerSet(cell) & holders[y])
                     if (colour[e][y] == sign) {
                         ey = e;
                         break;
@@ -200,7 +214,7 @@ struct MedusaSearch {
 
     bool Run() {
         for (int d = 1; d <= 9; ++d)
-            for (int cell : b.CellsWith(d)) {
+            for (int cell : holders[d]) {
                 // A cluster is the same from each of its nodes: try it once.
                 if (seen[Code(cell, d)] || !Linked(cell, d)) continue;
                 Grow(cell, d);

@@ -25,9 +25,10 @@ struct LoopWalk {
     std::array<int, 82> cells{};
     std::array<int, 82> cursor{};
     CellSet inLoop, seesStart;
+    CellSet holders;  // of the digit
 
     LoopWalk(SolveContext& c, int d, bool shortForm) : ctx(c), digit(d), shortLoops(shortForm) {
-        const CellSet holders = ctx.board.CellsWith(d);
+        holders = ctx.board.CellsWith(d);
         links = LinksOf(holders);
         for (int u = 0; u < 27; ++u) {
             const CellSet in = links.strong & UnitSet(u);
@@ -60,7 +61,7 @@ struct LoopWalk {
                 found = NextFrom(links.strong - inLoop, cursor[0]);
                 if (found < 81) {
                     cells[0] = found;
-                    seesStart = PeerSet(found) & ctx.board.CellsWith(digit);
+                    seesStart = PeerSet(found) & holders;
                 }
             } else if (p % 2 == 1) {
                 if (!(shortLoops && p >= kShortLimit)) {

@@ -25,41 +25,49 @@ struct Link {
 
 struct XYSearch {
     SolveContext& ctx;
-    std::array<std::array<std::uint8_t, 10>, 27> unitCount{};  // unit, digit
+    std::array<std::array<std::uint8_t, 10>, 27> unitCount{};  // unit, digit; 3 for more
     std::array<bool, 81> biValue{};
     std::array<int, 10> biValueCount{};
     // Per cell, digit and unit kind (row, column, box): the one bi-value cell the
     // chain can step to on that digit through that unit, or -1.
     std::array<std::array<std::array<std::int8_t, 3>, 10>, 81> partner{};
+    std::array<CellSet, 10> hitNodes{};  // by exit digit
 
     explicit XYSearch(SolveContext& c) : ctx(c) {
         const Board& b = ctx.board;
+        std::array<CellSet, 10> holders{};
+        for (int d = 1; d <= 9; ++d)
+            holders[d] = b.CellsWith(d);
+        for (int u = 0; u < 27; ++u)
+            for (int d = 1; d <= 9; ++d)
+                unitCount[u][d] = std::uint8_t(CountUpTo(holders[d] & UnitSet(u), 2));
         for (int cell = 0; cell < 81; ++cell) {
+            for (auto& kinds : partner[cell])
+                kinds = {-1, -1, -1};
+            if (b.CandidatesOf(cell).Count() != 2) continue;
+            biValue[cell] = true;
             for (int d : b.CandidatesOf(cell))
-                for (int u : {RowUnit(cell), ColumnUnit(cell), BoxUnit(cell)})
-                    ++unitCount[u][d];
-            if (b.CandidatesOf(cell).Count() == 2) {
-                biValue[cell] = true;
-                for (int d : b.CandidatesOf(cell))
-                    ++biValueCount[d];
-            }
+                ++biValueCount[d];
         }
-        for (int cell = 0; cell < 81; ++cell)
-            for (int x = 1; x <= 9; ++x)
+        // Only a bi-value cell stands in a chain, and it leaves by one of its digits.
+        for (int cell = 0; cell < 81; ++cell) {
+            if (!biValue[cell]) continue;
+            for (int x : b.CandidatesOf(cell))
                 for (int kind = 0; kind < 3; ++kind) {
-                    partner[cell][x][kind] = -1;
                     const int unit = kind == 0   ? RowUnit(cell)
                                      : kind == 1 ? ColumnUnit(cell)
                                                  : BoxUnit(cell);
                     if (unitCount[unit][x] != 2) continue;
-                    for (int next : UnitSet(unit) & b.CellsWith(x)) {
-                        if (next == cell || !biValue[next]) continue;
-                        if (kind == 2 && (RowUnit(next) == RowUnit(cell) ||
-                                          ColumnUnit(next) == ColumnUnit(cell)))
-                            continue;
-                        partner[cell][x][kind] = std::int8_t(next);
-                    }
+                    CellSet other = UnitSet(unit) & holders[x];
+                    other.Remove(cell);
+                    const int next = other.First();
+                    if (!biValue[next]) continue;
+                    if (kind == 2 &&
+                        (RowUnit(next) == RowUnit(cell) || ColumnUnit(next) == ColumnUnit(cell)))
+                        continue;
+                    partner[cell][x][kind] = std::int8_t(next);
                 }
+        }
     }
 
     int Other(int cell, int digit) const {
@@ -99,6 +107,48 @@ struct XYSearch {
         return false;
     }
 
+    // The nodes (cell, exit digit) at which a push from `start` hits: a plain chain
+    // ends on d in a cell that shares a victim with the start; a Double
+    // Implication Chain enters a peer of the start on d.
+    void FindHitNodes(int d, int start) {
+        for (auto& cells : hitNodes)
+            cells = CellSet();
+        const CellSet holders = ctx.board.CellsWith(d);
+        const CellSet startPeers = PeerSet(start) & holders;
+        for (int c : holders) {
+            if (c == start || !biValue[c]) continue;
+            CellSet victims = startPeers & PeerSet(c);
+            victims.Remove(c);
+            if (!victims.Empty()) hitNodes[d].Add(c);
+            if (startPeers.Has(c)) hitNodes[Other(c, d)].Add(c);
+        }
+    }
+
+    // True when no hit can follow the node (cell, exit) however the chain goes on:
+    // no node of FindHitNodes is reachable through cells outside the chain. The
+    // walk below may come back to a cell by its other digit, which the chain
+    // cannot, so it sees every chain there is and more.
+    bool Dead(int cell, int exit, const CellSet& inChain) const {
+        std::array<CellSet, 10> seen{};
+        std::array<std::pair<std::uint8_t, std::uint8_t>, 162> queue;
+        int head = 0, tail = 0;
+        queue[tail++] = {std::uint8_t(cell), std::uint8_t(exit)};
+        seen[exit].Add(cell);
+        while (head < tail) {
+            const auto [c, x] = queue[head++];
+            for (int kind = 0; kind < 3; ++kind) {
+                const int next = partner[c][x][kind];
+                if (next < 0 || inChain.Has(next)) continue;
+                const int y = Other(next, x);
+                if (seen[y].Has(next)) continue;
+                if (hitNodes[y].Has(next)) return false;
+                seen[y].Add(next);
+                queue[tail++] = {std::uint8_t(next), std::uint8_t(y)};
+            }
+        }
+        return true;
+    }
+
     bool Search(int d) {
         std::vector<Link> chain;
         chain.reserve(81);
@@ -108,6 +158,10 @@ struct XYSearch {
             int targetCells = 1;
             chain.assign(1, Link{start, Other(start, d), 0});
             inChain = CellSet::Of(start);
+            FindHitNodes(d, start);
+            // A branch from which no hit can be reached is not walked: the first
+            // hit stays the first.
+            if (Dead(start, chain[0].exit, inChain)) continue;
             while (!chain.empty()) {
                 ctx.Yield();
                 Link& top = chain.back();
@@ -126,6 +180,7 @@ struct XYSearch {
                 }
                 if (moved) {
                     if (HitTests(d, chain)) return true;
+                    if (Dead(chain.back().cell, chain.back().exit, inChain)) chain.back().step = 3;
                     continue;
                 }
                 // Every unit of the top is tried: step back.
