@@ -18,7 +18,6 @@ namespace {
 
 constexpr int kNone = 0, kCycle = 1, kStrong = 2, kWeak = 3;
 constexpr int kCounterLimit = 50000;
-constexpr int kSameCell = -1, kExhausted = 81;
 // Dead ends are kept at every fourth position only: each lookup costs about what a
 // few dozen steps of the walk do, and a branch met again is mostly met again at
 // several positions in a row. A short walk does not repay the bookkeeping at all;
@@ -38,18 +37,19 @@ bool SameCellUnit(int a, int b) {
 // the limit. So that number is kept, and the branch is not walked again.
 class DeadEnds {
   public:
+    // The in-chain flags of cells 0..63 in `low`; those of cells 64..80 in the low
+    // 17 bits of `high`, then position, cell, digit and the loop's flag.
     struct Key {
-        std::uint64_t low = 0, high = 0;  // the in-chain flags
-        std::uint32_t node = 0;           // position, cell, digit and the loop's flag
+        std::uint64_t low = 0, high = 0;
     };
+    static constexpr int kNodeShift = 17;
 
-    // A new start node: everything kept so far is forgotten.
+    // A new start node: everything kept so far is forgotten. Only the slots used
+    // are wiped, so a start that keeps little costs little.
     void NewStart() {
-        if (++generation_ == 0) {  // after four billion starts: wipe, not misread
-            for (std::size_t i = 0; table_ && i < kSize; ++i)
-                table_.get()[i].generation = 0;
-            generation_ = 1;
-        }
+        for (std::uint32_t i : used_)
+            table_.get()[i] = Entry{};
+        used_.clear();
     }
 
     // The limit count of a branch met before, or -1.
@@ -57,37 +57,43 @@ class DeadEnds {
         if (!table_) return -1;
         for (std::size_t i = Slot(key), n = 0; n < kProbes; ++n, i = (i + 1) & kMask) {
             const Entry& e = table_.get()[i];
-            if (e.generation != generation_) return -1;
-            if (e.key.low == key.low && e.key.high == key.high && e.key.node == key.node)
-                return int(e.count);
+            if (e.high == 0) return -1;
+            if (e.low == key.low && (e.high & kKeyBits) == key.high)
+                return int(e.high >> kCountShift);
         }
         return -1;
     }
 
     void Keep(const Key& key, int count) {
         // On the first walk long enough to need it. Zeroed pages from the system
-        // are zero entries of no generation, and only those used are touched.
-        if (!table_) table_.reset(static_cast<Entry*>(std::calloc(kSize, sizeof(Entry))));
-        if (!table_) return;
+        // are empty entries, and only those used are touched.
+        if (!table_) {
+            table_.reset(static_cast<Entry*>(std::calloc(kSize, sizeof(Entry))));
+            if (!table_) return;
+            used_.reserve(kSize);
+        }
         for (std::size_t i = Slot(key), n = 0; n < kProbes; ++n, i = (i + 1) & kMask) {
             Entry& e = table_.get()[i];
-            if (e.generation == generation_) continue;
-            e = {key, generation_, std::uint32_t(count)};
+            if (e.high != 0) continue;
+            // A kept count is below the counter's limit: 16 bits hold it.
+            e = {key.low, key.high | std::uint64_t(count) << kCountShift};
+            used_.push_back(std::uint32_t(i));
             return;
         }
     }
 
   private:
+    // A position is never 0, so a used entry is never all zero.
     struct Entry {
-        Key key;
-        std::uint32_t generation = 0;
-        std::uint32_t count = 0;
+        std::uint64_t low = 0, high = 0;
     };
+    static constexpr int kCountShift = 40;
+    static constexpr std::uint64_t kKeyBits = (std::uint64_t{1} << kCountShift) - 1;
+    static_assert(kCounterLimit < (1 << 16));
     static constexpr std::size_t kSize = std::size_t{1} << 16, kMask = kSize - 1, kProbes = 8;
 
     static std::size_t Slot(const Key& k) {
-        std::uint64_t h = k.low * 0x9E3779B97F4A7C15ull ^ k.high * 0xC2B2AE3D27D4EB4Full ^
-                          std::uint64_t(k.node) * 0x165667B19E3779F9ull;
+        std::uint64_t h = k.low * 0x9E3779B97F4A7C15ull ^ k.high * 0xC2B2AE3D27D4EB4Full;
         h ^= h >> 29;
         return std::size_t(h) & kMask;
     }
@@ -96,7 +102,7 @@ class DeadEnds {
         void operator()(Entry* e) const { std::free(e); }
     };
     std::unique_ptr<Entry, Free> table_;
-    std::uint32_t generation_ = 0;
+    std::vector<std::uint32_t> used_;
 };
 
 struct AicSearch {
@@ -109,20 +115,16 @@ struct AicSearch {
     std::array<DigitLinks, 10> links{};
     std::array<CellSet, 10> holders{};
     std::array<CellSet, 10> biHolders{};  // bi-value cells holding the digit
+    // Per digit and cell: the cells a strong link may go to, and those a weak one may.
     std::array<std::array<CellSet, 81>, 10> conjugatePeers{}, linkPeers{};
     std::array<DigitSet, 81> strongDigits{};  // the digits of which the cell is a strong node
     std::array<CellSet, 81> anyLink{};        // per cell: where a link from it may go, any digit
 
     // The walk.
-    std::array<int, 83> cells{}, chainDigits{}, cellCursor{}, digitCursor{};
-    // Per position in its cell phase: the cells a link may go to. The flags are
-    // the same each time the walk comes back to the position, and so is the set.
-    std::array<CellSet, 83> otherCells{};
-    // Per position: whether a weak link behind it makes a closed loop count, and
-    // the dead-end record of the branch below it while it is walked.
+    std::array<int, 83> cells{}, chainDigits{};
+    int runDigit = 0;
+    // Per position: whether a weak link behind it makes a closed loop count.
     std::array<bool, 83> loopFlag{};
-    std::array<DeadEnds::Key, 83> branchKey{};
-    std::array<int, 83> branchStart{};  // the limit count on entry; -1: not kept
     long freshCount = 0;
     DeadEnds& deadEnds;
     CellSet inChain;
@@ -157,8 +159,11 @@ struct AicSearch {
             }
             for (int cell : links[d].strong)
                 strongDigits[cell].Add(d);
-            for (int cell : holders[d])
-                anyLink[cell] |= linkPeers[d][cell] | (biHolders[d] & PeerSet(cell));
+            for (int cell : holders[d]) {
+                // A weak link may also go to a bi-value cell that sees this one.
+                linkPeers[d][cell] |= biHolders[d] & PeerSet(cell);
+                anyLink[cell] |= linkPeers[d][cell];
+            }
         }
     }
 
@@ -206,10 +211,13 @@ struct AicSearch {
         // the start's nodes, or for its own last cell). The cells it can reach are
         // found here through the links of every digit, the flagged cells barred;
         // the flags of all other cells make no difference and are left out, so
-        // that more branches are known as the same.
+        // that more branches are known as the same. A link to another cell is
+        // taken at positions p up to the limit only, so the walk's last cell is
+        // never more than limit - p such links away from this one: the search
+        // stops there.
         const int q = cells[p - 1];
         CellSet reached = CellSet::Of(q), frontier = reached, asked;
-        while (!frontier.Empty()) {
+        for (int steps = chainLimit - p; steps >= 0 && !frontier.Empty(); --steps) {
             CellSet next;
             for (int c : frontier)
                 next |= anyLink[c];
@@ -222,9 +230,10 @@ struct AicSearch {
         static_assert(sizeof(CellSet) == 2 * sizeof(std::uint64_t));
         const auto words = std::bit_cast<std::array<std::uint64_t, 2>>(inChain & asked);
         k.low = words[0];
-        k.high = words[1];
-        k.node = std::uint32_t(p | cells[p - 1] << 6 | chainDigits[p - 1] << 13 |
-                               int(loopFlag[p]) << 17);
+        k.high =
+            words[1] |
+            std::uint64_t(p | cells[p - 1] << 7 | chainDigits[p - 1] << 14 | int(loopFlag[p]) << 18)
+                << DeadEnds::kNodeShift;
         return k;
     }
 
@@ -258,125 +267,82 @@ struct AicSearch {
         return kNone;
     }
 
-    // The next digit from `from` of a link inside the cell at p-1.
-    int SameCellLink(int p, int from) const {
+    // The digits a link inside the cell at p-1 may go to.
+    DigitSet SameCellLinks(int p) const {
         const int q = cells[p - 1], x = chainDigits[p - 1];
         DigitSet to;
         if (biValue.Has(q))
             to = digits[q];
         else if (p % 2 == 0 && multiValue.Has(q))
             to = digits[q] & strongDigits[q];
-        to -= DigitSet::Of(x);
-        const unsigned rest = unsigned(to.Mask()) >> (from - 1);
-        return rest ? from + std::countr_zero(rest) : 10;
+        return to - DigitSet::Of(x);
     }
 
     // The candidates for a link to another cell at p.
     CellSet OtherCellLinks(int p) const {
         const int q = cells[p - 1], x = chainDigits[p - 1];
         if (p % 2 == 1) return conjugatePeers[x][q] - inChain;
-        return ((linkPeers[x][q]) | (biHolders[x] & PeerSet(q))) - inChain;
+        return linkPeers[x][q] - inChain;
     }
 
     // Runs the search for start digit d: a result, or -1 when the counter ran out.
     int Run(int d) {
         inChain = CellSet();
-        cellCursor.fill(kSameCell);
-        digitCursor.fill(1);
-        cellCursor[0] = 0;
-        int p = 0;
-        bool fresh = true;  // the position is entered, not come back to
+        runDigit = d;
         const CellSet starts = biHolders[d] | (links[d].strong & multiValue);
-        while (p >= 0) {
-            ctx.Yield();
-            if (p == 0) {
-                const int c = NextFrom(starts, cellCursor[0]);
-                cellCursor[0] = c;
-                if (c == 81) {
-                    p = -1;
-                    break;
-                }
-                cells[0] = c, chainDigits[0] = d;
-                EnterFromOtherCell(c, 0);
-                SetStart(c, d);
-                deadEnds.NewStart();
-                loopFlag[1] = false;
-                p = 1, fresh = true;
-                continue;
-            }
-            if (fresh) {
-                if (p > chainLimit) {
-                    cellCursor[p] = kExhausted;
-                    if (++limitCounter >= kCounterLimit) return -1;
-                }
-                if (const int r = Close(p, d); r != kNone) return Hit(r, p, d);
-                branchStart[p] = -1;
-                if (p <= chainLimit) {
-                    if (p >= 2) loopFlag[p] = loopFlag[p - 1] || (p % 2 == 1 && WeakPair(p - 2));
-                    if (p % kKeptEvery == 0 && ++freshCount > kFreshBeforeKeeping) {
-                        const DeadEnds::Key key = KeyAt(p);
-                        if (const int count = deadEnds.Find(key); count >= 0) {
-                            limitCounter += count;
-                            if (limitCounter >= kCounterLimit) return -1;
-                            cellCursor[p] = kExhausted;
-                        } else {
-                            branchKey[p] = key;
-                            branchStart[p] = limitCounter;
-                        }
-                    }
-                }
-            }
-            bool moved = false;
-            if (cellCursor[p] == kSameCell && inChain.Has(cells[p - 1])) {
-                cellCursor[p] = 0;
-                otherCells[p] = OtherCellLinks(p);
-            }
-            if (cellCursor[p] == kSameCell) {
-                const int k = SameCellLink(p, digitCursor[p]);
-                if (k <= 9) {
-                    digitCursor[p] = k;
-                    cells[p] = cells[p - 1], chainDigits[p] = k;
-                    inChain.Add(cells[p]);
-                    moved = true;
-                } else {
-                    inChain.Add(cells[p - 1]);
-                    digitCursor[p] = 1;
-                    cellCursor[p] = 0;
-                    otherCells[p] = OtherCellLinks(p);
-                }
-            }
-            if (!moved && cellCursor[p] != kSameCell && cellCursor[p] < kExhausted) {
-                // The set loses each cell as it is taken: its lowest is the next.
-                const int c = otherCells[p].Empty() ? 81 : otherCells[p].First();
-                if (c < 81) otherCells[p].Remove(c);
-                cellCursor[p] = c;
-                if (c < 81) {
-                    cells[p] = c, chainDigits[p] = chainDigits[p - 1];
-                    EnterFromOtherCell(c, p);
-                    moved = true;
-                }
-            }
-            if (moved) {
-                ++p;
-                cellCursor[p] = kSameCell;
-                digitCursor[p] = 1;
-                fresh = true;
-                continue;
-            }
-            // Give the position up.
-            if (branchStart[p] >= 0) deadEnds.Keep(branchKey[p], limitCounter - branchStart[p]);
-            cellCursor[p] = kSameCell;
-            digitCursor[p] = 1;
-            --p;
-            fresh = false;
-            if (p >= 0) {
-                inChain.Remove(cells[p]);
-                if (cellCursor[p] == kSameCell)
-                    ++digitCursor[p];
-                else
-                    ++cellCursor[p];
-            }
+        for (int c : starts) {
+            cells[0] = c, chainDigits[0] = d;
+            EnterFromOtherCell(c, 0);
+            SetStart(c, d);
+            deadEnds.NewStart();
+            loopFlag[1] = false;
+            if (const int r = Walk(1); r != kNone) return r;
+            inChain.Remove(c);
         }
+        return kNone;
+    }
+
+    // The walk below the node at p - 1, entered at position p: kNone when it is
+    // given up, a hit's result, or -1 when the counter ran out. Links inside the
+    // cell are tried first, digits upward, then the links to other cells, cells
+    // upward; the node left behind is taken out of the chain by the caller.
+    int Walk(int p) {
+        ctx.Yield();
+        const int d = runDigit;
+        if (p > chainLimit) {
+            if (++limitCounter >= kCounterLimit) return -1;
+            if (const int r = Close(p, d); r != kNone) return Hit(r, p, d);
+            return kNone;
+        }
+        if (const int r = Close(p, d); r != kNone) return Hit(r, p, d);
+        if (p >= 2) loopFlag[p] = loopFlag[p - 1] || (p % 2 == 1 && WeakPair(p - 2));
+        DeadEnds::Key key;
+        int countOnEntry = -1;  // -1: the branch is not kept
+        if (p % kKeptEvery == 0 && ++freshCount > kFreshBeforeKeeping) {
+            key = KeyAt(p);
+            if (const int count = deadEnds.Find(key); count >= 0) {
+                limitCounter += count;
+                return limitCounter >= kCounterLimit ? -1 : kNone;
+            }
+            countOnEntry = limitCounter;
+        }
+        const int q = cells[p - 1], x = chainDigits[p - 1];
+        if (!inChain.Has(q)) {
+            for (int k : SameCellLinks(p)) {
+                cells[p] = q, chainDigits[p] = k;
+                inChain.Add(q);
+                if (const int r = Walk(p + 1); r != kNone) return r;
+                inChain.Remove(q);
+            }
+            inChain.Add(q);
+        }
+        for (int c : OtherCellLinks(p)) {
+            cells[p] = c, chainDigits[p] = x;
+            EnterFromOtherCell(c, p);
+            if (const int r = Walk(p + 1); r != kNone) return r;
+            inChain.Remove(c);
+        }
+        if (countOnEntry >= 0) deadEnds.Keep(key, limitCounter - countOnEntry);
         return kNone;
     }
 
