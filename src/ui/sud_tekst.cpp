@@ -53,26 +53,22 @@ void SudTekstLine::FitFont() {
     if (f != font()) setFont(f);
 }
 
+// A drag that carries files is the line's own: taken while making, refused in play.
+bool SudTekstLine::AnswerFileDrag(QDragMoveEvent* e) {
+    if (!e->mimeData()->hasUrls()) return false;
+    if (acceptDrops())
+        e->acceptProposedAction();
+    else
+        e->ignore();
+    return true;
+}
+
 void SudTekstLine::dragEnterEvent(QDragEnterEvent* e) {
-    if (e->mimeData()->hasUrls()) {
-        if (acceptDrops())
-            e->acceptProposedAction();
-        else
-            e->ignore();
-        return;
-    }
-    QLineEdit::dragEnterEvent(e);
+    if (!AnswerFileDrag(e)) QLineEdit::dragEnterEvent(e);
 }
 
 void SudTekstLine::dragMoveEvent(QDragMoveEvent* e) {
-    if (e->mimeData()->hasUrls()) {
-        if (acceptDrops())
-            e->acceptProposedAction();
-        else
-            e->ignore();
-        return;
-    }
-    QLineEdit::dragMoveEvent(e);
+    if (!AnswerFileDrag(e)) QLineEdit::dragMoveEvent(e);
 }
 
 void SudTekstLine::dropEvent(QDropEvent* e) {

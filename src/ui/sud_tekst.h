@@ -34,6 +34,8 @@ class SudTekstLine : public QLineEdit {
     // The digits in a fixed-width font small enough to show all 81; the prompt
     // in the window's font, small enough to show it whole.
     void FitFont();
+    // True when the drag carries files; it is then taken or refused here.
+    bool AnswerFileDrag(QDragMoveEvent* e);
 };
 
 }  // namespace tavi::ui
