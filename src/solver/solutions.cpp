@@ -56,10 +56,29 @@ constexpr std::array<std::uint32_t, 8> kBoxesToRow = [] {
     return t;
 }();
 
+// The row-box pairs of kPermutationPairs as the places of a band they cover.
+constexpr std::array<std::uint32_t, 512> kKeepPlaces = [] {
+    std::array<std::uint32_t, 512> t{};
+    for (int pairs = 0; pairs < 512; ++pairs) {
+        const int keep = kPermutationPairs[pairs];
+        t[pairs] =
+            kBoxesToRow[keep & 7] | kBoxesToRow[keep >> 3 & 7] << 9 | kBoxesToRow[keep >> 6] << 18;
+    }
+    return t;
+}();
+
+// For a 9-bit row: 1 when exactly one bit is set.
+constexpr std::array<std::uint8_t, 512> kOnePlace = [] {
+    std::array<std::uint8_t, 512> t{};
+    for (int row = 0; row < 512; ++row)
+        t[row] = std::popcount(unsigned(row)) == 1;
+    return t;
+}();
+
 struct State {
     std::array<std::uint32_t, 27> may;  // index 3 * digit + band, digits 0..8
     std::array<std::uint32_t, 3> solved;
-    std::uint32_t dirty;  // bit 3 * digit + band: that word changed since it was looked at
+    std::uint32_t dirty;          // bit 3 * digit + band: that word changed since it was looked at
     std::uint32_t digitsChanged;  // bit d: a word of digit d changed since Columns looked
     std::uint32_t bandsChanged;   // bit b: a word of band b changed since NakedSingles looked
 
@@ -93,13 +112,16 @@ struct State {
     // singles of rows and boxes and the locked candidates inside the band.
     bool Band(int i) {
         const std::uint32_t x = may[i];
-        const int pairs =
-            kRowBoxes[x & kRowBits] | kRowBoxes[x >> 9 & kRowBits] << 3 | kRowBoxes[x >> 18] << 6;
-        const int keep = kPermutationPairs[pairs];
+        const std::uint32_t keep =
+            kKeepPlaces[kRowBoxes[x & kRowBits] | kRowBoxes[x >> 9 & kRowBits] << 3 |
+                        kRowBoxes[x >> 18] << 6];
         if (!keep) return false;
-        Keep(i, kBoxesToRow[keep & 7] | kBoxesToRow[keep >> 3 & 7] << 9 |
-                    kBoxesToRow[keep >> 6] << 18);
-        const int d = i / 3, b = i % 3;
+        Keep(i, keep);
+        const int b = i % 3;
+        const std::uint32_t open = may[i] & ~solved[b];
+        if (!(kOnePlace[open & kRowBits] | kOnePlace[open >> 9 & kRowBits] | kOnePlace[open >> 18]))
+            return true;
+        const int d = i / 3;
         for (int r = 0; r < 3; ++r) {
             const std::uint32_t row = may[i] & kRowBits << (9 * r);
             if (row & (row - 1) || row & solved[b]) continue;
