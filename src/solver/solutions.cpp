@@ -94,16 +94,29 @@ struct State {
     // Puts digit d at place p of band b. False when d may no longer stand there.
     bool Place(int d, int b, int p) {
         const std::uint32_t bit = 1u << p;
-        if (!(may[3 * d + b] & bit)) return false;
+        const int i = 3 * d + b;
+        if (!(may[i] & bit)) return false;
         if (solved[b] & bit) return true;
         solved[b] |= bit;
-        for (int e = 0; e < 9; ++e)
-            Keep(3 * e + b, ~bit);
-        may[3 * d + b] |= bit;
-        Keep(3 * d + b, ~kBandPeers[p] | bit);
+        // The changed words are gathered here and marked once: `dirty` sits next
+        // to the words, so marking it per word would reload it after every store.
+        std::uint32_t changed = 0;
+        for (int e = 0; e < 9; ++e) {
+            const std::uint32_t x = may[3 * e + b];
+            changed |= (x >> p & 1) << (3 * e + b);
+            may[3 * e + b] = x & ~bit;
+        }
+        const std::uint32_t own = may[i] | bit, peers = kBandPeers[p] & ~bit;
+        may[i] = own & ~peers;
+        changed = (changed & ~(1u << i)) | std::uint32_t((own & peers) != 0) << i;
         const std::uint32_t column = kColumnBits << (p % 9);
         for (int other = 0; other < 3; ++other)
-            if (other != b) Keep(3 * d + other, ~column);
+            if (other != b) {
+                const std::uint32_t x = may[3 * d + other];
+                changed |= std::uint32_t((x & column) != 0) << (3 * d + other);
+                may[3 * d + other] = x & ~column;
+            }
+        dirty |= changed;
         return true;
     }
 
@@ -116,7 +129,8 @@ struct State {
             kKeepPlaces[kRowBoxes[x & kRowBits] | kRowBoxes[x >> 9 & kRowBits] << 3 |
                         kRowBoxes[x >> 18] << 6];
         if (!keep) return false;
-        Keep(i, keep);
+        // Narrowing twice keeps the same pairs, so this word need not be marked.
+        may[i] = x & keep;
         const int b = i % 3;
         const std::uint32_t open = may[i] & ~solved[b];
         if (!(kOnePlace[open & kRowBits] | kOnePlace[open >> 9 & kRowBits] | kOnePlace[open >> 18]))
@@ -213,13 +227,26 @@ struct State {
 
     // Singles to a fixed point. False on a contradiction.
     bool Propagate() {
+        std::uint32_t touched = 0;  // words looked at since the last pass across them
         for (;;) {
             while (dirty) {
                 const int i = std::countr_zero(dirty);
                 dirty &= dirty - 1;
-                digitsChanged |= 1u << (i / 3);
-                bandsChanged |= 1u << (i % 3);
+                touched |= 1u << i;
                 if (!Band(i)) return false;
+            }
+            if (touched) {
+                // Bit 3 * digit + band to a bit per digit and a bit per band.
+                std::uint32_t t = touched;
+                t |= t >> 1 | t >> 2;
+                std::uint32_t digits = 0;
+                for (int d = 0; d < 9; ++d)
+                    digits |= (t >> (3 * d) & 1) << d;
+                digitsChanged |= digits;
+                bandsChanged |= std::uint32_t((touched & 0x1249249) != 0) |
+                                std::uint32_t((touched & 0x2492492) != 0) << 1 |
+                                std::uint32_t((touched & 0x4924924) != 0) << 2;
+                touched = 0;
             }
             bool progress = false;
             if (!NakedSingles(progress)) return false;
