@@ -4,6 +4,10 @@
 #include <bit>
 #include <cstdint>
 
+#if defined(__SSE2__)
+#include <emmintrin.h>
+#endif
+
 namespace tavi {
 
 namespace {
@@ -76,14 +80,14 @@ constexpr std::array<std::uint8_t, 512> kOnePlace = [] {
 }();
 
 struct State {
-    std::array<std::uint32_t, 27> may;  // index 3 * digit + band, digits 0..8
+    std::array<std::uint32_t, 27> may;  // index 9 * band + digit, digits 0..8
     std::array<std::uint32_t, 3> solved;
-    std::uint32_t dirty;          // bit 3 * digit + band: that word changed since it was looked at
+    std::uint32_t dirty;          // bit 9 * band + digit: that word changed since it was looked at
     std::uint32_t digitsChanged;  // bit d: a word of digit d changed since Columns looked
     std::uint32_t bandsChanged;   // bit b: a word of band b changed since NakedSingles looked
 
-    std::uint32_t Open(int d, int b) const { return may[3 * d + b] & ~solved[b]; }
-    std::uint32_t Placed(int d, int b) const { return may[3 * d + b] & solved[b]; }
+    std::uint32_t Open(int d, int b) const { return may[9 * b + d] & ~solved[b]; }
+    std::uint32_t Placed(int d, int b) const { return may[9 * b + d] & solved[b]; }
 
     void Keep(int i, std::uint32_t bits) {
         const std::uint32_t was = may[i];
@@ -94,27 +98,41 @@ struct State {
     // Puts digit d at place p of band b. False when d may no longer stand there.
     bool Place(int d, int b, int p) {
         const std::uint32_t bit = 1u << p;
-        const int i = 3 * d + b;
+        const int i = 9 * b + d;
         if (!(may[i] & bit)) return false;
         if (solved[b] & bit) return true;
         solved[b] |= bit;
         // The changed words are gathered here and marked once: `dirty` sits next
         // to the words, so marking it per word would reload it after every store.
         std::uint32_t changed = 0;
-        for (int e = 0; e < 9; ++e) {
-            const std::uint32_t x = may[3 * e + b];
-            changed |= (x >> p & 1) << (3 * e + b);
-            may[3 * e + b] = x & ~bit;
+        std::uint32_t* const band = &may[9 * b];
+#if defined(__SSE2__)
+        // The nine words of a band lie together: eight go in two vector steps.
+        const __m128i one = _mm_set1_epi32(int(bit)), zero = _mm_setzero_si128();
+        for (int e = 0; e < 8; e += 4) {
+            const __m128i x = _mm_loadu_si128(reinterpret_cast<const __m128i*>(band + e));
+            const __m128i had = _mm_cmpeq_epi32(_mm_and_si128(x, one), zero);
+            changed |= std::uint32_t(~_mm_movemask_ps(_mm_castsi128_ps(had)) & 0xF) << e;
+            _mm_storeu_si128(reinterpret_cast<__m128i*>(band + e), _mm_andnot_si128(one, x));
         }
+        changed |= (band[8] >> p & 1) << 8;
+        band[8] &= ~bit;
+        changed <<= 9 * b;
+#else
+        for (int e = 0; e < 9; ++e) {
+            changed |= (band[e] >> p & 1) << (9 * b + e);
+            band[e] &= ~bit;
+        }
+#endif
         const std::uint32_t own = may[i] | bit, peers = kBandPeers[p] & ~bit;
         may[i] = own & ~peers;
         changed = (changed & ~(1u << i)) | std::uint32_t((own & peers) != 0) << i;
         const std::uint32_t column = kColumnBits << (p % 9);
         for (int other = 0; other < 3; ++other)
             if (other != b) {
-                const std::uint32_t x = may[3 * d + other];
-                changed |= std::uint32_t((x & column) != 0) << (3 * d + other);
-                may[3 * d + other] = x & ~column;
+                const std::uint32_t x = may[9 * other + d];
+                changed |= std::uint32_t((x & column) != 0) << (9 * other + d);
+                may[9 * other + d] = x & ~column;
             }
         dirty |= changed;
         return true;
@@ -131,11 +149,11 @@ struct State {
         if (!keep) return false;
         // Narrowing twice keeps the same pairs, so this word need not be marked.
         may[i] = x & keep;
-        const int b = i % 3;
+        const int b = i / 9;
         const std::uint32_t open = may[i] & ~solved[b];
         if (!(kOnePlace[open & kRowBits] | kOnePlace[open >> 9 & kRowBits] | kOnePlace[open >> 18]))
             return true;
-        const int d = i / 3;
+        const int d = i % 9;
         for (int r = 0; r < 3; ++r) {
             const std::uint32_t row = may[i] & kRowBits << (9 * r);
             if (row & (row - 1) || row & solved[b]) continue;
@@ -154,7 +172,7 @@ struct State {
             if (!open) continue;
             std::uint32_t one = 0, two = 0;
             for (int d = 0; d < 9; ++d) {
-                const std::uint32_t x = may[3 * d + b] & open;
+                const std::uint32_t x = may[9 * b + d] & open;
                 two |= one & x;
                 one |= x;
             }
@@ -162,7 +180,7 @@ struct State {
             for (std::uint32_t singles = one & ~two; singles; singles &= singles - 1) {
                 const int p = std::countr_zero(singles);
                 for (int d = 0; d < 9; ++d)
-                    if (may[3 * d + b] >> p & 1) {
+                    if (may[9 * b + d] >> p & 1) {
                         // A cell emptied by an earlier placement of this pass shows
                         // up as a cell without digits in the next pass.
                         if (!Place(d, b, p)) return false;
@@ -184,7 +202,7 @@ struct State {
             digitsChanged &= ~(1u << d);
             std::array<std::uint32_t, 3> columns;  // per band: the columns the digit may take
             for (int b = 0; b < 3; ++b) {
-                const std::uint32_t x = may[3 * d + b];
+                const std::uint32_t x = may[9 * b + d];
                 columns[b] = (x | x >> 9 | x >> 18) & kRowBits;
             }
             for (int stack = 0; stack < 3; ++stack) {
@@ -198,7 +216,7 @@ struct State {
                     const std::uint32_t gone =
                         ~std::uint32_t(keep >> (3 * b)) & 7u & (columns[b] >> shift);
                     for (std::uint32_t g = gone; g; g &= g - 1)
-                        Keep(3 * d + b, ~(kColumnBits << (shift + std::countr_zero(g))));
+                        Keep(9 * b + d, ~(kColumnBits << (shift + std::countr_zero(g))));
                 }
             }
             std::uint32_t one = 0, two = 0, placed = 0;
@@ -236,16 +254,11 @@ struct State {
                 if (!Band(i)) return false;
             }
             if (touched) {
-                // Bit 3 * digit + band to a bit per digit and a bit per band.
-                std::uint32_t t = touched;
-                t |= t >> 1 | t >> 2;
-                std::uint32_t digits = 0;
-                for (int d = 0; d < 9; ++d)
-                    digits |= (t >> (3 * d) & 1) << d;
-                digitsChanged |= digits;
-                bandsChanged |= std::uint32_t((touched & 0x1249249) != 0) |
-                                std::uint32_t((touched & 0x2492492) != 0) << 1 |
-                                std::uint32_t((touched & 0x4924924) != 0) << 2;
+                // Bit 9 * band + digit to a bit per digit and a bit per band.
+                digitsChanged |= (touched | touched >> 9 | touched >> 18) & 0x1FF;
+                bandsChanged |= std::uint32_t((touched & 0x1FF) != 0) |
+                                std::uint32_t((touched & 0x3FE00) != 0) << 1 |
+                                std::uint32_t((touched >> 18) != 0) << 2;
                 touched = 0;
             }
             bool progress = false;
@@ -266,7 +279,7 @@ struct State {
             const std::uint32_t open = ~solved[b] & kBandBits;
             std::uint32_t one = 0, two = 0, three = 0;
             for (int d = 0; d < 9; ++d) {
-                const std::uint32_t x = may[3 * d + b] & open;
+                const std::uint32_t x = may[9 * b + d] & open;
                 three |= two & x;
                 two |= one & x;
                 one |= x;
@@ -281,7 +294,7 @@ struct State {
             const std::uint32_t open = ~solved[b] & kBandBits;
             auto& s = sum[b];
             for (int d = 0; d < 9; ++d) {
-                std::uint32_t carry = may[3 * d + b] & open;
+                std::uint32_t carry = may[9 * b + d] & open;
                 for (int i = 0; i < 4; ++i) {
                     const std::uint32_t next = s[i] & carry;
                     s[i] ^= carry;
@@ -306,7 +319,7 @@ struct State {
         Digits grid{};
         for (int d = 0; d < 9; ++d)
             for (int b = 0; b < 3; ++b)
-                for (std::uint32_t x = may[3 * d + b]; x; x &= x - 1)
+                for (std::uint32_t x = may[9 * b + d]; x; x &= x - 1)
                     grid[27 * b + std::countr_zero(x)] = std::uint8_t(d + 1);
         return grid;
     }
@@ -325,7 +338,7 @@ struct Search {
         s.FewestDigits(b, p);
         if (b < 0) return;
         for (int d = 0; d < 9 && answer.count < limit; ++d) {
-            if (!(s.may[3 * d + b] >> p & 1)) continue;
+            if (!(s.may[9 * b + d] >> p & 1)) continue;
             State t = s;
             if (t.Place(d, b, p) && t.Propagate()) Run(t);
         }
@@ -345,15 +358,15 @@ SolutionCount Solutions(const Digits& givens, int limit) {
         if (digit < 1 || digit > 9) continue;
         const int d = digit - 1, b = cell / 27, p = cell % 27;
         const std::uint32_t bit = 1u << p;
-        if (seen[3 * d + b] & bit) return {};
-        given[3 * d + b] |= bit;
+        if (seen[9 * b + d] & bit) return {};
+        given[9 * b + d] |= bit;
         s.solved[b] |= bit;
-        seen[3 * d + b] |= kBandPeers[p];
+        seen[9 * b + d] |= kBandPeers[p];
         for (int other = 0; other < 3; ++other)
-            if (other != b) seen[3 * d + other] |= kColumnBits << (p % 9);
+            if (other != b) seen[9 * other + d] |= kColumnBits << (p % 9);
     }
     for (int i = 0; i < 27; ++i)
-        s.may[i] = (kBandBits & ~s.solved[i % 3] & ~seen[i]) | given[i];
+        s.may[i] = (kBandBits & ~s.solved[i / 9] & ~seen[i]) | given[i];
     s.dirty = kBandBits;
     s.digitsChanged = 0x1FF;
     s.bandsChanged = 7;
