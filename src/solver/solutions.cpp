@@ -79,6 +79,16 @@ constexpr std::array<std::uint8_t, 512> kOnePlace = [] {
     return t;
 }();
 
+// Three row bits to the places of those rows in a band word.
+constexpr std::array<std::uint32_t, 8> kRowsToPlaces = {0,
+                                                        kRowBits,
+                                                        kRowBits << 9,
+                                                        kRowBits | kRowBits << 9,
+                                                        kRowBits << 18,
+                                                        kRowBits | kRowBits << 18,
+                                                        kRowBits << 9 | kRowBits << 18,
+                                                        kBandBits};
+
 struct State {
     std::array<std::uint32_t, 27> may;  // index 9 * band + digit, digits 0..8
     std::array<std::uint32_t, 3> solved;
@@ -138,6 +148,42 @@ struct State {
         return true;
     }
 
+    // Puts digit d at the given places of band b, found as the only open place of
+    // their rows after Band. Such places lie in different rows, boxes and columns,
+    // and the narrowing has already taken their rows and boxes from the word.
+    void PlaceRows(int d, int b, std::uint32_t places) {
+        solved[b] |= places;
+        std::uint32_t changed = 0;
+        std::uint32_t* const band = &may[9 * b];
+#if defined(__SSE2__)
+        const __m128i gone = _mm_set1_epi32(int(places)), zero = _mm_setzero_si128();
+        for (int e = 0; e < 8; e += 4) {
+            const __m128i x = _mm_loadu_si128(reinterpret_cast<const __m128i*>(band + e));
+            const __m128i kept = _mm_cmpeq_epi32(_mm_and_si128(x, gone), zero);
+            changed |= std::uint32_t(~_mm_movemask_ps(_mm_castsi128_ps(kept)) & 0xF) << e;
+            _mm_storeu_si128(reinterpret_cast<__m128i*>(band + e), _mm_andnot_si128(gone, x));
+        }
+        changed |= std::uint32_t((band[8] & places) != 0) << 8;
+        band[8] &= ~places;
+#else
+        for (int e = 0; e < 9; ++e) {
+            changed |= std::uint32_t((band[e] & places) != 0) << e;
+            band[e] &= ~places;
+        }
+#endif
+        band[d] |= places;
+        changed = (changed & ~(1u << d)) << (9 * b);
+        std::uint32_t columns = (places | places >> 9 | places >> 18) & kRowBits;
+        columns |= columns << 9 | columns << 18;
+        for (int other = 0; other < 3; ++other)
+            if (other != b) {
+                const std::uint32_t x = may[9 * other + d];
+                changed |= std::uint32_t((x & columns) != 0) << (9 * other + d);
+                may[9 * other + d] = x & ~columns;
+            }
+        dirty |= changed;
+    }
+
     // One digit in one band: only the row-box pairs of some permutation stay,
     // and a row left with one place puts the digit there. This finds the hidden
     // singles of rows and boxes and the locked candidates inside the band.
@@ -148,17 +194,13 @@ struct State {
                         kRowBoxes[x >> 18] << 6];
         if (!keep) return false;
         // Narrowing twice keeps the same pairs, so this word need not be marked.
-        may[i] = x & keep;
+        const std::uint32_t now = x & keep;
+        may[i] = now;
         const int b = i / 9;
-        const std::uint32_t open = may[i] & ~solved[b];
-        if (!(kOnePlace[open & kRowBits] | kOnePlace[open >> 9 & kRowBits] | kOnePlace[open >> 18]))
-            return true;
-        const int d = i % 9;
-        for (int r = 0; r < 3; ++r) {
-            const std::uint32_t row = may[i] & kRowBits << (9 * r);
-            if (row & (row - 1) || row & solved[b]) continue;
-            if (!Place(d, b, std::countr_zero(row))) return false;
-        }
+        const std::uint32_t open = now & ~solved[b];
+        const int rows = kOnePlace[open & kRowBits] | kOnePlace[open >> 9 & kRowBits] << 1 |
+                         kOnePlace[open >> 18] << 2;
+        if (rows) PlaceRows(i % 9, b, open & kRowsToPlaces[rows]);
         return true;
     }
 
