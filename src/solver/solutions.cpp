@@ -371,7 +371,8 @@ struct Search {
     int limit;
     SolutionCount answer;
 
-    void Run(const State& s) {
+    // Takes over `s`: the last digit of the branch cell is tried on it directly.
+    void Run(State& s) {
         if (s.Full()) {
             if (answer.count++ == 0) answer.first = s.Grid();
             return;
@@ -379,8 +380,15 @@ struct Search {
         int b, p;
         s.FewestDigits(b, p);
         if (b < 0) return;
-        for (int d = 0; d < 9 && answer.count < limit; ++d) {
-            if (!(s.may[9 * b + d] >> p & 1)) continue;
+        std::uint32_t digits = 0;
+        for (int d = 0; d < 9; ++d)
+            digits |= (s.may[9 * b + d] >> p & 1) << d;
+        for (; digits && answer.count < limit; digits &= digits - 1) {
+            const int d = std::countr_zero(digits);
+            if (!(digits & (digits - 1))) {
+                if (s.Place(d, b, p) && s.Propagate()) Run(s);
+                return;
+            }
             State t = s;
             if (t.Place(d, b, p) && t.Propagate()) Run(t);
         }
