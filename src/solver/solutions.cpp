@@ -290,10 +290,11 @@ struct State {
         std::uint32_t touched = 0;  // words looked at since the last pass across them
         for (;;) {
             while (dirty) {
-                const int i = std::countr_zero(dirty);
-                dirty &= dirty - 1;
-                touched |= 1u << i;
-                if (!Band(i)) return false;
+                const std::uint32_t batch = dirty;
+                dirty = 0;
+                touched |= batch;
+                for (std::uint32_t left = batch; left; left &= left - 1)
+                    if (!Band(std::countr_zero(left))) return false;
             }
             if (touched) {
                 // Bit 9 * band + digit to a bit per digit and a bit per band.
