@@ -336,21 +336,25 @@ struct State {
                 two |= one & x;
                 one |= x;
             }
+            const std::uint32_t pairs = two & ~three;
+            if (!pairs) continue;
             const int b1 = b == 0 ? 1 : 0, b2 = b == 2 ? 1 : 2;
-            for (std::uint32_t pairs = two & ~three; pairs; pairs &= pairs - 1) {
-                const int p = std::countr_zero(pairs);
-                const std::uint32_t peers = kBandPeers[p] & open, column = kColumnBits << (p % 9);
-                const std::uint32_t column1 = column & ~solved[b1], column2 = column & ~solved[b2];
-                int score = 0;
-                for (int d = 0; d < 9; ++d) {
-                    if (!(may[9 * b + d] >> p & 1)) continue;
+            std::array<std::uint8_t, 27> score{};
+            for (int d = 0; d < 9; ++d) {
+                const std::uint32_t x = may[9 * b + d];
+                for (std::uint32_t cells = pairs & x; cells; cells &= cells - 1) {
+                    const int p = std::countr_zero(cells);
                     // The two other bands' column bits do not meet when one is shifted.
-                    const std::uint32_t across =
-                        (may[9 * b1 + d] & column1) | (may[9 * b2 + d] & column2) << 1;
-                    score += std::popcount(std::uint64_t(may[9 * b + d] & peers) |
-                                           std::uint64_t(across) << 32);
+                    const std::uint32_t column = kColumnBits << (p % 9);
+                    const std::uint32_t across = (may[9 * b1 + d] & column & ~solved[b1]) |
+                                                 (may[9 * b2 + d] & column & ~solved[b2]) << 1;
+                    score[p] += std::uint8_t(std::popcount(std::uint64_t(x & kBandPeers[p] & open) |
+                                                           std::uint64_t(across) << 32));
                 }
-                if (score > best) best = score, band = b, place = p;
+            }
+            for (std::uint32_t cells = pairs; cells; cells &= cells - 1) {
+                const int p = std::countr_zero(cells);
+                if (score[p] > best) best = score[p], band = b, place = p;
             }
         }
         if (best >= 0) return;
