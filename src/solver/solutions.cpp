@@ -12,10 +12,10 @@ namespace tavi {
 
 namespace {
 
-// The grid is held per digit and per band of three rows: 27 bits, bit 9r + c for
-// row r of the band and column c. A set bit says the digit may still stand there
-// (or stands there, for a solved cell). Rows and boxes lie inside one band word,
-// a column is the same three bits in each of the three words.
+// The grid is held per digit and per band of three rows: 27 bits, bit 9r + c
+// for row r of the band and column c. A set bit says the digit may still stand
+// there (or stands there, for a solved cell). Rows and boxes lie inside one
+// band word, a column is the same three bits in each of the three words.
 constexpr std::uint32_t kBandBits = 0x7FFFFFF;
 constexpr std::uint32_t kRowBits = 0x1FF;
 constexpr std::uint32_t kColumnBits = 0x40201;  // column 0 in rows 0, 1 and 2
@@ -39,8 +39,9 @@ constexpr std::array<std::uint8_t, 512> kRowBoxes = [] {
 }();
 
 // A digit stands once in each row and once in each box of a band, so the rows
-// and boxes it takes there are a permutation. From the row-box pairs (bit 3r + k)
-// where it may still stand: the pairs that some permutation uses, 0 when none.
+// and boxes it takes there are a permutation. From the row-box pairs (bit 3r +
+// k) where it may still stand: the pairs that some permutation uses, 0 when
+// none.
 constexpr std::array<std::uint16_t, 512> kPermutationPairs = [] {
     std::array<std::uint16_t, 512> t{};
     constexpr int perms[6][3] = {{0, 1, 2}, {0, 2, 1}, {1, 0, 2}, {1, 2, 0}, {2, 0, 1}, {2, 1, 0}};
@@ -88,6 +89,14 @@ constexpr std::array<std::uint32_t, 8> kRowsToPlaces = {0,
                                                         kRowBits | kRowBits << 18,
                                                         kRowBits << 9 | kRowBits << 18,
                                                         kBandBits};
+
+// The branch cell's score counts bits. Where the processor has an instruction
+// for that it is used; the plain version runs everywhere else.
+#if defined(__GNUC__) && defined(__x86_64__) && defined(__linux__)
+#define TAVI_COUNTS_BITS __attribute__((target_clones("popcnt", "default")))
+#else
+#define TAVI_COUNTS_BITS
+#endif
 
 struct State {
     std::array<std::uint32_t, 27> may;  // index 9 * band + digit, digits 0..8
@@ -149,8 +158,9 @@ struct State {
     }
 
     // Puts digit d at the given places of band b, found as the only open place of
-    // their rows after Band. Such places lie in different rows, boxes and columns,
-    // and the narrowing has already taken their rows and boxes from the word.
+    // their rows after Band. Such places lie in different rows, boxes and
+    // columns, and the narrowing has already taken their rows and boxes from the
+    // word.
     void PlaceRows(int d, int b, std::uint32_t places) {
         solved[b] |= places;
         std::uint32_t changed = 0;
@@ -316,16 +326,12 @@ struct State {
 
     // The open cell with the fewest digits, as band and place; its count is at
     // least 2 after Propagate.
-    // The scores count bits; where the processor has an instruction for that it
-    // is used, and the plain version runs everywhere else.
-#if defined(__GNUC__) && defined(__x86_64__) && defined(__linux__)
-    __attribute__((target_clones("popcnt", "default")))
-#endif
-    void
-    FewestDigits(int& band, int& place) const {
+    TAVI_COUNTS_BITS void FewestDigits(int& band, int& place) const {
         // Cells with two digits are the usual answer. Of those, the one whose
-        // two digits stand open in the most other cells it sees: either way the
-        // branch takes the most from the grid, and the search stays small.
+        // two digits stand open in the most other cells it sees, where a digit
+        // taken from another two-digit cell of its band (which leaves a single)
+        // counts three times: either way the branch takes the most from the
+        // grid, and the search stays small.
         int best = -1;
         for (int b = 0; b < 3; ++b) {
             const std::uint32_t open = ~solved[b] & kBandBits;
@@ -348,8 +354,10 @@ struct State {
                     const std::uint32_t column = kColumnBits << (p % 9);
                     const std::uint32_t across = (may[9 * b1 + d] & column & ~solved[b1]) |
                                                  (may[9 * b2 + d] & column & ~solved[b2]) << 1;
-                    score[p] += std::uint8_t(std::popcount(std::uint64_t(x & kBandPeers[p] & open) |
-                                                           std::uint64_t(across) << 32));
+                    const std::uint32_t seen = x & kBandPeers[p];
+                    score[p] += std::uint8_t(
+                        std::popcount(std::uint64_t(seen & open) | std::uint64_t(across) << 32) +
+                        2 * std::popcount(seen & pairs));
                 }
             }
             for (std::uint32_t cells = pairs; cells; cells &= cells - 1) {
