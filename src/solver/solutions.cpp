@@ -4,14 +4,18 @@
 #include <bit>
 #include <cstdint>
 
+#if defined(__SSE2__)
+#include <emmintrin.h>
+#endif
+
 namespace tavi {
 
 namespace {
 
-// The grid is held per digit and per band of three rows: 27 bits, bit 9r + c for
-// row r of the band and column c. A set bit says the digit may still stand there
-// (or stands there, for a solved cell). Rows and boxes lie inside one band word,
-// a column is the same three bits in each of the three words.
+// The grid is held per digit and per band of three rows: 27 bits, bit 9r + c
+// for row r of the band and column c. A set bit says the digit may still stand
+// there (or stands there, for a solved cell). Rows and boxes lie inside one
+// band word, a column is the same three bits in each of the three words.
 constexpr std::uint32_t kBandBits = 0x7FFFFFF;
 constexpr std::uint32_t kRowBits = 0x1FF;
 constexpr std::uint32_t kColumnBits = 0x40201;  // column 0 in rows 0, 1 and 2
@@ -35,8 +39,9 @@ constexpr std::array<std::uint8_t, 512> kRowBoxes = [] {
 }();
 
 // A digit stands once in each row and once in each box of a band, so the rows
-// and boxes it takes there are a permutation. From the row-box pairs (bit 3r + k)
-// where it may still stand: the pairs that some permutation uses, 0 when none.
+// and boxes it takes there are a permutation. From the row-box pairs (bit 3r +
+// k) where it may still stand: the pairs that some permutation uses, 0 when
+// none.
 constexpr std::array<std::uint16_t, 512> kPermutationPairs = [] {
     std::array<std::uint16_t, 512> t{};
     constexpr int perms[6][3] = {{0, 1, 2}, {0, 2, 1}, {1, 0, 2}, {1, 2, 0}, {2, 0, 1}, {2, 1, 0}};
@@ -56,15 +61,52 @@ constexpr std::array<std::uint32_t, 8> kBoxesToRow = [] {
     return t;
 }();
 
+// The row-box pairs of kPermutationPairs as the places of a band they cover.
+constexpr std::array<std::uint32_t, 512> kKeepPlaces = [] {
+    std::array<std::uint32_t, 512> t{};
+    for (int pairs = 0; pairs < 512; ++pairs) {
+        const int keep = kPermutationPairs[pairs];
+        t[pairs] =
+            kBoxesToRow[keep & 7] | kBoxesToRow[keep >> 3 & 7] << 9 | kBoxesToRow[keep >> 6] << 18;
+    }
+    return t;
+}();
+
+// For a 9-bit row: 1 when exactly one bit is set.
+constexpr std::array<std::uint8_t, 512> kOnePlace = [] {
+    std::array<std::uint8_t, 512> t{};
+    for (int row = 0; row < 512; ++row)
+        t[row] = std::popcount(unsigned(row)) == 1;
+    return t;
+}();
+
+// Three row bits to the places of those rows in a band word.
+constexpr std::array<std::uint32_t, 8> kRowsToPlaces = {0,
+                                                        kRowBits,
+                                                        kRowBits << 9,
+                                                        kRowBits | kRowBits << 9,
+                                                        kRowBits << 18,
+                                                        kRowBits | kRowBits << 18,
+                                                        kRowBits << 9 | kRowBits << 18,
+                                                        kBandBits};
+
+// The branch cell's score counts bits. Where the processor has an instruction
+// for that it is used; the plain version runs everywhere else.
+#if defined(__GNUC__) && defined(__x86_64__) && defined(__linux__)
+#define TAVI_COUNTS_BITS __attribute__((target_clones("popcnt", "default")))
+#else
+#define TAVI_COUNTS_BITS
+#endif
+
 struct State {
-    std::array<std::uint32_t, 27> may;  // index 3 * digit + band, digits 0..8
+    std::array<std::uint32_t, 27> may;  // index 9 * band + digit, digits 0..8
     std::array<std::uint32_t, 3> solved;
-    std::uint32_t dirty;  // bit 3 * digit + band: that word changed since it was looked at
+    std::uint32_t dirty;          // bit 9 * band + digit: that word changed since it was looked at
     std::uint32_t digitsChanged;  // bit d: a word of digit d changed since Columns looked
     std::uint32_t bandsChanged;   // bit b: a word of band b changed since NakedSingles looked
 
-    std::uint32_t Open(int d, int b) const { return may[3 * d + b] & ~solved[b]; }
-    std::uint32_t Placed(int d, int b) const { return may[3 * d + b] & solved[b]; }
+    std::uint32_t Open(int d, int b) const { return may[9 * b + d] & ~solved[b]; }
+    std::uint32_t Placed(int d, int b) const { return may[9 * b + d] & solved[b]; }
 
     void Keep(int i, std::uint32_t bits) {
         const std::uint32_t was = may[i];
@@ -75,17 +117,81 @@ struct State {
     // Puts digit d at place p of band b. False when d may no longer stand there.
     bool Place(int d, int b, int p) {
         const std::uint32_t bit = 1u << p;
-        if (!(may[3 * d + b] & bit)) return false;
+        const int i = 9 * b + d;
+        if (!(may[i] & bit)) return false;
         if (solved[b] & bit) return true;
         solved[b] |= bit;
-        for (int e = 0; e < 9; ++e)
-            Keep(3 * e + b, ~bit);
-        may[3 * d + b] |= bit;
-        Keep(3 * d + b, ~kBandPeers[p] | bit);
+        // The changed words are gathered here and marked once: `dirty` sits next
+        // to the words, so marking it per word would reload it after every store.
+        std::uint32_t changed = 0;
+        std::uint32_t* const band = &may[9 * b];
+#if defined(__SSE2__)
+        // The nine words of a band lie together: eight go in two vector steps.
+        const __m128i one = _mm_set1_epi32(int(bit)), zero = _mm_setzero_si128();
+        for (int e = 0; e < 8; e += 4) {
+            const __m128i x = _mm_loadu_si128(reinterpret_cast<const __m128i*>(band + e));
+            const __m128i had = _mm_cmpeq_epi32(_mm_and_si128(x, one), zero);
+            changed |= std::uint32_t(~_mm_movemask_ps(_mm_castsi128_ps(had)) & 0xF) << e;
+            _mm_storeu_si128(reinterpret_cast<__m128i*>(band + e), _mm_andnot_si128(one, x));
+        }
+        changed |= (band[8] >> p & 1) << 8;
+        band[8] &= ~bit;
+        changed <<= 9 * b;
+#else
+        for (int e = 0; e < 9; ++e) {
+            changed |= (band[e] >> p & 1) << (9 * b + e);
+            band[e] &= ~bit;
+        }
+#endif
+        const std::uint32_t own = may[i] | bit, peers = kBandPeers[p] & ~bit;
+        may[i] = own & ~peers;
+        changed = (changed & ~(1u << i)) | std::uint32_t((own & peers) != 0) << i;
         const std::uint32_t column = kColumnBits << (p % 9);
         for (int other = 0; other < 3; ++other)
-            if (other != b) Keep(3 * d + other, ~column);
+            if (other != b) {
+                const std::uint32_t x = may[9 * other + d];
+                changed |= std::uint32_t((x & column) != 0) << (9 * other + d);
+                may[9 * other + d] = x & ~column;
+            }
+        dirty |= changed;
         return true;
+    }
+
+    // Puts digit d at the given places of band b, found as the only open place of
+    // their rows after Band. Such places lie in different rows, boxes and
+    // columns, and the narrowing has already taken their rows and boxes from the
+    // word.
+    void PlaceRows(int d, int b, std::uint32_t places) {
+        solved[b] |= places;
+        std::uint32_t changed = 0;
+        std::uint32_t* const band = &may[9 * b];
+#if defined(__SSE2__)
+        const __m128i gone = _mm_set1_epi32(int(places)), zero = _mm_setzero_si128();
+        for (int e = 0; e < 8; e += 4) {
+            const __m128i x = _mm_loadu_si128(reinterpret_cast<const __m128i*>(band + e));
+            const __m128i kept = _mm_cmpeq_epi32(_mm_and_si128(x, gone), zero);
+            changed |= std::uint32_t(~_mm_movemask_ps(_mm_castsi128_ps(kept)) & 0xF) << e;
+            _mm_storeu_si128(reinterpret_cast<__m128i*>(band + e), _mm_andnot_si128(gone, x));
+        }
+        changed |= std::uint32_t((band[8] & places) != 0) << 8;
+        band[8] &= ~places;
+#else
+        for (int e = 0; e < 9; ++e) {
+            changed |= std::uint32_t((band[e] & places) != 0) << e;
+            band[e] &= ~places;
+        }
+#endif
+        band[d] |= places;
+        changed = (changed & ~(1u << d)) << (9 * b);
+        std::uint32_t columns = (places | places >> 9 | places >> 18) & kRowBits;
+        columns |= columns << 9 | columns << 18;
+        for (int other = 0; other < 3; ++other)
+            if (other != b) {
+                const std::uint32_t x = may[9 * other + d];
+                changed |= std::uint32_t((x & columns) != 0) << (9 * other + d);
+                may[9 * other + d] = x & ~columns;
+            }
+        dirty |= changed;
     }
 
     // One digit in one band: only the row-box pairs of some permutation stay,
@@ -93,18 +199,18 @@ struct State {
     // singles of rows and boxes and the locked candidates inside the band.
     bool Band(int i) {
         const std::uint32_t x = may[i];
-        const int pairs =
-            kRowBoxes[x & kRowBits] | kRowBoxes[x >> 9 & kRowBits] << 3 | kRowBoxes[x >> 18] << 6;
-        const int keep = kPermutationPairs[pairs];
+        const std::uint32_t keep =
+            kKeepPlaces[kRowBoxes[x & kRowBits] | kRowBoxes[x >> 9 & kRowBits] << 3 |
+                        kRowBoxes[x >> 18] << 6];
         if (!keep) return false;
-        Keep(i, kBoxesToRow[keep & 7] | kBoxesToRow[keep >> 3 & 7] << 9 |
-                    kBoxesToRow[keep >> 6] << 18);
-        const int d = i / 3, b = i % 3;
-        for (int r = 0; r < 3; ++r) {
-            const std::uint32_t row = may[i] & kRowBits << (9 * r);
-            if (row & (row - 1) || row & solved[b]) continue;
-            if (!Place(d, b, std::countr_zero(row))) return false;
-        }
+        // Narrowing twice keeps the same pairs, so this word need not be marked.
+        const std::uint32_t now = x & keep;
+        may[i] = now;
+        const int b = i / 9;
+        const std::uint32_t open = now & ~solved[b];
+        const int rows = kOnePlace[open & kRowBits] | kOnePlace[open >> 9 & kRowBits] << 1 |
+                         kOnePlace[open >> 18] << 2;
+        if (rows) PlaceRows(i % 9, b, open & kRowsToPlaces[rows]);
         return true;
     }
 
@@ -118,7 +224,7 @@ struct State {
             if (!open) continue;
             std::uint32_t one = 0, two = 0;
             for (int d = 0; d < 9; ++d) {
-                const std::uint32_t x = may[3 * d + b] & open;
+                const std::uint32_t x = may[9 * b + d] & open;
                 two |= one & x;
                 one |= x;
             }
@@ -126,7 +232,7 @@ struct State {
             for (std::uint32_t singles = one & ~two; singles; singles &= singles - 1) {
                 const int p = std::countr_zero(singles);
                 for (int d = 0; d < 9; ++d)
-                    if (may[3 * d + b] >> p & 1) {
+                    if (may[9 * b + d] >> p & 1) {
                         // A cell emptied by an earlier placement of this pass shows
                         // up as a cell without digits in the next pass.
                         if (!Place(d, b, p)) return false;
@@ -148,7 +254,7 @@ struct State {
             digitsChanged &= ~(1u << d);
             std::array<std::uint32_t, 3> columns;  // per band: the columns the digit may take
             for (int b = 0; b < 3; ++b) {
-                const std::uint32_t x = may[3 * d + b];
+                const std::uint32_t x = may[9 * b + d];
                 columns[b] = (x | x >> 9 | x >> 18) & kRowBits;
             }
             for (int stack = 0; stack < 3; ++stack) {
@@ -162,7 +268,7 @@ struct State {
                     const std::uint32_t gone =
                         ~std::uint32_t(keep >> (3 * b)) & 7u & (columns[b] >> shift);
                     for (std::uint32_t g = gone; g; g &= g - 1)
-                        Keep(3 * d + b, ~(kColumnBits << (shift + std::countr_zero(g))));
+                        Keep(9 * b + d, ~(kColumnBits << (shift + std::countr_zero(g))));
                 }
             }
             std::uint32_t one = 0, two = 0, placed = 0;
@@ -191,13 +297,22 @@ struct State {
 
     // Singles to a fixed point. False on a contradiction.
     bool Propagate() {
+        std::uint32_t touched = 0;  // words looked at since the last pass across them
         for (;;) {
             while (dirty) {
-                const int i = std::countr_zero(dirty);
-                dirty &= dirty - 1;
-                digitsChanged |= 1u << (i / 3);
-                bandsChanged |= 1u << (i % 3);
-                if (!Band(i)) return false;
+                const std::uint32_t batch = dirty;
+                dirty = 0;
+                touched |= batch;
+                for (std::uint32_t left = batch; left; left &= left - 1)
+                    if (!Band(std::countr_zero(left))) return false;
+            }
+            if (touched) {
+                // Bit 9 * band + digit to a bit per digit and a bit per band.
+                digitsChanged |= (touched | touched >> 9 | touched >> 18) & 0x1FF;
+                bandsChanged |= std::uint32_t((touched & 0x1FF) != 0) |
+                                std::uint32_t((touched & 0x3FE00) != 0) << 1 |
+                                std::uint32_t((touched >> 18) != 0) << 2;
+                touched = 0;
             }
             bool progress = false;
             if (!NakedSingles(progress)) return false;
@@ -211,28 +326,52 @@ struct State {
 
     // The open cell with the fewest digits, as band and place; its count is at
     // least 2 after Propagate.
-    void FewestDigits(int& band, int& place) const {
-        // Cells with two digits are the usual answer and the cheapest to find.
+    TAVI_COUNTS_BITS void FewestDigits(int& band, int& place) const {
+        // Cells with two digits are the usual answer. Of those, the one whose
+        // two digits stand open in the most other cells it sees, where a digit
+        // taken from another two-digit cell of its band (which leaves a single)
+        // counts three times: either way the branch takes the most from the
+        // grid, and the search stays small.
+        int best = -1;
         for (int b = 0; b < 3; ++b) {
             const std::uint32_t open = ~solved[b] & kBandBits;
             std::uint32_t one = 0, two = 0, three = 0;
             for (int d = 0; d < 9; ++d) {
-                const std::uint32_t x = may[3 * d + b] & open;
+                const std::uint32_t x = may[9 * b + d] & open;
                 three |= two & x;
                 two |= one & x;
                 one |= x;
             }
-            if (const std::uint32_t pairs = two & ~three) {
-                band = b, place = std::countr_zero(pairs);
-                return;
+            const std::uint32_t pairs = two & ~three;
+            if (!pairs) continue;
+            const int b1 = b == 0 ? 1 : 0, b2 = b == 2 ? 1 : 2;
+            std::array<std::uint8_t, 27> score{};
+            for (int d = 0; d < 9; ++d) {
+                const std::uint32_t x = may[9 * b + d];
+                for (std::uint32_t cells = pairs & x; cells; cells &= cells - 1) {
+                    const int p = std::countr_zero(cells);
+                    // The two other bands' column bits do not meet when one is shifted.
+                    const std::uint32_t column = kColumnBits << (p % 9);
+                    const std::uint32_t across = (may[9 * b1 + d] & column & ~solved[b1]) |
+                                                 (may[9 * b2 + d] & column & ~solved[b2]) << 1;
+                    const std::uint32_t seen = x & kBandPeers[p];
+                    score[p] += std::uint8_t(
+                        std::popcount(std::uint64_t(seen & open) | std::uint64_t(across) << 32) +
+                        2 * std::popcount(seen & pairs));
+                }
+            }
+            for (std::uint32_t cells = pairs; cells; cells &= cells - 1) {
+                const int p = std::countr_zero(cells);
+                if (score[p] > best) best = score[p], band = b, place = p;
             }
         }
+        if (best >= 0) return;
         std::array<std::array<std::uint32_t, 4>, 3> sum{};  // a 4-bit count per cell
         for (int b = 0; b < 3; ++b) {
             const std::uint32_t open = ~solved[b] & kBandBits;
             auto& s = sum[b];
             for (int d = 0; d < 9; ++d) {
-                std::uint32_t carry = may[3 * d + b] & open;
+                std::uint32_t carry = may[9 * b + d] & open;
                 for (int i = 0; i < 4; ++i) {
                     const std::uint32_t next = s[i] & carry;
                     s[i] ^= carry;
@@ -257,7 +396,7 @@ struct State {
         Digits grid{};
         for (int d = 0; d < 9; ++d)
             for (int b = 0; b < 3; ++b)
-                for (std::uint32_t x = may[3 * d + b]; x; x &= x - 1)
+                for (std::uint32_t x = may[9 * b + d]; x; x &= x - 1)
                     grid[27 * b + std::countr_zero(x)] = std::uint8_t(d + 1);
         return grid;
     }
@@ -267,7 +406,8 @@ struct Search {
     int limit;
     SolutionCount answer;
 
-    void Run(const State& s) {
+    // Takes over `s`: the last digit of the branch cell is tried on it directly.
+    void Run(State& s) {
         if (s.Full()) {
             if (answer.count++ == 0) answer.first = s.Grid();
             return;
@@ -275,8 +415,15 @@ struct Search {
         int b, p;
         s.FewestDigits(b, p);
         if (b < 0) return;
-        for (int d = 0; d < 9 && answer.count < limit; ++d) {
-            if (!(s.may[3 * d + b] >> p & 1)) continue;
+        std::uint32_t digits = 0;
+        for (int d = 0; d < 9; ++d)
+            digits |= (s.may[9 * b + d] >> p & 1) << d;
+        for (; digits && answer.count < limit; digits &= digits - 1) {
+            const int d = std::countr_zero(digits);
+            if (!(digits & (digits - 1))) {
+                if (s.Place(d, b, p) && s.Propagate()) Run(s);
+                return;
+            }
             State t = s;
             if (t.Place(d, b, p) && t.Propagate()) Run(t);
         }
@@ -296,15 +443,15 @@ SolutionCount Solutions(const Digits& givens, int limit) {
         if (digit < 1 || digit > 9) continue;
         const int d = digit - 1, b = cell / 27, p = cell % 27;
         const std::uint32_t bit = 1u << p;
-        if (seen[3 * d + b] & bit) return {};
-        given[3 * d + b] |= bit;
+        if (seen[9 * b + d] & bit) return {};
+        given[9 * b + d] |= bit;
         s.solved[b] |= bit;
-        seen[3 * d + b] |= kBandPeers[p];
+        seen[9 * b + d] |= kBandPeers[p];
         for (int other = 0; other < 3; ++other)
-            if (other != b) seen[3 * d + other] |= kColumnBits << (p % 9);
+            if (other != b) seen[9 * other + d] |= kColumnBits << (p % 9);
     }
     for (int i = 0; i < 27; ++i)
-        s.may[i] = (kBandBits & ~s.solved[i % 3] & ~seen[i]) | given[i];
+        s.may[i] = (kBandBits & ~s.solved[i / 9] & ~seen[i]) | given[i];
     s.dirty = kBandBits;
     s.digitsChanged = 0x1FF;
     s.bandsChanged = 7;

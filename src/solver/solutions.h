@@ -9,8 +9,10 @@
 namespace tavi {
 
 struct SolutionCount {
-    int count = 0;   // 0 .. limit
-    Digits first{};  // the first solution found; all zero when there is none
+    int count = 0;  // 0 .. limit
+    // The first solution found; all zero when there is none. With several
+    // solutions, which one comes first is not fixed: rely on it when count is 1.
+    Digits first{};
 };
 
 // Counts the solutions of `givens` (0 for an empty cell), stopping at `limit`
