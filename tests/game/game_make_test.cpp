@@ -210,8 +210,9 @@ TEST_F(Make, CluesFromTypedTextAndDroppedFiles) {
         std::string expected(k.clues);
         expected.resize(81, '.');
         EXPECT_EQ(d.board().CurrentGrid, DigitsOf(expected));
-        if (k.said.empty())
+        if (k.said.empty()) {
             EXPECT_EQ(d.SudTekst(), std::string(k.clues) + std::string(81 - k.clues.size(), ' '));
+        }
     }
 }
 
