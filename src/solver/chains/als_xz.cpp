@@ -205,16 +205,9 @@ bool InOneUnit(const CellSet& cells, int anyCell) {
 // ALSxz_3: a second set against the first one (`set1`, generated from `base` in a
 // unit of kind `mode1`), joined by x.
 bool ALSxz_3(SolveContext& ctx, const CandidateMask (&digits)[81], const Holders& all,
-             const int* set1, int count1, int x, int base, CandidateMask cands1, int mode1,
-             AlsPairHit& out) {
-    const Board& b = ctx.board;
-    const CellSet x1 = HoldersIn(b, x, set1, count1);
-    const CellSet first = [&] {
-        CellSet s;
-        for (int i = 0; i < count1; ++i)
-            s.Add(set1[i]);
-        return s;
-    }();
+             const int* set1, int count1, const CellSet& first, int x, int base,
+             CandidateMask cands1, int mode1, AlsPairHit& out) {
+    const CellSet x1 = first & all.of[x];
     if (mode1 == 3 && !x1.SubsetOf(RowSet(base / 9)) && !x1.SubsetOf(ColumnSet(base % 9)))
         return false;
 
@@ -251,6 +244,8 @@ bool ALSxz_3(SolveContext& ctx, const CandidateMask (&digits)[81], const Holders
             }
             const bool hit = ForEachSet(
                 ctx, pool, poolSize, digits, [&](const int* set2, int n, CandidateMask cands2) {
+                    // Without a common digit besides x there is no z.
+                    if (!(cands1 & cands2 & ~DigitBit(x))) return false;
                     CellSet second;
                     for (int i = 0; i < n; ++i)
                         second.Add(set2[i]);
@@ -298,25 +293,56 @@ bool ALSxz_3(SolveContext& ctx, const CandidateMask (&digits)[81], const Holders
     return false;
 }
 
-// ALSxz_2: every first set, from each cell, each of its digits as x, each unit.
+// One almost locked set, as the first stage of the pair search keeps it.
+struct FirstSet {
+    int cells[kMaxAlsSize];
+    int count;
+    CandidateMask mask;
+    CellSet set;
+};
+
+// ALSxz_2: every first set, from each cell, each of its digits as x, each unit. The
+// sets of a cell and a unit are the same for every x: they are found once, while
+// the first x is tried, and replayed in the same order for the others.
 bool ALSxz_2(SolveContext& ctx, const Holders& all, AlsPairHit& out) {
     CandidateMask digits[81];
     for (int c = 0; c < 81; ++c)
         digits[c] = ctx.board.Candidates[c];
     int pool[9];
+    thread_local std::vector<FirstSet> sets[3];
     for (int i = 0; i < 81; ++i) {
         if (digits[i] == 0) continue;
+        bool known[3] = {false, false, false};
         for (int x : DigitSet(digits[i]))
             for (int kind = 1; kind <= 3; ++kind) {
+                std::vector<FirstSet>& list = sets[kind - 1];
+                if (known[kind - 1]) {
+                    for (const FirstSet& f : list) {
+                        ctx.Yield();
+                        if (ALSxz_3(ctx, digits, all, f.cells, f.count, f.set, x, i, f.mask, kind,
+                                    out))
+                            return true;
+                    }
+                    continue;
+                }
+                list.clear();
                 int poolSize = 0;
                 pool[poolSize++] = i;
                 for (int c : UnitCells[UnitOf(kind, i)])
                     if (c != i && digits[c] != 0) pool[poolSize++] = c;
                 const bool hit = ForEachSet(
                     ctx, pool, poolSize, digits, [&](const int* set, int n, CandidateMask mask) {
-                        return ALSxz_3(ctx, digits, all, set, n, x, i, mask, kind, out);
+                        FirstSet& f = list.emplace_back();
+                        f.count = n;
+                        f.mask = mask;
+                        for (int k = 0; k < n; ++k) {
+                            f.cells[k] = set[k];
+                            f.set.Add(set[k]);
+                        }
+                        return ALSxz_3(ctx, digits, all, f.cells, n, f.set, x, i, mask, kind, out);
                     });
                 if (hit) return true;
+                known[kind - 1] = true;
             }
     }
     return false;
