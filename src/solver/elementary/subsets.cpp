@@ -149,20 +149,59 @@ bool NakedInUnit(SolveContext& ctx, const UnitState& state, int unit, int size) 
     // and the set's cells each hold at most `size` candidates.
     if (CountDigits(u.empties) <= size || CountDigits(u.small) < size) return false;
     const CandidateMask notPlaced = CandidateMask(kAllCandidates & ~u.placed);
-    return ForEachDigitSet(notPlaced, size, [&](CandidateMask set, const int(&digits)[5]) {
+    // A set that hits holds the candidates of its own cells, which are `size` of the
+    // small cells. So the sets worth testing are found from the choices of `size`
+    // small cells whose candidates fit in `size` free digits; the hit is the one
+    // that comes first in rising lexical order, as a scan of every set meets it.
+    CandidateMask best = 0;
+    auto test = [&](CandidateMask set) {
         const std::uint16_t inside = u.empties & ~u.Holding(CandidateMask(kAllCandidates & ~set));
-        if (CountDigits(inside) != size) return false;
+        if (CountDigits(inside) != size) return;
         // A spent pattern: no other cell holds a digit of the set any more.
-        if (!(u.Holding(set) & ~inside)) return false;
-        int cells[5] = {};
-        CellsOf(unit, inside, cells);
-        Verwijder(ctx, digits, size, cells, unit / 9 + 1);
-        if (ctx.HintOnly())
-            FillSubsetHint(ctx, unit, true, size, digits, cells);
-        else
-            ctx.RaiseLevel(3);
-        return true;
-    });
+        if (!(u.Holding(set) & ~inside)) return;
+        // Of two sets of one size, the one with the lowest digit they do not share
+        // comes first.
+        const CandidateMask differ = CandidateMask(set ^ best);
+        if (!best || (set & differ & -differ)) best = set;
+    };
+    int small[9];
+    int smallCount = 0;
+    for (std::uint16_t k = u.small; k; k &= k - 1)
+        small[smallCount++] = std::countr_zero(unsigned(k));
+    // Choices of `size` small cells, each with the union of its candidates.
+    auto choose = [&](auto&& self, int from, int left, CandidateMask held) -> void {
+        if (CountDigits(held) > size || (held & ~notPlaced)) return;
+        if (left == 0) {
+            const int missing = size - CountDigits(held);
+            if (missing == 0)
+                test(held);
+            else
+                ForEachDigitSet(CandidateMask(notPlaced & ~held), missing,
+                                [&](CandidateMask extra, const int(&)[5]) {
+                                    test(CandidateMask(held | extra));
+                                    return false;
+                                });
+            return;
+        }
+        for (int i = from; i <= smallCount - left; ++i)
+            self(self, i + 1, left - 1, CandidateMask(held | state.Candidates(small[i])));
+    };
+    choose(choose, 0, size, 0);
+    if (!best) return false;
+
+    const std::uint16_t inside = u.empties & ~u.Holding(CandidateMask(kAllCandidates & ~best));
+    int digits[5] = {};
+    int n = 0;
+    for (CandidateMask k = best; k; k &= k - 1)
+        digits[n++] = LowestDigit(k);
+    int cells[5] = {};
+    CellsOf(unit, inside, cells);
+    Verwijder(ctx, digits, size, cells, unit / 9 + 1);
+    if (ctx.HintOnly())
+        FillSubsetHint(ctx, unit, true, size, digits, cells);
+    else
+        ctx.RaiseLevel(3);
+    return true;
 }
 
 }  // namespace
