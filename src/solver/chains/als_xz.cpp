@@ -351,6 +351,11 @@ bool ALSxz_3(SolveContext& ctx, const Holders& all, const int* set1, int count1,
 // ALSxz_2: every first set, from each cell, each of its digits as x, each unit. The
 // sets of a cell and a unit are the same for every x: they are found once, while
 // the first x is tried, and replayed in the same order for the others.
+//
+// A set comes up once from each of its cells, but what ALSxz_3 finds for it and x
+// does not depend on the cell it came from (only the order of its cells, kept for
+// the record, does). So it is tried only from its lowest x-holder, the first time
+// it comes up with x; later times could only find nothing again.
 bool ALSxz_2(SolveContext& ctx, const Holders& all, AlsPairHit& out) {
     CandidateMask digits[81];
     for (int c = 0; c < 81; ++c)
@@ -367,6 +372,7 @@ bool ALSxz_2(SolveContext& ctx, const Holders& all, AlsPairHit& out) {
                 if (known[kind - 1]) {
                     for (const AlsSet& f : list) {
                         ctx.Yield();
+                        if ((f.set & all.of[x]).First() != i) continue;
                         if (ALSxz_3(ctx, all, f.cells, f.count, f.set, x, i, f.mask, kind, seconds,
                                     out))
                             return true;
@@ -387,6 +393,7 @@ bool ALSxz_2(SolveContext& ctx, const Holders& all, AlsPairHit& out) {
                             f.cells[k] = set[k];
                             f.set.Add(set[k]);
                         }
+                        if ((f.set & all.of[x]).First() != i) return false;
                         return ALSxz_3(ctx, all, f.cells, n, f.set, x, i, mask, kind, seconds, out);
                     });
                 if (hit) return true;
