@@ -12,11 +12,14 @@ int Board::EmptyCount() const {
 }
 
 CellSet Board::CellsWith(int digit) const {
-    CellSet s;
-    const CandidateMask bit = DigitBit(digit);
-    for (int c = 0; c < 81; ++c)
-        if (Candidates[c] & bit) s.Add(c);
-    return s;
+    // Word by word without a branch per cell: the candidates are unpredictable.
+    const int shift = digit - 1;
+    std::uint64_t low = 0, high = 0;
+    for (int c = 0; c < 64; ++c)
+        low |= std::uint64_t((Candidates[c] >> shift) & 1) << c;
+    for (int c = 64; c < 81; ++c)
+        high |= std::uint64_t((Candidates[c] >> shift) & 1) << (c - 64);
+    return CellSet::FromWords(low, high);
 }
 
 std::optional<Digits> ParseDigits(std::string_view line, std::string* error) {

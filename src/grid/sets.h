@@ -66,6 +66,10 @@ class CellSet {
         s.Add(cell);
         return s;
     }
+    // Cells 0..63 from the bits of `low`, 64..80 from those of `high`.
+    static constexpr CellSet FromWords(std::uint64_t low, std::uint64_t high) {
+        return {low, high & ((std::uint64_t{1} << 17) - 1)};
+    }
     static constexpr CellSet All() {
         CellSet s;
         s.low_ = ~std::uint64_t{0};

@@ -202,19 +202,68 @@ bool InOneUnit(const CellSet& cells, int anyCell) {
     return false;
 }
 
+// One almost locked set of the pair search: its cells in pool order, its digits
+// and its cells as a set.
+struct AlsSet {
+    int cells[kMaxAlsSize];
+    int count;
+    CandidateMask mask;
+    CellSet set;
+};
+
+// The almost locked sets that hold cell j in one of its units, taken from all the
+// unit's cells with candidates, j first, in the order ForEachSet makes them. A pool
+// with some cells left out makes the same sets less those that use a left-out cell,
+// in the same order; so one list per unit and cell serves every second set the
+// search looks for there. Lists are made when first asked for, for one board.
+class SecondSets {
+  public:
+    explicit SecondSets(const CandidateMask (&digits)[81]) : digits_(digits) {
+        if (++board_ == 0) {  // the counter went round: forget every list
+            stamp_.fill(0);
+            board_ = 1;
+        }
+    }
+    const std::vector<AlsSet>& Of(SolveContext& ctx, int unit, int j) {
+        const int key = unit * 81 + j;
+        std::vector<AlsSet>& list = lists_[key];
+        if (stamp_[key] == board_) return list;
+        stamp_[key] = board_;
+        list.clear();
+        int pool[9];
+        int poolSize = 0;
+        pool[poolSize++] = j;
+        for (int c : UnitCells[unit])
+            if (c != j && digits_[c] != 0) pool[poolSize++] = c;
+        ForEachSet(ctx, pool, poolSize, digits_, [&](const int* set, int n, CandidateMask mask) {
+            AlsSet& a = list.emplace_back();
+            a.count = n;
+            a.mask = mask;
+            for (int k = 0; k < n; ++k) {
+                a.cells[k] = set[k];
+                a.set.Add(set[k]);
+            }
+            return false;
+        });
+        return list;
+    }
+
+  private:
+    const CandidateMask (&digits_)[81];
+    static thread_local std::array<std::vector<AlsSet>, 27 * 81> lists_;
+    static thread_local std::array<std::uint32_t, 27 * 81> stamp_;
+    static thread_local std::uint32_t board_;
+};
+thread_local std::array<std::vector<AlsSet>, 27 * 81> SecondSets::lists_;
+thread_local std::array<std::uint32_t, 27 * 81> SecondSets::stamp_{};
+thread_local std::uint32_t SecondSets::board_ = 0;
+
 // ALSxz_3: a second set against the first one (`set1`, generated from `base` in a
 // unit of kind `mode1`), joined by x.
-bool ALSxz_3(SolveContext& ctx, const CandidateMask (&digits)[81], const Holders& all,
-             const int* set1, int count1, int x, int base, CandidateMask cands1, int mode1,
-             AlsPairHit& out) {
-    const Board& b = ctx.board;
-    const CellSet x1 = HoldersIn(b, x, set1, count1);
-    const CellSet first = [&] {
-        CellSet s;
-        for (int i = 0; i < count1; ++i)
-            s.Add(set1[i]);
-        return s;
-    }();
+bool ALSxz_3(SolveContext& ctx, const Holders& all, const int* set1, int count1,
+             const CellSet& first, int x, int base, CandidateMask cands1, int mode1,
+             SecondSets& seconds, AlsPairHit& out) {
+    const CellSet x1 = first & all.of[x];
     if (mode1 == 3 && !x1.SubsetOf(RowSet(base / 9)) && !x1.SubsetOf(ColumnSet(base % 9)))
         return false;
 
@@ -227,7 +276,6 @@ bool ALSxz_3(SolveContext& ctx, const CandidateMask (&digits)[81], const Holders
     joinable &= all.of[x];
     joinable -= x1;
 
-    int pool[9];
     for (int j : joinable) {
         for (int kind = mode1; kind <= 3; ++kind) {
             const int unit = UnitOf(kind, j);
@@ -242,20 +290,21 @@ bool ALSxz_3(SolveContext& ctx, const CandidateMask (&digits)[81], const Holders
                 if (withJ.SubsetOf(UnitSet(UnitOf(k, j)))) join = UnitOf(k, j);
             if (join < 0) continue;
 
-            int poolSize = 0;
-            pool[poolSize++] = j;
-            for (int c : UnitCells[unit]) {
-                if (c == j || digits[c] == 0 || first.Has(c)) continue;
-                if (HasDigit(digits[c], x) && !UnitSet(join).Has(c)) continue;
-                pool[poolSize++] = c;
-            }
-            const bool hit = ForEachSet(
-                ctx, pool, poolSize, digits, [&](const int* set2, int n, CandidateMask cands2) {
-                    CellSet second;
-                    for (int i = 0; i < n; ++i)
-                        second.Add(set2[i]);
+            // The second set takes no cell of the first, and no x-holder outside the
+            // joining unit.
+            const CellSet barred = first | ((all.of[x] & UnitSet(unit)) - UnitSet(join));
+            const bool hit = [&] {
+                for (const AlsSet& a : seconds.Of(ctx, unit, j)) {
+                    ctx.Yield();
+                    if (a.set.Intersects(barred)) continue;
+                    const int* set2 = a.cells;
+                    const int n = a.count;
+                    const CandidateMask cands2 = a.mask;
+                    // Without a common digit besides x there is no z.
+                    if (!(cands1 & cands2 & ~DigitBit(x))) continue;
+                    const CellSet& second = a.set;
                     const CellSet both = first | second;
-                    if (InOneUnit(both, j)) return false;
+                    if (InOneUnit(both, j)) continue;
                     for (int z : DigitSet(CandidateMask(cands1 & cands2))) {
                         if (z == x) continue;
                         const CellSet zHolders = both & all.of[z];
@@ -290,33 +339,65 @@ bool ALSxz_3(SolveContext& ctx, const CandidateMask (&digits)[81], const Holders
                         if (ctx.HintOnly()) Prepare_Tip_ALSxz(ctx.hint, out);
                         return true;
                     }
-                    return false;
-                });
+                }
+                return false;
+            }();
             if (hit) return true;
         }
     }
     return false;
 }
 
-// ALSxz_2: every first set, from each cell, each of its digits as x, each unit.
+// ALSxz_2: every first set, from each cell, each of its digits as x, each unit. The
+// sets of a cell and a unit are the same for every x: they are found once, while
+// the first x is tried, and replayed in the same order for the others.
+//
+// A set comes up once from each of its cells, but what ALSxz_3 finds for it and x
+// does not depend on the cell it came from (only the order of its cells, kept for
+// the record, does). So it is tried only from its lowest x-holder, the first time
+// it comes up with x; later times could only find nothing again.
 bool ALSxz_2(SolveContext& ctx, const Holders& all, AlsPairHit& out) {
     CandidateMask digits[81];
     for (int c = 0; c < 81; ++c)
         digits[c] = ctx.board.Candidates[c];
     int pool[9];
+    SecondSets seconds(digits);
+    thread_local std::vector<AlsSet> sets[3];
     for (int i = 0; i < 81; ++i) {
         if (digits[i] == 0) continue;
+        bool known[3] = {false, false, false};
         for (int x : DigitSet(digits[i]))
             for (int kind = 1; kind <= 3; ++kind) {
+                std::vector<AlsSet>& list = sets[kind - 1];
+                if (known[kind - 1]) {
+                    for (const AlsSet& f : list) {
+                        ctx.Yield();
+                        if ((f.set & all.of[x]).First() != i) continue;
+                        if (ALSxz_3(ctx, all, f.cells, f.count, f.set, x, i, f.mask, kind, seconds,
+                                    out))
+                            return true;
+                    }
+                    continue;
+                }
+                list.clear();
                 int poolSize = 0;
                 pool[poolSize++] = i;
                 for (int c : UnitCells[UnitOf(kind, i)])
                     if (c != i && digits[c] != 0) pool[poolSize++] = c;
                 const bool hit = ForEachSet(
                     ctx, pool, poolSize, digits, [&](const int* set, int n, CandidateMask mask) {
-                        return ALSxz_3(ctx, digits, all, set, n, x, i, mask, kind, out);
+                        AlsSet& f = list.emplace_back();
+                        f.count = n;
+                        f.mask = mask;
+                        for (int k = 0; k < n; ++k) {
+                            f.cells[k] = set[k];
+                            f.set.Add(set[k]);
+                        }
+                        if ((f.set & all.of[x]).First() != i) return false;
+                        return ALSxz_3(ctx, all, f.cells, n, f.set, x, i, mask, kind, seconds, out);
                     });
                 if (hit) return true;
+                known[kind - 1] = true;
             }
     }
     return false;

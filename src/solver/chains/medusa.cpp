@@ -39,11 +39,14 @@ struct MedusaSearch {
     std::array<CellSet, 10> holders{};
     // The cells coloured + and - per digit, as the colours say.
     std::array<CellSet, 10> plus{}, minus{};
+    CellSet biValues;  // the cells with two candidates
 
     explicit MedusaSearch(SolveContext& c) : ctx(c), b(c.board) {
         for (auto& kind : partner)
             for (auto& digit : kind)
                 digit.fill(-1);
+        for (int cell = 0; cell < 81; ++cell)
+            if (b.CandidatesOf(cell).Count() == 2) biValues.Add(cell);
         for (int d = 1; d <= 9; ++d) {
             holders[d] = b.CellsWith(d);
             for (int kind = 0; kind < 3; ++kind)
@@ -60,7 +63,7 @@ struct MedusaSearch {
         }
     }
 
-    bool BiValue(int cell) const { return b.CandidatesOf(cell).Count() == 2; }
+    bool BiValue(int cell) const { return biValues.Has(cell); }
     bool Linked(int cell, int d) const {
         return BiValue(cell) || partner[0][d][cell] >= 0 || partner[1][d][cell] >= 0 ||
                partner[2][d][cell] >= 0;
@@ -156,6 +159,7 @@ struct MedusaSearch {
         // Rule 4: an uncoloured candidate that sees the digit in both colours.
         for (int k = 1; k <= 9; ++k) {
             const CellSet uncoloured = holders[k] - plus[k] - minus[k];
+            if (uncoloured.Empty()) continue;
             for (int x : plus[k])
                 for (int y : minus[k]) {
                     const CellSet victims = PeerSet(x) & PeerSet(y) & uncoloured;
@@ -175,34 +179,28 @@ struct MedusaSearch {
             if (!signs) continue;
             for (int k : b.CandidatesOf(cell)) {
                 if (colour[cell][k]) continue;
-                for (int e : PeerSet(cell) & holders[k]) {
-                    const int c = colour[e][k];
-                    if (!c || !(signs & (c > 0 ? 2 : 1))) continue;
-                    VerwijderKnop(ctx, k, cell);
-                    FillHint(5, start, d, k, Code(e, k), Code(cell, k));
-                    return true;
-                }
+                // A + peer needs a - candidate in the cell, a - peer a + one.
+                CellSet opposite;
+                if (signs & 2) opposite |= plus[k];
+                if (signs & 1) opposite |= minus[k];
+                const CellSet sees = PeerSet(cell) & opposite;
+                if (sees.Empty()) continue;
+                const int e = sees.First();
+                VerwijderKnop(ctx, k, cell);
+                FillHint(5, start, d, k, Code(e, k), Code(cell, k));
+                return true;
             }
         }
         // Rule 6: a bi-value cell whose two digits are seen in one colour.
-        for (int cell = 0; cell < 81; ++cell) {
-            if (!BiValue(cell)) continue;
+        for (int cell : biValues) {
             const int x = b.CandidatesOf(cell).First();
             const int y = (b.CandidatesOf(cell) - DigitSet::Of(x)).First();
             if (colour[cell][x] || colour[cell][y]) continue;
             for (int sign : {1, -1}) {
-                int ex = -1, ey = -1;
-                for (int e : PeerSet(cell) & holders[x])
-                    if (colour[e][x] == sign) {
-                        ex = e;
-                        break;
-                    }
-                for (int e : PeerSet(cell) & holders[y])
-                    if (colour[e][y] == sign) {
-                        ey = e;
-                        break;
-                    }
-                if (ex < 0 || ey < 0) continue;
+                const CellSet seenX = PeerSet(cell) & (sign > 0 ? plus : minus)[x];
+                const CellSet seenY = PeerSet(cell) & (sign > 0 ? plus : minus)[y];
+                if (seenX.Empty() || seenY.Empty()) continue;
+                const int ex = seenX.First(), ey = seenY.First();
                 RemoveColour(sign);
                 FillHint(6, start, d, x, Code(ex, x), Code(ey, y));
                 if (ctx.HintOnly()) ctx.hint.HintValueCount = Code(cell, x);

@@ -77,6 +77,12 @@ bool Fish(SolveContext& ctx, int size, int kind, int level) {
                 }
             }
             if (n < size) continue;
+            // The pattern's own lines aside, some line must still hold the digit for
+            // anything to be removed.
+            int holding = 0;
+            for (int line = 0; line < 9; ++line)
+                holding += masks[line] != 0;
+            if (holding <= size) continue;
             // The sets of crossing lines that `size` of these lines can fill: only
             // those are counted, still in their lexical order.
             std::uint64_t wanted[8] = {};

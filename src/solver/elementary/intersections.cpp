@@ -5,6 +5,28 @@
 
 namespace tavi {
 
+namespace {
+
+// Where each digit stands in each row, column or box: bit i for the unit's cell i
+// (a box's cells in reading order). One pass over the board instead of a look at
+// every cell for every digit.
+struct Places {
+    std::uint16_t of[10][9] = {};
+    // kind 1 rows, 2 columns, 3 boxes.
+    Places(const Board& b, int kind) {
+        for (int c = 0; c < 81; ++c) {
+            const int unit = kind == 1 ? c / 9 : kind == 2 ? c % 9 : Global::BoxOfCell[c];
+            const int i = kind == 1 ? c % 9 : kind == 2 ? c / 9 : 3 * (c / 9 % 3) + c % 3;
+            for (CandidateMask m = b.Candidates[c]; m; m &= m - 1)
+                of[LowestDigit(m)][unit] |= std::uint16_t(1u << i);
+        }
+    }
+};
+
+int CountPlaces(unsigned places) { return CountDigits(CandidateMask(places)); }
+
+}  // namespace
+
 bool VerwijderPP(SolveContext& ctx, int digit, int leftTop, int segment) {
     bool removed = false;
     const int firstRow = leftTop / 9, firstColumn = leftTop % 9;
@@ -38,17 +60,18 @@ bool VerwijderBL(SolveContext& ctx, int digit, int line, int segment, int kind) 
 // in one segment (a total of one matches its row segment first), the rest of that
 // line loses it. A pattern that removes nothing is passed over.
 bool PointingPair(SolveContext& ctx) {
-    const Board& b = ctx.board;
+    const Places boxes(ctx.board, 3);
     for (int digit = 1; digit <= 9; ++digit) {
         for (int box = 0; box < 9; ++box) {
-            int count[6] = {}, total = 0;
-            for (int p = 0; p < 9; ++p) {
-                if (!b.Has(digit, Global::CellOfBoxPosition[box][p])) continue;
-                ++total;
-                ++count[p / 3];
-                ++count[3 + p % 3];
-            }
+            const unsigned places = boxes.of[digit][box];
+            const int total = CountPlaces(places);
             if (total < 1 || total > 3) continue;
+            // Segments 0..2 the box's rows, 3..5 its columns.
+            int count[6];
+            for (int k = 0; k < 3; ++k) {
+                count[k] = CountPlaces(places & (7u << (3 * k)));
+                count[3 + k] = CountPlaces(places & (0x49u << k));
+            }
             const int leftTop = Global::BoxLeftTop[box];
             for (int segment = 0; segment < 6; ++segment) {
                 if (count[segment] != total || !VerwijderPP(ctx, digit, leftTop, segment)) continue;
@@ -70,21 +93,16 @@ bool PointingPair(SolveContext& ctx) {
 // All rows for all digits, then all columns: where a digit of a line lies in one
 // segment, the other six cells of that box lose it.
 bool BoxLine(SolveContext& ctx) {
-    const Board& b = ctx.board;
     for (int kind = 1; kind <= 2; ++kind) {
+        const Places lines(ctx.board, kind);
         for (int digit = 1; digit <= 9; ++digit) {
             for (int line = 0; line < 9; ++line) {
-                int count[3] = {}, total = 0;
-                for (int i = 0; i < 9; ++i) {
-                    const int c = kind == 1 ? 9 * line + i : 9 * i + line;
-                    if (b.Has(digit, c)) {
-                        ++total;
-                        ++count[i / 3];
-                    }
-                }
+                const unsigned places = lines.of[digit][line];
+                const int total = CountPlaces(places);
                 if (total < 1 || total > 3) continue;
                 for (int segment = 0; segment < 3; ++segment) {
-                    if (count[segment] != total || !VerwijderBL(ctx, digit, line, segment, kind))
+                    if (CountPlaces(places & (7u << (3 * segment))) != total ||
+                        !VerwijderBL(ctx, digit, line, segment, kind))
                         continue;
                     if (ctx.HintOnly()) {
                         const int cell = kind == 1 ? 9 * line + 3 * segment : 27 * segment + line;

@@ -103,6 +103,23 @@ int SeenCells(const int* units, int count, CellSet skip, int (&out)[27]) {
     return n;
 }
 
+// True if striking every pair of digits within each of `masks` leaves a digit of
+// cell a or cell c without a partner in the other, which is what RemoveUnpartnered
+// would then find.
+bool LeavesUnpartnered(CandidateMask a, CandidateMask c, const CandidateMask* masks, int n) {
+    CandidateMask struck[10] = {};  // per digit, the partners some mask takes from it
+    for (int k = 0; k < n; ++k)
+        for (CandidateMask m = masks[k]; m; m &= m - 1) {
+            const int x = LowestDigit(m);
+            struck[x] |= CandidateMask(masks[k] & ~DigitBit(x));
+        }
+    for (int x : DigitSet(a))
+        if (!(c & ~DigitBit(x) & ~struck[x])) return true;
+    for (int y : DigitSet(c))
+        if (!(a & ~DigitBit(y) & ~struck[y])) return true;
+    return false;
+}
+
 // ---------------------------------------------------------------- triples
 
 // Every way three cells can hold three different digits, with its digits as a mask.
@@ -244,9 +261,18 @@ bool APE(SolveContext& ctx) {
             if (!Open(b, c) || !SeesCell(a, c)) continue;
             // Without a bi-value cell that both see nothing is struck, and only a
             // cell of one digit could leave the other without a partner.
-            if (!(PeerSet(a) & PeerSet(c)).Intersects(biValue) &&
-                CountDigits(b.Candidates[a]) > 1 && CountDigits(b.Candidates[c]) > 1)
+            const CellSet striking = PeerSet(a) & PeerSet(c) & biValue;
+            if (striking.Empty() && CountDigits(b.Candidates[a]) > 1 &&
+                CountDigits(b.Candidates[c]) > 1)
                 continue;
+            // The pair is worked out in full only if it can remove something.
+            {
+                CandidateMask masks[20];
+                int m = 0;
+                for (int x : striking)
+                    masks[m++] = b.Candidates[x];
+                if (!LeavesUnpartnered(b.Candidates[a], b.Candidates[c], masks, m)) continue;
+            }
             const bool sameRow = a / 9 == c / 9, sameColumn = a % 9 == c % 9;
             const bool sameBox = Global::BoxOfCell[a] == Global::BoxOfCell[c];
             int units[3], k = 0;
@@ -302,6 +328,31 @@ bool ExtendedAPE(SolveContext& ctx) {
                         const int boxUnit = 18 + Global::BoxOfCell[a];
                         CellSet skip = CellSet::Of(a);
                         skip.Add(c);
+                        // The pair is worked out in full only if it can remove
+                        // something: the masks below are the ones struck there.
+                        {
+                            CandidateMask masks[20 + 2 * 36];
+                            int k = 0;
+                            const CellSet around = (UnitSet(lineUnit) | UnitSet(boxUnit)) - skip;
+                            for (int x : around)
+                                if (CountDigits(b.Candidates[x]) == 2) masks[k++] = b.Candidates[x];
+                            for (int unit : {lineUnit, boxUnit}) {
+                                CandidateMask small[9];
+                                int m = 0;
+                                for (int x : UnitCells[unit]) {
+                                    const int count = CountDigits(b.Candidates[x]);
+                                    if (!skip.Has(x) && !b.CurrentGrid[x] &&
+                                        (count == 2 || count == 3))
+                                        small[m++] = b.Candidates[x];
+                                }
+                                for (int i = 0; i < m; ++i)
+                                    for (int j = i + 1; j < m; ++j)
+                                        if (CountDigits(CandidateMask(small[i] | small[j])) == 3)
+                                            masks[k++] = CandidateMask(small[i] | small[j]);
+                            }
+                            if (!LeavesUnpartnered(b.Candidates[a], b.Candidates[c], masks, k))
+                                continue;
+                        }
                         PairTable t(b, a, c);
                         Reducers r;
                         int seen[27];
