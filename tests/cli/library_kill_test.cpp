@@ -218,8 +218,12 @@ TEST(KillTest, ExportLosesNoOutlawRecord) {
         for (int j = 0; j < kCount; ++j)
             (j < m ? moved : kept).push_back(Bytes(RecordOf(j)));
         if (out == m + 1) moved.push_back(Bytes(RecordOf(int(m))));
-        if (left) ASSERT_EQ(FileBytes(PuzzleFile(dir.path(), outlaw)), Concat(kept));
-        if (out) ASSERT_EQ(FileBytes(PuzzleFile(dir.path(), kExportedStem)), Concat(moved));
+        if (left) {
+            ASSERT_EQ(FileBytes(PuzzleFile(dir.path(), outlaw)), Concat(kept));
+        }
+        if (out) {
+            ASSERT_EQ(FileBytes(PuzzleFile(dir.path(), kExportedStem)), Concat(moved));
+        }
     };
     KillRuns(reset, writer, check, dir.path(), outlaw, 6000);
 }

@@ -144,7 +144,9 @@ TEST_F(Faults, ScanWithPencilMarksOffPlacesOnlyRightDigits) {
     g.CommandScan();
     ASSERT_EQ(g.position().OpenRecord, 3);
     for (int c = 0; c < 81; ++c)
-        if (g.board().CurrentGrid[c]) EXPECT_EQ(g.board().CurrentGrid[c], g.board().Solution[c]);
+        if (g.board().CurrentGrid[c]) {
+            EXPECT_EQ(g.board().CurrentGrid[c], g.board().Solution[c]);
+        }
 }
 
 }  // namespace

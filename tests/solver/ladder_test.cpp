@@ -143,7 +143,9 @@ TEST(WorkbenchLadder, EndsOnAPuzzleWithTwoSolutions) {
             EXPECT_FALSE(HasDigit(seen, d)) << "unit " << u << " holds " << d << " twice";
             seen |= DigitBit(d);
         }
-        if (solved) EXPECT_EQ(seen, kAllCandidates);
+        if (solved) {
+            EXPECT_EQ(seen, kAllCandidates);
+        }
     }
 }
 

@@ -174,10 +174,11 @@ TEST(Soundness, EveryRungOnItsOwnKeepsTheSolution) {
     // never leave; its cases are built by hand in the rung cases.
     for (size_t r = 0; r < rungs.size(); ++r) {
         const int n = rungs[r].number;
-        if (n < kFirstOrderedTechnique)
+        if (n < kFirstOrderedTechnique) {
             EXPECT_GT(hits[r], 0) << rungs[r].Name();
-        else if (n != 35 && n != kBifurcationTechnique)
+        } else if (n != 35 && n != kBifurcationTechnique) {
             EXPECT_GE(hits[r], 20) << rungs[r].Name();
+        }
     }
 }
 

@@ -122,14 +122,14 @@ bool Fish(SolveContext& ctx, int size, int kind, int level) {
                     // The square of the pattern, row by row on the board.
                     const int rowSet = rows ? lineSet : crossSet;
                     const int columnSet = rows ? crossSet : lineSet;
-                    int n = 0;
+                    int corner = 0;
                     for (int r = 0; r < 9; ++r)
                         for (int c = 0; c < 9; ++c)
                             if ((rowSet >> r & 1) && (columnSet >> c & 1))
-                                ctx.hint.HintCells[++n] = 9 * r + c;
+                                ctx.hint.HintCells[++corner] = 9 * r + c;
                     ctx.hint.HintNumber = digit;
                     ctx.hint.HintVariant = pass;
-                    ctx.hint.HintCellCount = n;
+                    ctx.hint.HintCellCount = corner;
                     ctx.hint.HintKind = kind;
                 } else {
                     ctx.RaiseLevel(level);
