@@ -209,6 +209,18 @@ struct AlsSet {
     int count;
     CandidateMask mask;
     CellSet set;
+
+    // Appends the set that ForEachSet hands over to `list`.
+    static AlsSet& AddTo(std::vector<AlsSet>& list, const int* set, int n, CandidateMask mask) {
+        AlsSet& a = list.emplace_back();
+        a.count = n;
+        a.mask = mask;
+        for (int k = 0; k < n; ++k) {
+            a.cells[k] = set[k];
+            a.set.Add(set[k]);
+        }
+        return a;
+    }
 };
 
 // The almost locked sets that hold cell j in one of its units, taken from all the
@@ -236,13 +248,7 @@ class SecondSets {
         for (int c : UnitCells[unit])
             if (c != j && digits_[c] != 0) pool[poolSize++] = c;
         ForEachSet(ctx, pool, poolSize, digits_, [&](const int* set, int n, CandidateMask mask) {
-            AlsSet& a = list.emplace_back();
-            a.count = n;
-            a.mask = mask;
-            for (int k = 0; k < n; ++k) {
-                a.cells[k] = set[k];
-                a.set.Add(set[k]);
-            }
+            AlsSet::AddTo(list, set, n, mask);
             return false;
         });
         return list;
@@ -386,13 +392,7 @@ bool ALSxz_2(SolveContext& ctx, const Holders& all, AlsPairHit& out) {
                     if (c != i && digits[c] != 0) pool[poolSize++] = c;
                 const bool hit = ForEachSet(
                     ctx, pool, poolSize, digits, [&](const int* set, int n, CandidateMask mask) {
-                        AlsSet& f = list.emplace_back();
-                        f.count = n;
-                        f.mask = mask;
-                        for (int k = 0; k < n; ++k) {
-                            f.cells[k] = set[k];
-                            f.set.Add(set[k]);
-                        }
+                        const AlsSet& f = AlsSet::AddTo(list, set, n, mask);
                         if ((f.set & all.of[x]).First() != i) return false;
                         return ALSxz_3(ctx, all, f.cells, n, f.set, x, i, mask, kind, seconds, out);
                     });
