@@ -24,8 +24,8 @@ inline std::vector<Digits> ReadPuzzleFile(const std::string& name, size_t limit 
     return out;
 }
 
-inline std::vector<GeneratedPuzzle> Generated(int count, std::uint64_t seed = 99) {
-    PuzzleGenerator g(seed);
+inline std::vector<GeneratedPuzzle> Generated(int count, std::uint64_t start = 99) {
+    PuzzleGenerator g(start);
     std::vector<GeneratedPuzzle> out;
     for (int i = 0; i < count; ++i)
         out.push_back(g.Next());

@@ -142,6 +142,14 @@ std::optional<int> Threads(const std::optional<std::string>& text) {
     return text ? ParseThreads(*text) : std::optional<int>(AllCores());
 }
 
+// --start S: where the random numbers of the generator begin, 1 when not given.
+constexpr const char* kStartProblem = "--start needs a whole number of at least 0";
+std::optional<std::uint64_t> StartValue(const Arguments& a) {
+    if (!a.Get("start")) return 1;
+    const auto n = Number(a.Get("start"), 0);
+    return n ? std::optional<std::uint64_t>(std::uint64_t(*n)) : std::nullopt;
+}
+
 int Problem(std::ostream& err, const std::string& text) {
     err << "tavi-sudoku-cli: " << text << '\n';
     return kUsageError;
@@ -149,9 +157,9 @@ int Problem(std::ostream& err, const std::string& text) {
 
 }  // namespace
 
-int Generate(long count, std::uint64_t seed, std::ostream& out, int threads) {
+int Generate(long count, std::uint64_t start, std::ostream& out, int threads) {
     RunInOrder<GeneratedPuzzle>(
-        count, threads, GenerationBatch(threads), [seed] { return NumberedGenerator(seed); },
+        count, threads, GenerationBatch(threads), [start] { return NumberedGenerator(start); },
         [&](long, const GeneratedPuzzle& g) {
             out << FormatDigits(g.puzzle) << '\n';
             return true;
@@ -173,7 +181,7 @@ int BuildLibrary(const BuildOptions& options, std::ostream& out, std::ostream& e
     // same for any number of threads; only the time limit can cut it short.
     const long made = RunInOrder<RatedPuzzle>(
         -1, options.threads, GenerationBatch(options.threads),
-        [&] { return RatingGenerator(options.seed); },
+        [&] { return RatingGenerator(options.start); },
         [&](long, const RatedPuzzle& r) {
             auto& level = levels[r.level];
             if (long(level.size()) < options.perLevel) {
@@ -263,37 +271,37 @@ int ImportLibrary(std::istream& in, int level, const fs::path& dir, std::ostream
 }
 
 int GenerateCommand(const std::vector<std::string>& args, std::ostream& out, std::ostream& err) {
-    const Arguments a = Parse(args, 1, {"count", "seed", "threads"});
+    const Arguments a = Parse(args, 1, {"count", "start", "threads"});
     if (!a.problem.empty()) return Problem(err, a.problem);
     if (!a.positional.empty()) return Problem(err, "generate takes no file");
     const auto count = Number(a.Get("count"), 0);
-    const auto seed = a.Get("seed") ? Number(a.Get("seed"), 0) : std::optional<long long>(1);
+    const auto start = StartValue(a);
     if (!count) return Problem(err, "generate needs --count N, N at least 0");
-    if (!seed) return Problem(err, "--seed needs a whole number of at least 0");
+    if (!start) return Problem(err, kStartProblem);
     const auto threads = Threads(a.Get("threads"));
     if (!threads) return Problem(err, kThreadsProblem);
-    return Generate(long(*count), std::uint64_t(*seed), out, *threads);
+    return Generate(long(*count), *start, out, *threads);
 }
 
 int LibraryCommand(const std::vector<std::string>& args, std::ostream& out, std::ostream& err) {
     const std::string action = args.size() > 1 ? args[1] : "";
     if (action == "build") {
-        const Arguments a = Parse(args, 2, {"out", "per-level", "seed", "minutes", "threads"});
+        const Arguments a = Parse(args, 2, {"out", "per-level", "start", "minutes", "threads"});
         if (!a.problem.empty()) return Problem(err, a.problem);
         BuildOptions options;
         const auto perLevel = Number(a.Get("per-level"), 1);
-        const auto seed = a.Get("seed") ? Number(a.Get("seed"), 0) : std::optional<long long>(1);
+        const auto start = StartValue(a);
         const auto minutes = a.Get("minutes") ? Minutes(a.Get("minutes")) : options.minutes;
         if (!a.Get("out") || !perLevel || !a.positional.empty())
             return Problem(err, "library build needs --out DIR and --per-level N");
-        if (!seed) return Problem(err, "--seed needs a whole number of at least 0");
+        if (!start) return Problem(err, kStartProblem);
         if (!minutes) return Problem(err, "--minutes needs a number above 0");
         const auto threads = Threads(a.Get("threads"));
         if (!threads) return Problem(err, kThreadsProblem);
         options.threads = *threads;
         options.out = *a.Get("out");
         options.perLevel = long(*perLevel);
-        options.seed = std::uint64_t(*seed);
+        options.start = *start;
         options.minutes = *minutes;
         return BuildLibrary(options, out, err);
     }

@@ -13,16 +13,16 @@
 
 namespace tavi::cli {
 
-// `count` minimal puzzles with one solution each, one per line; the same seed
-// gives the same puzzles, whatever the number of threads.
-int Generate(long count, std::uint64_t seed, std::ostream& out, int threads = 1);
+// `count` minimal puzzles with one solution each, one per line; the same start
+// value gives the same puzzles, whatever the number of threads.
+int Generate(long count, std::uint64_t start, std::ostream& out, int threads = 1);
 
 struct BuildOptions {
     std::filesystem::path out;
     long perLevel = 0;
-    std::uint64_t seed = 1;
-    double minutes = 10;  // stop after this long even when levels are short
-    int threads = 1;      // the same library whatever the number, time allowing
+    std::uint64_t start = 1;  // of the random numbers
+    double minutes = 10;      // stop after this long even when levels are short
+    int threads = 1;          // the same library whatever the number, time allowing
 };
 // Generates and rates puzzles until every level has `perLevel` of them or the
 // time is up, then writes the nine `.sds` files (best time 0) and reports the

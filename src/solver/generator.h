@@ -1,6 +1,6 @@
 // Making puzzles: a random solved grid, then clues taken away in random order for
 // as long as the solution stays unique. Every clue left is needed, so the puzzle
-// is minimal. The same seed always gives the same puzzles.
+// is minimal. The same start value always gives the same puzzles.
 #pragma once
 
 #include <cstdint>
@@ -17,7 +17,7 @@ struct GeneratedPuzzle {
 
 class PuzzleGenerator {
   public:
-    explicit PuzzleGenerator(std::uint64_t seed) : rng_(seed) {}
+    explicit PuzzleGenerator(std::uint64_t start) : rng_(start) {}
 
     Digits RandomSolvedGrid();
     // A minimal puzzle with exactly one solution.

@@ -30,9 +30,10 @@ Output RunCommand(int (*command)(const std::vector<std::string>&, std::ostream&,
 
 using tavi::testing::Lines;
 
-TEST(CliGenerate, TheSameSeedGivesTheSameMinimalUniquePuzzles) {
-    const Output a = RunCommand(GenerateCommand, {"generate", "--count", "4", "--seed", "99"});
-    const Output other = RunCommand(GenerateCommand, {"generate", "--count", "4", "--seed", "100"});
+TEST(CliGenerate, TheSameStartValueGivesTheSameMinimalUniquePuzzles) {
+    const Output a = RunCommand(GenerateCommand, {"generate", "--count", "4", "--start", "99"});
+    const Output other =
+        RunCommand(GenerateCommand, {"generate", "--count", "4", "--start", "100"});
     EXPECT_EQ(a.status, 0);
     EXPECT_NE(a.out, other.out);
     const auto lines = Lines(a.out);

@@ -69,18 +69,18 @@ inline SudokuRecord RecordOf(int i) {
 }
 
 // A log record with every field set to something of its own.
-inline SudokuLogRecord BusyLog(int seed) {
+inline SudokuLogRecord BusyLog(int variant) {
     SudokuLogRecord l;
     for (int c = 0; c < 81; ++c) {
-        l.Grid[c] = std::uint8_t((c + seed) % 10);
-        l.SavedCandidates[c] = std::int16_t(((c * 7 + seed) % 512) * 2);
+        l.Grid[c] = std::uint8_t((c + variant) % 10);
+        l.SavedCandidates[c] = std::int16_t(((c * 7 + variant) % 512) * 2);
     }
-    l.ElapsedMinutes = std::int16_t(-3 - seed);
+    l.ElapsedMinutes = std::int16_t(-3 - variant);
     l.ElapsedSeconds = -20;
-    l.StepCount = std::int16_t(1 + seed % 100);
+    l.StepCount = std::int16_t(1 + variant % 100);
     for (int i = 0; i < kLogSteps; ++i) {
         l.LogDigit[i] = std::int16_t(i % 2 ? -(i % 9 + 1) : i % 20);
-        l.LogCell[i] = std::int16_t((i + seed) % 81);
+        l.LogCell[i] = std::int16_t((i + variant) % 81);
         l.LogOwnMarks[i] = std::int16_t(i * 3 % 512);
         l.LogColumnMarks[i] = std::int16_t(i * 5 % 512);
         l.LogRowMarks[i] = std::int16_t(i * 11 % 512);

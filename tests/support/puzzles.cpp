@@ -10,11 +10,11 @@
 
 namespace tavi::testing {
 
-const std::vector<GeneratedPuzzle>& GeneratedPuzzles(int count, std::uint64_t seed) {
+const std::vector<GeneratedPuzzle>& GeneratedPuzzles(int count, std::uint64_t start) {
     static std::map<std::pair<int, std::uint64_t>, std::vector<GeneratedPuzzle>> made;
-    auto& list = made[{count, seed}];
+    auto& list = made[{count, start}];
     if (list.empty()) {
-        PuzzleGenerator generator(seed);
+        PuzzleGenerator generator(start);
         list.reserve(count);
         for (int i = 0; i < count; ++i)
             list.push_back(generator.Next());

@@ -1,4 +1,4 @@
-// Puzzles for the tests, made by the project's own seeded generator, and small
+// Puzzles for the tests, made by the project's own generator from fixed start values, and small
 // helpers to build boards from text.
 #pragma once
 
@@ -12,9 +12,9 @@
 
 namespace tavi::testing {
 
-// `count` minimal puzzles with a unique solution, the same for the same seed.
+// `count` minimal puzzles with a unique solution, the same for the same start value.
 // Made once per process and kept.
-const std::vector<GeneratedPuzzle>& GeneratedPuzzles(int count, std::uint64_t seed = 20261121);
+const std::vector<GeneratedPuzzle>& GeneratedPuzzles(int count, std::uint64_t start = 20261121);
 
 // Digits from 81 characters ('.' or '0' empty); fails the test on a bad string.
 Digits DigitsOf(std::string_view text);
