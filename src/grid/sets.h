@@ -61,9 +61,11 @@ class DigitSet {
 class CellSet {
   public:
     constexpr CellSet() = default;
-    static constexpr CellSet Of(int cell) {
+    // The set of the cells given.
+    template <typename... Cells>
+    static constexpr CellSet Of(Cells... cells) {
         CellSet s;
-        s.Add(cell);
+        (s.Add(cells), ...);
         return s;
     }
     // Cells 0..63 from the bits of `low`, 64..80 from those of `high`.

@@ -279,8 +279,7 @@ bool APE(SolveContext& ctx) {
             if (sameRow) units[k++] = a / 9;
             if (sameColumn) units[k++] = 9 + a % 9;
             if (sameBox) units[k++] = 18 + Global::BoxOfCell[a];
-            CellSet skip = CellSet::Of(a);
-            skip.Add(c);
+            const CellSet skip = CellSet::Of(a, c);
             int seen[27];
             const int n = SeenCells(units, k, skip, seen);
             PairTable t(b, a, c);
@@ -326,8 +325,7 @@ bool ExtendedAPE(SolveContext& ctx) {
                         if (!Open(b, a) || !Open(b, c)) continue;
                         const int lineUnit = pass == 0 ? line : 9 + line;
                         const int boxUnit = 18 + Global::BoxOfCell[a];
-                        CellSet skip = CellSet::Of(a);
-                        skip.Add(c);
+                        const CellSet skip = CellSet::Of(a, c);
                         // The pair is worked out in full only if it can remove
                         // something: the masks below are the ones struck there.
                         {

@@ -73,38 +73,27 @@ void FillWingHint(HintRecord& h, int kind, int digit, std::initializer_list<int>
 
 bool VerwijderXYWing(SolveContext& ctx, int /*checkType*/, int stem, int takVak1, int takVak2,
                      int digit) {
-    CellSet keep = CellSet::Of(takVak1);
-    keep.Add(takVak2);
+    const CellSet ends = CellSet::Of(takVak1, takVak2);
+    CellSet keep = ends;
     if (stem >= 0 && stem < 81) keep.Add(stem);
-    CellSet ends = CellSet::Of(takVak1);
-    ends.Add(takVak2);
     return RemoveSeenByAll(ctx, ends, keep, digit);
 }
 
 bool VerwijderXYZWing(SolveContext& ctx, int stem, int takVak1, int takVak2, int digit) {
-    CellSet all = CellSet::Of(stem);
-    all.Add(takVak1);
-    all.Add(takVak2);
+    const CellSet all = CellSet::Of(stem, takVak1, takVak2);
     return RemoveSeenByAll(ctx, all, all, digit);
 }
 
 bool VerwijderWXYZWing(SolveContext& ctx, int stem, int takVak1, int takVak2, int takVak3,
                        int digit) {
-    CellSet all = CellSet::Of(stem);
-    all.Add(takVak1);
-    all.Add(takVak2);
-    all.Add(takVak3);
+    const CellSet all = CellSet::Of(stem, takVak1, takVak2, takVak3);
     return RemoveSeenByAll(ctx, all, all, digit);
 }
 
 bool VerwijderWXYZWing2(SolveContext& ctx, int stem, int takVak1, int takVak2, int takVak3,
                         int digit) {
-    CellSet branches = CellSet::Of(takVak1);
-    branches.Add(takVak2);
-    branches.Add(takVak3);
-    CellSet keep = branches;
-    keep.Add(stem);
-    return RemoveSeenByAll(ctx, branches, keep, digit);
+    const CellSet branches = CellSet::Of(takVak1, takVak2, takVak3);
+    return RemoveSeenByAll(ctx, branches, branches | CellSet::Of(stem), digit);
 }
 
 // Stem {x, y}, branches {x, z} and {y, z}: z leaves every cell both branches see.
