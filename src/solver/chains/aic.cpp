@@ -29,12 +29,14 @@ bool SameCellUnit(int a, int b) {
     return RowUnit(a) == RowUnit(b) || ColumnUnit(a) == ColumnUnit(b) || BoxUnit(a) == BoxUnit(b);
 }
 
-// The dead ends met so far, for the one start node being walked. Below a position
-// the walk depends on nothing but the position, its last node, the in-chain flags,
-// the start and whether the loop behind already holds a weak link that makes a
-// closed loop count; a branch walked once without a hit is walked the same way
-// the next time it is met, and its only trace is the number of times it ran into
-// the limit. So that number is kept, and the branch is not walked again.
+// Branches walked without a hit. Below a position the walk depends on nothing but
+// the position, its last node, the in-chain flags, the start and whether the loop
+// behind already holds a weak link that makes a closed loop count; a branch walked
+// once without a hit is walked the same way the next time it is met, and its only
+// trace is the number of times it ran into the limit. So that number is kept, and
+// the branch is not walked again. One table holds the dead ends of the start node
+// being walked; another, for the whole call, the branches where no node can close
+// any chain of that start, whose walk does not depend on the start at all.
 class DeadEnds {
   public:
     // The in-chain flags of cells 0..63 in `low`; those of cells 64..80 in the low
@@ -44,9 +46,9 @@ class DeadEnds {
     };
     static constexpr int kNodeShift = 17;
 
-    // A new start node: everything kept so far is forgotten. Only the slots used
-    // are wiped, so a start that keeps little costs little.
-    void NewStart() {
+    // Everything kept so far is forgotten. Only the slots used are wiped, so that
+    // a walk that keeps little costs little.
+    void Clear() {
         for (std::uint32_t i : used_)
             table_.get()[i] = Entry{};
         used_.clear();
@@ -123,17 +125,21 @@ struct AicSearch {
     // The walk.
     std::array<int, 83> cells{}, chainDigits{};
     int runDigit = 0;
-    // Per position: whether a weak link behind it makes a closed loop count.
-    std::array<bool, 83> loopFlag{};
     long freshCount = 0;
     DeadEnds& deadEnds;
+    DeadEnds& leafCounts;
     CellSet inChain;
     CellSet seesStartCell;
     std::array<DigitSet, 81> seesStartNode{};
     std::array<CellSet, 10> seesStartReach{};  // per digit: the cells that see a node of it
+    // Per digit, and for any digit: the cells where a node may close the chain of
+    // the present start.
+    std::array<CellSet, 10> closersOf{};
+    CellSet closers;
+    CellSet twoNodeCells;  // where a link inside the cell may follow the link into it
 
-    AicSearch(SolveContext& c, int limit, DeadEnds& dead)
-        : ctx(c), chainLimit(limit), deadEnds(dead) {
+    AicSearch(SolveContext& c, int limit, DeadEnds& dead, DeadEnds& leaves)
+        : ctx(c), chainLimit(limit), deadEnds(dead), leafCounts(leaves) {
         const Board& b = ctx.board;
         for (int cell = 0; cell < 81; ++cell) {
             digits[cell] = b.CandidatesOf(cell);
@@ -165,6 +171,9 @@ struct AicSearch {
                 anyLink[cell] |= linkPeers[d][cell];
             }
         }
+        twoNodeCells = biValue;
+        for (int cell : multiValue)
+            if (strongDigits[cell].Count() >= 2) twoNodeCells.Add(cell);
     }
 
     bool MultiStrong(int cell, int d) const {
@@ -189,12 +198,21 @@ struct AicSearch {
                 seesStartReach[k] |= PeerSet(start);
         }
         const int row = RowUnit(start);
-        if (links[d].conjugate >> row & 1) return;
-        for (int i : RowSet(row) & holders[d]) {
-            if (i == start) continue;
-            seesStartCell.Add(i);
-            seesStartNode[i].Add(d);
-            seesStartReach[d] |= PeerSet(i);
+        if (!(links[d].conjugate >> row & 1)) {
+            for (int i : RowSet(row) & holders[d]) {
+                if (i == start) continue;
+                seesStartCell.Add(i);
+                seesStartNode[i].Add(d);
+                seesStartReach[d] |= PeerSet(i);
+            }
+        }
+        // A close needs the start's digit at a cell that sees the start, or a node
+        // that sees one of the start's other nodes.
+        closers = CellSet();
+        for (int k = 1; k <= 9; ++k) {
+            closersOf[k] = holders[k] & seesStartReach[k];
+            if (k == d) closersOf[k] |= holders[d] & PeerSet(start);
+            closers |= closersOf[k];
         }
     }
 
@@ -204,8 +222,21 @@ struct AicSearch {
         return a == b ? multiValue.Has(a) : SharesUnitIn(a, b, links[chainDigits[i]].weak);
     }
 
-    DeadEnds::Key KeyAt(int p) const {
-        DeadEnds::Key k;
+    // Whether a weak link behind position p makes a closed loop count.
+    bool LoopBehind(int p) const {
+        for (int i = 1; i + 2 <= p; i += 2)
+            if (WeakPair(i)) return true;
+        return false;
+    }
+
+    // What is known of the walk below position p before it is walked.
+    struct Branch {
+        DeadEnds::Key key;
+        bool mayClose = true;  // false: no node below can close the chain of this start
+        bool barren = false;   // nothing below can close the chain or reach the limit
+    };
+
+    Branch Look(int p) const {
         // Below this position the walk asks for the flag of a cell only if a link
         // may lead there from a cell it can still reach (or for a cell that sees
         // the start's nodes, or for its own last cell). The cells it can reach are
@@ -213,8 +244,9 @@ struct AicSearch {
         // the flags of all other cells make no difference and are left out, so
         // that more branches are known as the same. A link to another cell is
         // taken at positions p up to the limit only, so the walk's last cell is
-        // never more than limit - p such links away from this one: the search
-        // stops there.
+        // never more than limit - p + 1 such links away from this one: the
+        // search stops there.
+        Branch b;
         const int q = cells[p - 1];
         CellSet reached = CellSet::Of(q), frontier = reached, asked;
         for (int steps = chainLimit - p; steps >= 0 && !frontier.Empty(); --steps) {
@@ -225,16 +257,29 @@ struct AicSearch {
             frontier = next - inChain - reached;
             reached |= frontier;
         }
-        asked |= seesStartCell;
+        b.mayClose = !(reached & closers).Empty();
+        if (!b.mayClose) {
+            // Each cell the chain enters below holds one node, or two when a link
+            // inside it may follow; the limit needs limit - p + 1 more nodes, this
+            // cell's second one included.
+            const CellSet others = reached - CellSet::Of(q);
+            const int needed = chainLimit - p + 1 - (inChain.Has(q) ? 0 : 1);
+            b.barren =
+                CountUpTo(others, needed) + CountUpTo(others & twoNodeCells, needed) < needed;
+        }
+        // A walk that cannot close reads neither the flags of the cells that see
+        // the start's nodes nor the loop behind it: its key leaves them out, and it
+        // holds for every start.
+        if (b.mayClose) asked |= seesStartCell;
         asked.Add(q);
         static_assert(sizeof(CellSet) == 2 * sizeof(std::uint64_t));
         const auto words = std::bit_cast<std::array<std::uint64_t, 2>>(inChain & asked);
-        k.low = words[0];
-        k.high =
-            words[1] |
-            std::uint64_t(p | cells[p - 1] << 7 | chainDigits[p - 1] << 14 | int(loopFlag[p]) << 18)
-                << DeadEnds::kNodeShift;
-        return k;
+        const bool loop = b.mayClose && LoopBehind(p);
+        b.key.low = words[0];
+        b.key.high =
+            words[1] | std::uint64_t(p | q << 7 | chainDigits[p - 1] << 14 | int(loop) << 18)
+                           << DeadEnds::kNodeShift;
+        return b;
     }
 
     // The closing tests at position p; a hit leaves its node at p.
@@ -294,8 +339,7 @@ struct AicSearch {
             cells[0] = c, chainDigits[0] = d;
             EnterFromOtherCell(c, 0);
             SetStart(c, d);
-            deadEnds.NewStart();
-            loopFlag[1] = false;
+            deadEnds.Clear();
             if (const int r = Walk(1); r != kNone) return r;
             inChain.Remove(c);
         }
@@ -308,24 +352,38 @@ struct AicSearch {
     // upward; the node left behind is taken out of the chain by the caller.
     int Walk(int p) {
         ctx.Yield();
-        const int d = runDigit;
+        // Most nodes cannot close the chain: the full test is kept for those that can.
+        const bool mayClose = closersOf[chainDigits[p - 1]].Has(cells[p - 1]);
         if (p > chainLimit) {
             if (++limitCounter >= kCounterLimit) return -1;
-            if (const int r = Close(p, d); r != kNone) return Hit(r, p, d);
+            if (mayClose)
+                if (const int r = Close(p, runDigit); r != kNone) return Hit(r, p, runDigit);
             return kNone;
         }
-        if (const int r = Close(p, d); r != kNone) return Hit(r, p, d);
-        if (p >= 2) loopFlag[p] = loopFlag[p - 1] || (p % 2 == 1 && WeakPair(p - 2));
-        DeadEnds::Key key;
-        int countOnEntry = -1;  // -1: the branch is not kept
-        if (p % kKeptEvery == 0 && ++freshCount > kFreshBeforeKeeping) {
-            key = KeyAt(p);
-            if (const int count = deadEnds.Find(key); count >= 0) {
-                limitCounter += count;
-                return limitCounter >= kCounterLimit ? -1 : kNone;
-            }
-            countOnEntry = limitCounter;
+        if (mayClose)
+            if (const int r = Close(p, runDigit); r != kNone) return Hit(r, p, runDigit);
+        if (p % kKeptEvery == 0 && ++freshCount > kFreshBeforeKeeping) return WalkKept(p);
+        return WalkOn(p);
+    }
+
+    // The walk below a position where branches are kept. Out of line, so that the
+    // plain step of the walk stays small.
+    [[gnu::noinline]] int WalkKept(int p) {
+        const Branch b = Look(p);
+        if (b.barren) return kNone;
+        DeadEnds& kept = b.mayClose ? deadEnds : leafCounts;
+        if (const int count = kept.Find(b.key); count >= 0) {
+            limitCounter += count;
+            return limitCounter >= kCounterLimit ? -1 : kNone;
         }
+        const int countOnEntry = limitCounter;
+        const int r = WalkOn(p);
+        if (r == kNone) kept.Keep(b.key, limitCounter - countOnEntry);
+        return r;
+    }
+
+    // The links from the node at p - 1, the same-cell ones first.
+    [[gnu::always_inline]] int WalkOn(int p) {
         const int q = cells[p - 1], x = chainDigits[p - 1];
         if (!inChain.Has(q)) {
             for (int k : SameCellLinks(p)) {
@@ -342,7 +400,6 @@ struct AicSearch {
             if (const int r = Walk(p + 1); r != kNone) return r;
             inChain.Remove(c);
         }
-        if (countOnEntry >= 0) deadEnds.Keep(key, limitCounter - countOnEntry);
         return kNone;
     }
 
@@ -381,8 +438,9 @@ struct AicSearch {
 }  // namespace
 
 int AIC(SolveContext& ctx, int chainLimit, int newLevel) {
-    thread_local DeadEnds deadEnds;
-    auto search = std::make_unique<AicSearch>(ctx, chainLimit, deadEnds);
+    thread_local DeadEnds deadEnds, leafCounts;
+    leafCounts.Clear();
+    auto search = std::make_unique<AicSearch>(ctx, chainLimit, deadEnds, leafCounts);
     for (int d = 1; d <= 9; ++d) {
         const int r = search->Run(d);
         if (r < 0) return kNone;  // the counter ends the whole call
