@@ -2,6 +2,17 @@
 // and a digit, so that the digit may change inside a cell. Links alternate strong
 // and weak from the first node; at each position the links inside the cell are
 // tried before the links to other cells.
+//
+// Every walk that reaches the chain limit counts once, and a call ends with
+// nothing found when that count reaches 50,000, so a chain is found only if the
+// walk before it made fewer. A long walk is mostly spent where no chain can close:
+// once the walk is long, a close map of the start node tells, from the node's
+// digit, the parity of its position and whether the loop behind already counts,
+// whether any chain from there can close at all. Such a branch is counted as it
+// is met while counting has cost no more than the search; past that it is given
+// up uncounted, and the count it might have made is settled only if a chain is
+// found after it: then the walk is counted again from the first branch given up
+// to that chain. The count of a call that finds nothing never matters.
 #include <bit>
 #include <cstdlib>
 #include <memory>
@@ -18,12 +29,16 @@ namespace {
 
 constexpr int kNone = 0, kCycle = 1, kStrong = 2, kWeak = 3;
 constexpr int kCounterLimit = 50000;
-// Dead ends are kept at every fourth position only: each lookup costs about what a
+// Branches are kept at every fourth position only: each lookup costs about what a
 // few dozen steps of the walk do, and a branch met again is mostly met again at
 // several positions in a row. A short walk does not repay the bookkeeping at all;
-// dead ends are kept once the walk of a call has entered that many of those.
+// branches are kept once the walk of a call has entered that many of those, and
+// not so near the limit that the walk below is shorter than its lookup.
 constexpr int kKeptEvery = 4;
 constexpr long kFreshBeforeKeeping = 20000;
+constexpr int kKeptBeforeLimit = 3;
+// The close map is drawn once the walk of a call has taken that many steps.
+constexpr long kStepsBeforeCloseMap = 2000;
 
 bool SameCellUnit(int a, int b) {
     return RowUnit(a) == RowUnit(b) || ColumnUnit(a) == ColumnUnit(b) || BoxUnit(a) == BoxUnit(b);
@@ -35,8 +50,8 @@ bool SameCellUnit(int a, int b) {
 // once without a hit is walked the same way the next time it is met, and its only
 // trace is the number of times it ran into the limit. So that number is kept, and
 // the branch is not walked again. One table holds the dead ends of the start node
-// being walked; another, for the whole call, the branches where no node can close
-// any chain of that start, whose walk does not depend on the start at all.
+// being walked; another, for the whole call, the limit counts of branches walked
+// only to be counted, which do not depend on the start at all.
 class DeadEnds {
   public:
     // The in-chain flags of cells 0..63 in `low`; those of cells 64..80 in the low
@@ -125,10 +140,15 @@ struct AicSearch {
     // The walk.
     std::array<int, 83> cells{}, chainDigits{};
     int runDigit = 0;
+    CellSet inChain;
+    std::array<bool, 83> loopFlag{};  // per position: a weak link behind makes a closed loop count
+    long searchSteps = 0, countSteps = 0;
+    long uncounted = 0;  // branches given up uncounted so far
     long freshCount = 0;
     DeadEnds& deadEnds;
     DeadEnds& leafCounts;
-    CellSet inChain;
+    static constexpr int kPartly = 1 << 20;  // with a kept count: a part was given up uncounted
+
     CellSet seesStartCell;
     std::array<DigitSet, 81> seesStartNode{};
     std::array<CellSet, 10> seesStartReach{};  // per digit: the cells that see a node of it
@@ -137,6 +157,16 @@ struct AicSearch {
     std::array<CellSet, 10> closersOf{};
     CellSet closers;
     CellSet twoNodeCells;  // where a link inside the cell may follow the link into it
+
+    // The close map, drawn once the walk is long.
+    bool closeMapOn = false;
+    // Per digit and cell: the cells whose strong links go there, and those whose
+    // weak ones do.
+    std::array<std::array<CellSet, 81>, 10> strongFrom{}, weakFrom{};
+    std::array<DigitSet, 81> sameCellTo{};  // the digits a link inside the cell may go to
+    // [digit][position's parity][loop flag]: the cells where a node may still lead
+    // to a close of the present start.
+    std::array<std::array<std::array<CellSet, 2>, 2>, 10> closeMap{};
 
     AicSearch(SolveContext& c, int limit, DeadEnds& dead, DeadEnds& leaves)
         : ctx(c), chainLimit(limit), deadEnds(dead), leafCounts(leaves) {
@@ -174,11 +204,102 @@ struct AicSearch {
         twoNodeCells = biValue;
         for (int cell : multiValue)
             if (strongDigits[cell].Count() >= 2) twoNodeCells.Add(cell);
+        for (int cell : biValue)
+            sameCellTo[cell] = digits[cell];
+        for (int cell : multiValue)
+            sameCellTo[cell] = digits[cell] & strongDigits[cell];
     }
 
-    bool MultiStrong(int cell, int d) const {
-        return multiValue.Has(cell) && links[d].strong.Has(cell);
+    // The cells that share with `cell` a unit where the digit's link is weak.
+    CellSet WeakUnitMates(int cell, int d) const {
+        CellSet mates;
+        for (int u : {RowUnit(cell), ColumnUnit(cell), BoxUnit(cell)})
+            if (links[d].weak >> u & 1) mates |= UnitSet(u);
+        return mates;
     }
+
+    void StartCloseMap() {
+        closeMapOn = true;
+        for (int d = 1; d <= 9; ++d)
+            for (int c : holders[d]) {
+                for (int t : conjugatePeers[d][c])
+                    strongFrom[d][t].Add(c);
+                for (int t : linkPeers[d][c])
+                    weakFrom[d][t].Add(c);
+            }
+        FillCloseMap();
+    }
+
+    // The close map of the present start: from the nodes where the chain closes,
+    // back along the links. A node at an even position goes on with a strong link
+    // (or, in a bi-value cell, a link inside it); one at an odd position with a
+    // weak link, which turns the loop flag on when it stays inside a unit where
+    // the digit's link is weak, or with a link inside the cell, which turns it on
+    // in a cell of more than two candidates.
+    void FillCloseMap() {
+        const int start = cells[0], d = runDigit;
+        for (auto& byParity : closeMap)
+            for (auto& byLoop : byParity)
+                byLoop.fill(CellSet());
+        struct Node {
+            std::uint8_t cell, digit, parity, loop;
+        };
+        std::array<Node, 81 * 9 * 4> queue;
+        int head = 0, tail = 0;
+        const auto mark = [&](int c, int k, int parity, int loop) {
+            CellSet& at = closeMap[k][parity][loop];
+            if (at.Has(c)) return;
+            at.Add(c);
+            queue[tail++] = {std::uint8_t(c), std::uint8_t(k), std::uint8_t(parity),
+                             std::uint8_t(loop)};
+        };
+        // A strong close at an even position; a closed loop (with the loop flag, or
+        // when the last link is weak) and a weak close at an odd one.
+        for (int u : {RowUnit(start), ColumnUnit(start), BoxUnit(start)})
+            if (links[d].conjugate >> u & 1)
+                for (int c : holders[d] & UnitSet(u))
+                    if (c != start) mark(c, d, 0, 0), mark(c, d, 0, 1);
+        for (int c : holders[d] & PeerSet(start)) {
+            mark(c, d, 1, 1);
+            if (SharesUnitIn(c, start, links[d].weak)) mark(c, d, 1, 0);
+        }
+        for (int k = 1; k <= 9; ++k)
+            for (int c : holders[k] & seesStartReach[k])
+                mark(c, k, 1, 0), mark(c, k, 1, 1);
+        while (head < tail) {
+            const Node n = queue[head++];
+            const int t = n.cell, k = n.digit, loop = n.loop;
+            if (n.parity == 1) {
+                // Entered at an odd position: by a strong link, or inside a bi-value cell.
+                for (int c : strongFrom[k][t])
+                    mark(c, k, 0, loop);
+                if (biValue.Has(t))
+                    for (int k1 : digits[t] - DigitSet::Of(k))
+                        mark(t, k1, 0, loop);
+                continue;
+            }
+            // Entered at an even position: by a weak link, or inside the cell.
+            const CellSet weakMates = WeakUnitMates(t, k);
+            if (loop) {
+                for (int c : weakFrom[k][t])
+                    mark(c, k, 1, 1);
+                for (int c : weakFrom[k][t] & weakMates)
+                    mark(c, k, 1, 0);
+            } else {
+                for (int c : weakFrom[k][t] - weakMates)
+                    mark(c, k, 1, 0);
+            }
+            if (!sameCellTo[t].Has(k)) continue;
+            for (int k1 : digits[t] - DigitSet::Of(k)) {
+                if (multiValue.Has(t)) {
+                    if (loop) mark(t, k1, 1, 0), mark(t, k1, 1, 1);
+                } else {
+                    mark(t, k1, 1, loop);
+                }
+            }
+        }
+    }
+
     // The in-chain flag of a cell entered from another cell at position p.
     void EnterFromOtherCell(int cell, int p) {
         if (p % 2 == 0 && !biValue.Has(cell))
@@ -222,13 +343,6 @@ struct AicSearch {
         return a == b ? multiValue.Has(a) : SharesUnitIn(a, b, links[chainDigits[i]].weak);
     }
 
-    // Whether a weak link behind position p makes a closed loop count.
-    bool LoopBehind(int p) const {
-        for (int i = 1; i + 2 <= p; i += 2)
-            if (WeakPair(i)) return true;
-        return false;
-    }
-
     // What is known of the walk below position p before it is walked.
     struct Branch {
         DeadEnds::Key key;
@@ -236,7 +350,8 @@ struct AicSearch {
         bool barren = false;   // nothing below can close the chain or reach the limit
     };
 
-    Branch Look(int p) const {
+    // For a walk that only counts (`counting`), closing is not asked for.
+    Branch Look(int p, bool counting) const {
         // Below this position the walk asks for the flag of a cell only if a link
         // may lead there from a cell it can still reach (or for a cell that sees
         // the start's nodes, or for its own last cell). The cells it can reach are
@@ -257,7 +372,7 @@ struct AicSearch {
             frontier = next - inChain - reached;
             reached |= frontier;
         }
-        b.mayClose = !(reached & closers).Empty();
+        b.mayClose = !counting && !(reached & closers).Empty();
         if (!b.mayClose) {
             // Each cell the chain enters below holds one node, or two when a link
             // inside it may follow; the limit needs limit - p + 1 more nodes, this
@@ -274,7 +389,7 @@ struct AicSearch {
         asked.Add(q);
         static_assert(sizeof(CellSet) == 2 * sizeof(std::uint64_t));
         const auto words = std::bit_cast<std::array<std::uint64_t, 2>>(inChain & asked);
-        const bool loop = b.mayClose && LoopBehind(p);
+        const bool loop = b.mayClose && loopFlag[p];
         b.key.low = words[0];
         b.key.high =
             words[1] | std::uint64_t(p | q << 7 | chainDigits[p - 1] << 14 | int(loop) << 18)
@@ -339,11 +454,19 @@ struct AicSearch {
             cells[0] = c, chainDigits[0] = d;
             EnterFromOtherCell(c, 0);
             SetStart(c, d);
+            if (closeMapOn) FillCloseMap();
             deadEnds.Clear();
+            loopFlag[1] = false;
             if (const int r = Walk(1); r != kNone) return r;
             inChain.Remove(c);
         }
         return kNone;
+    }
+
+    // Whether branches are kept at position p.
+    bool Kept(int p) {
+        return p % kKeptEvery == 0 && chainLimit - p >= kKeptBeforeLimit &&
+               ++freshCount > kFreshBeforeKeeping;
     }
 
     // The walk below the node at p - 1, entered at position p: kNone when it is
@@ -352,33 +475,43 @@ struct AicSearch {
     // upward; the node left behind is taken out of the chain by the caller.
     int Walk(int p) {
         ctx.Yield();
+        ++searchSteps;
         // Most nodes cannot close the chain: the full test is kept for those that can.
         const bool mayClose = closersOf[chainDigits[p - 1]].Has(cells[p - 1]);
         if (p > chainLimit) {
             if (++limitCounter >= kCounterLimit) return -1;
             if (mayClose)
-                if (const int r = Close(p, runDigit); r != kNone) return Hit(r, p, runDigit);
+                if (const int r = Close(p, runDigit); r != kNone) return Found(r, p);
             return kNone;
         }
         if (mayClose)
-            if (const int r = Close(p, runDigit); r != kNone) return Hit(r, p, runDigit);
-        if (p % kKeptEvery == 0 && ++freshCount > kFreshBeforeKeeping) return WalkKept(p);
+            if (const int r = Close(p, runDigit); r != kNone) return Found(r, p);
+        if (p >= 2) loopFlag[p] = loopFlag[p - 1] || (p % 2 == 1 && WeakPair(p - 2));
+        if (!closeMapOn && searchSteps > kStepsBeforeCloseMap) StartCloseMap();
+        if (closeMapOn && !closeMap[chainDigits[p - 1]][(p - 1) % 2][loopFlag[p]].Has(cells[p - 1]))
+            return GiveUp(p);
+        if (Kept(p)) return WalkKept(p);
         return WalkOn(p);
     }
 
     // The walk below a position where branches are kept. Out of line, so that the
     // plain step of the walk stays small.
     [[gnu::noinline]] int WalkKept(int p) {
-        const Branch b = Look(p);
+        const Branch b = Look(p, false);
         if (b.barren) return kNone;
-        DeadEnds& kept = b.mayClose ? deadEnds : leafCounts;
-        if (const int count = kept.Find(b.key); count >= 0) {
-            limitCounter += count;
+        if (!b.mayClose) return GiveUp(p);
+        if (const int kept = deadEnds.Find(b.key); kept >= 0) {
+            // A branch with a part given up uncounted is known only so far.
+            if (kept & kPartly) Uncounted(p);
+            limitCounter += kept & ~kPartly;
             return limitCounter >= kCounterLimit ? -1 : kNone;
         }
         const int countOnEntry = limitCounter;
+        const long uncountedOnEntry = uncounted;
         const int r = WalkOn(p);
-        if (r == kNone) kept.Keep(b.key, limitCounter - countOnEntry);
+        if (r == kNone)
+            deadEnds.Keep(b.key, (limitCounter - countOnEntry) |
+                                     (uncounted != uncountedOnEntry ? kPartly : 0));
         return r;
     }
 
@@ -398,6 +531,164 @@ struct AicSearch {
             cells[p] = c, chainDigits[p] = x;
             EnterFromOtherCell(c, p);
             if (const int r = Walk(p + 1); r != kNone) return r;
+            inChain.Remove(c);
+        }
+        return kNone;
+    }
+
+    // A place in the walk: the start digit, a position, and the nodes before it.
+    struct Chain {
+        int digit = 0, close = 0;
+        std::array<int, 83> cells{}, digits{};
+    };
+    Chain found;  // the chain found, up to the node that closes it
+
+    // The first branch given up uncounted, and the count of the walk before it.
+    Chain givenUp;
+    int countBeforeGivenUp = 0;
+
+    // The walk below position p cannot close the chain: it is counted at once while
+    // counting has cost no more than the search, else given up uncounted.
+    int GiveUp(int p) {
+        if (countSteps <= searchSteps) return CountBelow(p);
+        Uncounted(p);
+        return kNone;
+    }
+
+    void Uncounted(int p) {
+        if (uncounted++ == 0) {
+            givenUp.digit = runDigit, givenUp.close = p;
+            givenUp.cells = cells, givenUp.digits = chainDigits;
+            countBeforeGivenUp = limitCounter;
+        }
+    }
+
+    int Found(int result, int p) {
+        found.digit = runDigit, found.close = p;
+        found.cells = cells, found.digits = chainDigits;
+        return result;
+    }
+
+    // The walk again from the first branch given up uncounted to the chain found,
+    // counting every limit hit: the found chain's result, or -1 when the counter
+    // runs out before it.
+    int Recount() {
+        limitCounter = countBeforeGivenUp;
+        for (int d = givenUp.digit; d <= found.digit; ++d) {
+            inChain = CellSet();
+            bool before = d == givenUp.digit;  // the starts before that branch's own
+            for (int c : biHolders[d] | (links[d].strong & multiValue)) {
+                if (before && c != givenUp.cells[0]) continue;
+                runDigit = d;
+                cells[0] = c, chainDigits[0] = d;
+                EnterFromOtherCell(c, 0);
+                const bool chain = c == found.cells[0] && d == found.digit;
+                if (chain) SetStart(c, d);
+                const int r = chain || before ? RecountBelow(1, before) : CountBelow(1);
+                if (r != kNone || chain) return r;
+                before = false;
+                inChain.Remove(c);
+            }
+        }
+        return -1;  // not reached: the chain found is on the way
+    }
+
+    // Whether the nodes up to position p - 1 are those of `chain`.
+    bool OnWayTo(const Chain& chain, int p) const {
+        for (int i = 0; i < p; ++i)
+            if (cells[i] != chain.cells[i] || chainDigits[i] != chain.digits[i]) return false;
+        return true;
+    }
+
+    // Below a node on the way to the first branch given up (`resuming`), whose
+    // branches before it were counted in full, or on the way to the chain found.
+    // Other branches are counted; they hold no chain, as the walk found none
+    // before the one it found. kNone when the chain found is not below, else its
+    // result, or -1 when the counter runs out before it.
+    int RecountBelow(int p, bool resuming) {
+        ctx.Yield();
+        if (resuming && p == givenUp.close) return CountBelow(p);
+        if (!resuming && p == found.close) {
+            if (p > chainLimit && ++limitCounter >= kCounterLimit) return -1;
+            return Close(p, runDigit);
+        }
+        const int q = cells[p - 1], x = chainDigits[p - 1];
+        const bool chainBelow = !resuming || OnWayTo(found, p);
+        const auto next = [&]() {
+            const auto on = [&](const Chain& way) {
+                return cells[p] == way.cells[p] && chainDigits[p] == way.digits[p];
+            };
+            if (resuming) {
+                if (!on(givenUp)) return kNone;  // counted before
+                resuming = false;
+                if (const int r = RecountBelow(p + 1, true); r != kNone) return r;
+                return kNone;
+            }
+            if (chainBelow && on(found)) return RecountBelow(p + 1, false);
+            return CountBelow(p + 1) < 0 ? -1 : kNone;
+        };
+        if (!inChain.Has(q)) {
+            for (int k : SameCellLinks(p)) {
+                cells[p] = q, chainDigits[p] = k;
+                inChain.Add(q);
+                if (const int r = next(); r != kNone) return r;
+                inChain.Remove(q);
+            }
+            inChain.Add(q);
+        }
+        for (int c : OtherCellLinks(p)) {
+            cells[p] = c, chainDigits[p] = x;
+            EnterFromOtherCell(c, p);
+            if (const int r = next(); r != kNone) return r;
+            inChain.Remove(c);
+        }
+        return kNone;
+    }
+
+    // A branch without a chain: kNone, or -1 when the counter runs out in it.
+    int CountBelow(int p) {
+        ctx.Yield();
+        ++countSteps;
+        if (p > chainLimit) return ++limitCounter >= kCounterLimit ? -1 : kNone;
+        if (Kept(p)) return CountKept(p);
+        return CountLinks(p);
+    }
+
+    [[gnu::noinline]] int CountKept(int p) {
+        const Branch b = Look(p, true);
+        if (b.barren) return kNone;
+        if (const int count = leafCounts.Find(b.key); count >= 0) {
+            limitCounter += count;
+            return limitCounter >= kCounterLimit ? -1 : kNone;
+        }
+        const int countOnEntry = limitCounter;
+        const int r = CountLinks(p);
+        if (r == kNone) leafCounts.Keep(b.key, limitCounter - countOnEntry);
+        return r;
+    }
+
+    [[gnu::always_inline]] int CountLinks(int p) {
+        const int q = cells[p - 1], x = chainDigits[p - 1];
+        if (p == chainLimit) {
+            // Every link from here ends on the limit: they are counted, not walked.
+            int links = CountUpTo(OtherCellLinks(p), 81);
+            if (!inChain.Has(q)) links += SameCellLinks(p).Count();
+            limitCounter += links;
+            return limitCounter >= kCounterLimit ? -1 : kNone;
+        }
+        if (!inChain.Has(q)) {
+            for (int k : SameCellLinks(p)) {
+                cells[p] = q, chainDigits[p] = k;
+                inChain.Add(q);
+                if (CountBelow(p + 1) < 0) return -1;
+                inChain.Remove(q);
+            }
+            inChain.Add(q);
+        }
+        for (int c : OtherCellLinks(p)) {
+            cells[p] = c, chainDigits[p] = x;
+            EnterFromOtherCell(c, p);
+            if (CountBelow(p + 1) < 0) return -1;
             inChain.Remove(c);
         }
         return kNone;
@@ -442,12 +733,15 @@ int AIC(SolveContext& ctx, int chainLimit, int newLevel) {
     leafCounts.Clear();
     auto search = std::make_unique<AicSearch>(ctx, chainLimit, deadEnds, leafCounts);
     for (int d = 1; d <= 9; ++d) {
-        const int r = search->Run(d);
+        int r = search->Run(d);
         if (r < 0) return kNone;  // the counter ends the whole call
-        if (r != kNone) {
-            if (!ctx.HintOnly()) ctx.RaiseLevel(newLevel);
-            return r;
-        }
+        if (r == kNone) continue;
+        // Branches given up uncounted: the walk is counted again up to the chain.
+        if (search->uncounted) r = search->Recount();
+        if (r < 0) return kNone;
+        search->Hit(r, search->found.close, d);
+        if (!ctx.HintOnly()) ctx.RaiseLevel(newLevel);
+        return r;
     }
     return kNone;
 }
