@@ -54,6 +54,7 @@ bool SameCellUnit(int a, int b) {
 // only to be counted, which do not depend on the start at all.
 class DeadEnds {
   public:
+    explicit DeadEnds(int sizeBits) : size_(std::size_t{1} << sizeBits) {}
     // The in-chain flags of cells 0..63 in `low`; those of cells 64..80 in the low
     // 17 bits of `high`, then position, cell, digit and the loop's flag.
     struct Key {
@@ -72,7 +73,7 @@ class DeadEnds {
     // The limit count of a branch met before, or -1.
     int Find(const Key& key) const {
         if (!table_) return -1;
-        for (std::size_t i = Slot(key), n = 0; n < kProbes; ++n, i = (i + 1) & kMask) {
+        for (std::size_t i = Slot(key), n = 0; n < kProbes; ++n, i = (i + 1) & (size_ - 1)) {
             const Entry& e = table_.get()[i];
             if (e.high == 0) return -1;
             if (e.low == key.low && (e.high & kKeyBits) == key.high)
@@ -85,11 +86,11 @@ class DeadEnds {
         // On the first walk long enough to need it. Zeroed pages from the system
         // are empty entries, and only those used are touched.
         if (!table_) {
-            table_.reset(static_cast<Entry*>(std::calloc(kSize, sizeof(Entry))));
+            table_.reset(static_cast<Entry*>(std::calloc(size_, sizeof(Entry))));
             if (!table_) return;
-            used_.reserve(kSize);
+            used_.reserve(size_);
         }
-        for (std::size_t i = Slot(key), n = 0; n < kProbes; ++n, i = (i + 1) & kMask) {
+        for (std::size_t i = Slot(key), n = 0; n < kProbes; ++n, i = (i + 1) & (size_ - 1)) {
             Entry& e = table_.get()[i];
             if (e.high != 0) continue;
             // A kept count is below the counter's limit: 16 bits hold it.
@@ -107,12 +108,13 @@ class DeadEnds {
     static constexpr int kCountShift = 40;
     static constexpr std::uint64_t kKeyBits = (std::uint64_t{1} << kCountShift) - 1;
     static_assert(kCounterLimit < (1 << 16));
-    static constexpr std::size_t kSize = std::size_t{1} << 16, kMask = kSize - 1, kProbes = 8;
+    const std::size_t size_;
+    static constexpr std::size_t kProbes = 8;
 
-    static std::size_t Slot(const Key& k) {
+    std::size_t Slot(const Key& k) const {
         std::uint64_t h = k.low * 0x9E3779B97F4A7C15ull ^ k.high * 0xC2B2AE3D27D4EB4Full;
         h ^= h >> 29;
-        return std::size_t(h) & kMask;
+        return std::size_t(h) & (size_ - 1);
     }
 
     struct Free {
@@ -729,7 +731,9 @@ struct AicSearch {
 }  // namespace
 
 int AIC(SolveContext& ctx, int chainLimit, int newLevel) {
-    thread_local DeadEnds deadEnds, leafCounts;
+    // Small enough to stay in the cache from one call to the next: a start keeps
+    // a few thousand branches, a call's counting a few times more.
+    thread_local DeadEnds deadEnds(14), leafCounts(15);
     leafCounts.Clear();
     auto search = std::make_unique<AicSearch>(ctx, chainLimit, deadEnds, leafCounts);
     for (int d = 1; d <= 9; ++d) {
