@@ -39,11 +39,6 @@ class Make : public GameFixture {
             n.push_back(Records(level) * 1000 + Records(level, true));
         return n;
     }
-    static CommandStates Ended() {
-        CommandStates c;
-        c.Save = false;
-        return c;
-    }
 };
 
 std::string Solved() { return FormatDigits(Solutions(DigitsOf(kHard)).first, '.'); }

@@ -19,6 +19,8 @@
 
 namespace tavi::testing {
 
+using TitleText = std::pair<std::string, std::string>;
+
 // Answers questions from a script, in order; a question with no answer left
 // fails the test. Every box shown is kept.
 class ScriptedPrompter : public Prompter {
@@ -65,6 +67,9 @@ class ScriptedPrompter : public Prompter {
             t.push_back(s.text);
         return t;
     }
+    // The title and text of box `i`, and of the last box.
+    TitleText Box(std::size_t i) const { return {shown.at(i).title, shown.at(i).text}; }
+    TitleText Last() const { return Box(shown.size() - 1); }
     bool Showed(std::string_view text) const {
         for (const auto& s : shown)
             if (s.text == text) return true;
@@ -146,6 +151,12 @@ class GameFixture : public ::testing::Test {
         SudokuLogRecord r;
         EXPECT_TRUE(ReadSudokuLogRecord(LogFile(folders.DataFolder, LevelStem(level)), number, r));
         return r;
+    }
+    // The commands once a game has ended: those at the start, less Save.
+    static CommandStates Ended() {
+        CommandStates c;
+        c.Save = false;
+        return c;
     }
     // The first empty cell of the game's board and its solution digit.
     std::pair<int, int> FirstOpenCell() const {
