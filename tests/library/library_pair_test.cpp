@@ -16,6 +16,7 @@ namespace fs = std::filesystem;
 using testing::BusyLog;
 using testing::FileBytes;
 using testing::MakeLevelFiles;
+using testing::PairAt;
 using testing::RecordingNotifier;
 using testing::RecordOf;
 using testing::TempDir;
@@ -45,10 +46,7 @@ TEST(ReadPair, ARecordBeyondTheEndIsReportedAndNothingRead) {
     EXPECT_EQ(notifier.messages[0].first, "File Error");
     EXPECT_NE(notifier.messages[0].second.find("Record 3"), std::string::npos);
     EXPECT_EQ(l, BusyLog(1));
-
-    ASSERT_TRUE(ReadPair(dir.path(), kStem, 2, r, l, &notifier));
-    EXPECT_EQ(r, RecordOf(1));
-    EXPECT_EQ(l, SudokuLogRecord{});
+    EXPECT_EQ(PairAt(dir.path(), kStem, 2), std::pair(RecordOf(1), SudokuLogRecord{}));
 }
 
 TEST(WritePair, WhenTheLogCantFollowThePuzzleRecordIsPutBack) {
@@ -83,10 +81,7 @@ TEST(AppendToPair, RefusesHalfAPairAndRepairsOneOutOfStep) {
     ASSERT_TRUE(AppendToPair(dir.path(), kStem, RecordOf(5), BusyLog(5), &number, &why)) << why;
     EXPECT_EQ(number, 5);
     EXPECT_NE(why.find("4 records were kept"), std::string::npos) << why;
-    SudokuRecord r;
-    SudokuLogRecord l;
-    ASSERT_TRUE(ReadPair(dir.path(), kStem, 5, r, l, nullptr));
-    EXPECT_EQ(l, BusyLog(5));
+    EXPECT_EQ(PairAt(dir.path(), kStem, 5).second, BusyLog(5));
 }
 
 struct OutlawLibrary {
@@ -115,11 +110,7 @@ TEST(ExportSudoku, MovesTheRecordOutAndClosesTheGap) {
     EXPECT_EQ(lib.Log(2), BusyLog(3));
     EXPECT_EQ(lib.Log(3), BusyLog(4));
 
-    SudokuRecord r;
-    SudokuLogRecord l;
-    ASSERT_TRUE(ReadPair(lib.dir.path(), "Exported_Sudokus.sd", 1, r, l, nullptr));
-    EXPECT_EQ(r, RecordOf(1));
-    EXPECT_EQ(l, BusyLog(2));
+    EXPECT_EQ(PairAt(lib.dir.path(), "Exported_Sudokus.sd", 1), std::pair(RecordOf(1), BusyLog(2)));
     EXPECT_FALSE(fs::exists(lib.dir / "2Sudoku_Outlaw.sds"));
     EXPECT_FALSE(fs::exists(lib.dir / "2Sudoku_Outlaw.sdl"));
 
@@ -164,11 +155,7 @@ TEST(WriteBruteForceSolution, TheFoundSolutionGoesToTheFileAtItsNumber) {
     ASSERT_TRUE(WriteBruteForceSolution(dir.path(), 2, 2, ctx.board, r, log, nullptr));
     EXPECT_EQ(r.Solution, RecordOf(1).Solution);
 
-    SudokuRecord onDisk;
-    SudokuLogRecord logOnDisk;
-    ASSERT_TRUE(ReadPair(dir.path(), stem, 2, onDisk, logOnDisk, nullptr));
-    EXPECT_EQ(onDisk, r);
-    EXPECT_EQ(logOnDisk, log);
+    EXPECT_EQ(PairAt(dir.path(), stem, 2), std::pair(r, log));
     // Records 1 and 3 are as they were.
     const auto after = FileBytes(PuzzleFile(dir.path(), stem));
     EXPECT_TRUE(std::equal(after.begin(), after.begin() + 166, first.begin()));
@@ -176,23 +163,9 @@ TEST(WriteBruteForceSolution, TheFoundSolutionGoesToTheFileAtItsNumber) {
 
     RecordingNotifier notifier;
     EXPECT_FALSE(WriteBruteForceSolution(dir.path(), 2, 9, ctx.board, r, log, &notifier));
-    ASSERT_EQ(notifier.messages.size(), 1u);
-    EXPECT_EQ(notifier.messages[0], std::make_pair(std::string("File Error"),
-                                                   std::string("Error writing sudoku to file !")));
+    EXPECT_EQ(notifier.messages,
+              (std::vector<testing::TitleText>{{"File Error", "Error writing sudoku to file !"}}));
 }
-
-}  // namespace
-}  // namespace tavi
-
-namespace tavi {
-namespace {
-
-using testing::BusyLog;
-using testing::FileBytes;
-using testing::MakeLevelFiles;
-using testing::RecordOf;
-using testing::TempDir;
-using testing::WriteBytes;
 
 // The states a kill can leave a pair in, one by one: each opens as the old pair
 // or the new one, whole. An append is cut at every 37th byte; the rewrite

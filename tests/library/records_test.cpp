@@ -24,10 +24,8 @@ TEST(SudokuRecordFormat, FieldsStandAtTheirOffsetsLittleEndian) {
         EXPECT_EQ(bytes[c], r.Puzzle[c]);
         EXPECT_EQ(bytes[81 + c], r.Solution[c]);
     }
-    EXPECT_EQ(bytes[162], 0x34);
-    EXPECT_EQ(bytes[163], 0x12);
-    EXPECT_EQ(bytes[164], 0xFE);
-    EXPECT_EQ(bytes[165], 0xFF);
+    EXPECT_EQ(std::vector(bytes.begin() + 162, bytes.end()),
+              (std::vector<std::uint8_t>{0x34, 0x12, 0xFE, 0xFF}));
     EXPECT_EQ(SudokuRecordFromBytes(bytes), r);
 }
 
@@ -66,44 +64,27 @@ TEST(RecordFormat, BytesRoundTripUnchanged) {
     EXPECT_EQ(ToBytes(SudokuLogRecordFromBytes(b)), b);
 }
 
+// The saved minutes and seconds, and the clock read back from them.
+auto Saved(const SudokuLogRecord& l) {
+    const SavedClock c = ReadClock(l);
+    return std::tuple(l.ElapsedMinutes, l.ElapsedSeconds, c.seconds, c.TimeOn, c.TimeShow);
+}
+
 TEST(SavedClockSign, TheSignCarriesTheTwoClockOptions) {
     SudokuLogRecord l;
     SetClock(l, 200, /*timeOn=*/true, /*timeShow=*/false);  // 3:20, hidden
-    EXPECT_EQ(l.ElapsedMinutes, -3);
-    EXPECT_EQ(l.ElapsedSeconds, -20);
-    SavedClock c = ReadClock(l);
-    EXPECT_EQ(c.seconds, 200);
-    EXPECT_TRUE(c.TimeOn);
-    EXPECT_FALSE(c.TimeShow);
-
+    EXPECT_EQ(Saved(l), std::tuple(-3, -20, 200, true, false));
     SetClock(l, 200, true, true);
-    EXPECT_EQ(l.ElapsedMinutes, 3);
-    EXPECT_EQ(l.ElapsedSeconds, 20);
-    c = ReadClock(l);
-    EXPECT_EQ(c.seconds, 200);
-    EXPECT_TRUE(c.TimeOn);
-    EXPECT_TRUE(c.TimeShow);
-
+    EXPECT_EQ(Saved(l), std::tuple(3, 20, 200, true, true));
     SetClock(l, 200, false, true);
-    EXPECT_EQ(l.ElapsedMinutes, 0);
-    EXPECT_EQ(l.ElapsedSeconds, 0);
-    c = ReadClock(l);
-    EXPECT_FALSE(c.TimeOn);
-    EXPECT_FALSE(c.TimeShow);
-
+    EXPECT_EQ(Saved(l), std::tuple(0, 0, 0, false, false));
     // A game saved in the first second of a running clock comes back without one.
     SetClock(l, 0, true, true);
-    c = ReadClock(l);
-    EXPECT_EQ(c.seconds, 0);
-    EXPECT_FALSE(c.TimeOn);
-
+    EXPECT_EQ(Saved(l), std::tuple(0, 0, 0, false, false));
     // Minutes and seconds of mixed signs are read as one total.
     l.ElapsedMinutes = 1;
     l.ElapsedSeconds = -70;
-    c = ReadClock(l);
-    EXPECT_EQ(c.seconds, 10);
-    EXPECT_TRUE(c.TimeOn);
-    EXPECT_FALSE(c.TimeShow);
+    EXPECT_EQ(Saved(l), std::tuple(1, -70, 10, true, false));
 }
 
 TEST(SavedClockSign, AnEnormousClockIsClampedNotWrapped) {

@@ -19,8 +19,6 @@
 
 namespace tavi::testing {
 
-using TitleText = std::pair<std::string, std::string>;
-
 // Answers questions from a script, in order; a question with no answer left
 // fails the test. Every box shown is kept.
 class ScriptedPrompter : public Prompter {

@@ -39,10 +39,13 @@ inline auto GridAndMarks(const Board& b) { return std::pair(b.CurrentGrid, b.Can
 // The lines of `text`.
 std::vector<std::string> Lines(const std::string& text);
 
+// A message or a box: its title and its text.
+using TitleText = std::pair<std::string, std::string>;
+
 // Records what the solver says.
 struct RecordingNotifier : Notifier {
     int beeps = 0;
-    std::vector<std::pair<std::string, std::string>> messages;
+    std::vector<TitleText> messages;
     void Beep() override { ++beeps; }
     void Message(std::string_view title, std::string_view text) override {
         messages.emplace_back(title, text);

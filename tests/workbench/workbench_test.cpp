@@ -58,9 +58,8 @@ TEST(CheckReport, EachCaseOfTheTableInItsOrder) {
     };
     for (const Case& k : cases) {
         const CheckReport report = ReportFor(k.r, k.o, k.u, k.t);
-        EXPECT_EQ(report.fate, k.fate) << k.text;
-        EXPECT_EQ(report.title, k.title);
-        EXPECT_EQ(report.text, k.text);
+        EXPECT_EQ(std::tie(report.fate, report.title, report.text),
+                  std::tuple(k.fate, k.title, k.text));
     }
 }
 
@@ -138,6 +137,7 @@ class WorkbenchTest : public ::testing::Test {
         return p;
     }
     long Count(int level) { return WholeRecords(PuzzleFile(root, LevelStem(level)), 166); }
+    SudokuRecord At(int level, long n) { return testing::PairAt(root, LevelStem(level), n).first; }
     // Opens `level` at record 1.
     Workbench& Open(int level) {
         prompter.inputs.push_back("1");
@@ -174,10 +174,7 @@ TEST_F(WorkbenchTest, AnOutlawPuzzleThatStillFailsIsCountedNowhere) {
     EXPECT_EQ(prompter.shown.back().text, "1 sudokus solved and rerated.");
     EXPECT_EQ(Count(9), 2);
     EXPECT_EQ(Count(1), 1);
-    SudokuRecord moved;
-    ASSERT_TRUE(ReadSudokuRecord(PuzzleFile(root, LevelStem(1)), 1, moved));
-    EXPECT_EQ(moved.Puzzle, easy[0].puzzle);
-    EXPECT_EQ(moved.Solution, easy[0].solution);
+    EXPECT_EQ(At(1, 1), (SudokuRecord{easy[0].puzzle, easy[0].solution, 0, 0}));
 }
 
 TEST_F(WorkbenchTest, AnAbortAfterTheThirdOfTenTreatsOnlyThree) {
@@ -193,11 +190,8 @@ TEST_F(WorkbenchTest, AnAbortAfterTheThirdOfTenTreatsOnlyThree) {
         << "the total of the report is the last number done";
     EXPECT_EQ(Count(3), 7) << "the records the run did not reach stay";
     EXPECT_EQ(Count(1), 3);
-    for (long n = 1; n <= 7; ++n) {
-        SudokuRecord r;
-        ASSERT_TRUE(ReadSudokuRecord(PuzzleFile(root, LevelStem(3)), n, r));
-        EXPECT_EQ(r.Puzzle, (n <= 2 ? easy[n + 2] : Broken(n + 2)).puzzle);
-    }
+    for (long n = 1; n <= 7; ++n)
+        EXPECT_EQ(At(3, n).Puzzle, (n <= 2 ? easy[n + 2] : Broken(n + 2)).puzzle);
 }
 
 TEST_F(WorkbenchTest, SolveRatesInPlaceOrMovesAndDeleteOfTheOnlyRecordLeavesNoFile) {
@@ -231,9 +225,7 @@ TEST_F(WorkbenchTest, BruteForceAnswersAndRemoveDuplicatesKeepsTheFirst) {
     bench.CommandSolve(true, true);
     EXPECT_EQ(prompter.shown.back().title, "Valid Sudoku");
     EXPECT_EQ(prompter.shown.back().text, "This Sudoku has one unique solution");
-    SudokuRecord first;
-    ASSERT_TRUE(ReadSudokuRecord(PuzzleFile(root, LevelStem(2)), 1, first));
-    EXPECT_EQ(first.Solution, easy[1].solution);
+    EXPECT_EQ(At(2, 1).Solution, easy[1].solution);
     bench.CommandRemoveDuplicates();
     EXPECT_EQ(prompter.shown.back().text, "2 duplicate sudokus removed.");
     EXPECT_EQ(Count(2), 2);
@@ -264,9 +256,7 @@ TEST_F(WorkbenchTest, ImportRatesChecksAndFilesEachPuzzleByItsLevel) {
     EXPECT_EQ(report.Text(), "2 sudokus imported: " + levels +
                                  ". Rejected: 1 without a solution, 1 with several solutions, 2 "
                                  "already in the library, 1 malformed (line 5).");
-    SudokuRecord added;
-    ASSERT_TRUE(ReadSudokuRecord(PuzzleFile(root, LevelStem(1)), 2, added));
-    EXPECT_EQ(added.Solution, easy[2].solution);
+    EXPECT_EQ(At(1, 2).Solution, easy[2].solution);
 }
 
 // A rewrite killed at any instant leaves the old pair or the new pair whole once
