@@ -12,16 +12,8 @@
 namespace tavi::cli {
 namespace {
 
+using testing::Fields;
 using testing::Lines;
-
-std::vector<std::string> Fields(const std::string& line) {
-    std::vector<std::string> f;
-    size_t start = 0;
-    for (size_t tab; (tab = line.find('\t', start)) != std::string::npos; start = tab + 1)
-        f.push_back(line.substr(start, tab - start));
-    f.push_back(line.substr(start));
-    return f;
-}
 
 TEST(CliHint, TheFirstHintOfEachPuzzleWithItsPaints) {
     const auto& p = testing::GeneratedPuzzles(2);

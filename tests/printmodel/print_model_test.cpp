@@ -115,8 +115,7 @@ TEST_F(PrintJobTest, ReadsEachPuzzleWithItsMarksAndStopsAtTheFirstMissingRecord)
     const auto& p = testing::GeneratedPuzzles(3, 5)[1];
     EXPECT_EQ(r.puzzles[0].Grid, p.puzzle);
     EXPECT_EQ(r.puzzles[0].Solution, p.solution);
-    const Board b = BoardFromPuzzle(p.puzzle);
-    EXPECT_EQ(r.puzzles[0].Marks, b.Candidates);
+    EXPECT_EQ(r.puzzles[0].Marks, BoardFromPuzzle(p.puzzle).Candidates);
 }
 
 TEST_F(PrintJobTest, TheOnScreenPuzzleInItsCurrentStateKeepsItsDigitsAndMarks) {

@@ -40,9 +40,8 @@ TEST(SchrijfKleuren, WritesSevenLabelPairsAndNineHintColoursThatReadBack) {
     c.HintColor[0] = 0x00123456;
     SchrijfKleuren(store, c);
     EXPECT_EQ(store.Values().size(), 7u * 2 + 9);
-    EXPECT_FALSE(store.Has("Colors", "BColor4"));
-    EXPECT_FALSE(store.Has("Colors", "FColor5"));
-    EXPECT_FALSE(store.Has("Colors", "BColor0"));
+    for (const char* key : {"BColor4", "FColor5", "BColor0"})
+        EXPECT_FALSE(store.Has("Colors", key)) << key;
     EXPECT_EQ(store.Read("Colors", "BColor9", ""), "-2147483640");
     ColorSettings back;
     HaalKleuren(store, back);

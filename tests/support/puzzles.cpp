@@ -50,4 +50,13 @@ std::vector<std::string> Lines(const std::string& text) {
     return lines;
 }
 
+std::vector<std::string> Fields(const std::string& line, char sep) {
+    std::vector<std::string> f;
+    size_t start = 0;
+    for (size_t at; (at = line.find(sep, start)) != std::string::npos; start = at + 1)
+        f.push_back(line.substr(start, at - start));
+    f.push_back(line.substr(start));
+    return f;
+}
+
 }  // namespace tavi::testing

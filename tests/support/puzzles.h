@@ -38,6 +38,8 @@ inline auto GridAndMarks(const Board& b) { return std::pair(b.CurrentGrid, b.Can
 
 // The lines of `text`.
 std::vector<std::string> Lines(const std::string& text);
+// The fields of `line` between the `sep` characters, empty ones too.
+std::vector<std::string> Fields(const std::string& line, char sep = '\t');
 
 // A message or a box: its title and its text.
 using TitleText = std::pair<std::string, std::string>;
