@@ -17,6 +17,7 @@
 #include "library/library_pair.h"
 #include "library/library_test_support.h"
 #include "library/pair_guard.h"
+#include "library/pair_rewrite.h"
 #include "library/record_journal.h"
 
 namespace tavi {
@@ -188,6 +189,43 @@ TEST(KillTest, SaveAndBestTimeLeaveTheOldRecordOrTheNew) {
         ASSERT_EQ(sdl, sdlBefore);
     };
     KillRuns(reset, writer, check, dir.path(), kStem, 5000);
+}
+
+// A rewrite that keeps two records of three leaves the old pair or the new one,
+// record and log in step.
+TEST(KillTest, RewriteLeavesTheOldPairOrTheNew) {
+    TempDir dir(testing::FastScratch()), made;
+    for (int i = 1; i <= 300; ++i) {
+        SudokuRecord r;
+        r.BestMinutes = std::int16_t(i);
+        SudokuLogRecord l;
+        l.ElapsedMinutes = std::int16_t(i);
+        ASSERT_TRUE(AppendToPair(made.path(), kStem, r, l));
+    }
+    int old = 0, fresh = 0;
+    const auto reset = [&] {
+        for (const fs::path& file : {PuzzleFile(dir.path(), kStem), LogFile(dir.path(), kStem)})
+            fs::copy_file(made / file.filename().string(), file,
+                          fs::copy_options::overwrite_existing);
+    };
+    const auto writer = [&] { KeepInPair(dir.path(), kStem, [](long n) { return n % 3 != 0; }); };
+    const auto check = [&] {
+        const long count = OpenPair(dir.path(), kStem);
+        ASSERT_TRUE(count == 300 || count == 200) << count;
+        // The old pair holds 1..300; the new one the numbers that are not a multiple of 3.
+        const auto expected = [&](long k) { return count == 300 ? k + 1 : k / 2 * 3 + k % 2 + 1; };
+        std::vector<SudokuRecord> puzzles;
+        ASSERT_TRUE(ReadSudokuFile(PuzzleFile(dir.path(), kStem), puzzles));
+        for (long k = 0; k < count; ++k)
+            ASSERT_EQ(puzzles[k].BestMinutes, expected(k));
+        for (long k : {0L, count / 2, count - 1})
+            ASSERT_EQ(testing::PairAt(dir.path(), kStem, k + 1).second.ElapsedMinutes, expected(k))
+                << "record and log in step";
+        ++(count == 300 ? old : fresh);
+    };
+    KillRuns(reset, writer, check, dir.path(), kStem, 4000);
+    EXPECT_GT(old, 0);
+    EXPECT_GT(fresh, 0);
 }
 
 // Record 1 of Outlaw moved out again and again: the Outlaw pair is always the

@@ -8,13 +8,12 @@
 #include <QImage>
 #include <QPrinter>
 #include <QTemporaryDir>
-#include <QTimer>
 #include <fstream>
 
 #include "print/board_painter.h"
 #include "settings/colors.h"
-#include "support/game_fixture.h"
 #include "ui/qt_convert.h"
+#include "window_fixture.h"
 
 namespace tavi::ui {
 namespace {
@@ -141,21 +140,13 @@ TEST_F(HintWindowTest, PrintingWithoutAPrinterDoesNoHarm) {
 
     // The print dialog opens and is cancelled.
     bool dialogSeen = false;
-    QTimer::singleShot(0, [&] {
-        if (QWidget* modal = QApplication::activeModalWidget()) {
-            dialogSeen = true;
-            modal->close();
-        }
+    WhenModal([&](QWidget* modal) {
+        dialogSeen = true;
+        modal->close();
     });
     w.findChild<QAction*>("mnuWindowPrint")->trigger();
     EXPECT_TRUE(dialogSeen);
 }
-
-}  // namespace
-}  // namespace tavi::ui
-
-namespace tavi::ui {
-namespace {
 
 TEST(HintWindowPlace, BesideTheGameWindowElseInTheCornerAndAlwaysOnTheScreen) {
     const QRect screen(0, 0, 1920, 1040);

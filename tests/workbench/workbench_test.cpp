@@ -1,22 +1,16 @@
 // The file workbench over libraries in a temporary folder, with the person's
 // answers scripted: rerating moves, the report of a check, abort, delete,
-// duplicates, the reader of foreign files, and rewrites killed at random instants.
+// duplicates and the reader of foreign files.
 #include "workbench/workbench.h"
 
 #include <gtest/gtest.h>
-#include <signal.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
-#include <random>
 #include <sstream>
 
 #include "grid/candidates.h"
 #include "library/library_files.h"
 #include "library/library_pair.h"
 #include "library/library_test_support.h"
-#include "library/pair_guard.h"
-#include "library/pair_rewrite.h"
 #include "solver/ladder.h"
 #include "support/game_fixture.h"
 #include "workbench/duplicates.h"
@@ -257,58 +251,6 @@ TEST_F(WorkbenchTest, ImportRatesChecksAndFilesEachPuzzleByItsLevel) {
                                  ". Rejected: 1 without a solution, 1 with several solutions, 2 "
                                  "already in the library, 1 malformed (line 5).");
     EXPECT_EQ(At(1, 2).Solution, easy[2].solution);
-}
-
-// A rewrite killed at any instant leaves the old pair or the new pair whole once
-// the next open has recovered it.
-TEST(PairRewrite, AKillAtAnyInstantLeavesTheOldOrTheNewPair) {
-    const testing::TempDir dir;
-    const fs::path root = dir.path();
-    const std::string stem = "Sudoku_Hard.sd";
-    std::mt19937 random(7);
-    int old = 0, fresh = 0;
-    const fs::path made = root / "made";
-    fs::create_directories(made);
-    for (int i = 1; i <= 300; ++i) {
-        SudokuRecord r;
-        r.BestMinutes = std::int16_t(i);
-        SudokuLogRecord l;
-        l.ElapsedMinutes = std::int16_t(i);
-        ASSERT_TRUE(AppendToPair(made, stem, r, l));
-    }
-    for (int round = 0; round < 200; ++round) {
-        for (const fs::path& file : {PuzzleFile(root, stem), LogFile(root, stem)}) {
-            fs::remove(file);
-            fs::copy_file(made / file.filename(), file);
-        }
-        const pid_t child = fork();
-        if (child == 0) {
-            KeepInPair(root, stem, [](long n) { return n % 3 != 0; });
-            _exit(0);
-        }
-        usleep(std::uniform_int_distribution<useconds_t>(0, 4000)(random));
-        ::kill(child, SIGKILL);
-        waitpid(child, nullptr, 0);
-        OpenPair(root, stem);
-        std::vector<SudokuRecord> puzzles;
-        ASSERT_TRUE(ReadSudokuFile(PuzzleFile(root, stem), puzzles));
-        const long logs = WholeRecords(LogFile(root, stem), kSudokuLogRecordSize);
-        ASSERT_EQ(long(puzzles.size()), logs);
-        ASSERT_TRUE(puzzles.size() == 300 || puzzles.size() == 200) << puzzles.size();
-        auto expected = [&](size_t k) {
-            return puzzles.size() == 300 ? int(k) + 1 : int(k / 2 * 3 + k % 2 + 1);
-        };
-        for (size_t k = 0; k < puzzles.size(); ++k)
-            ASSERT_EQ(puzzles[k].BestMinutes, expected(k));
-        for (size_t k : {size_t(0), puzzles.size() / 2, puzzles.size() - 1}) {
-            SudokuLogRecord l;
-            ASSERT_TRUE(ReadSudokuLogRecord(LogFile(root, stem), long(k) + 1, l));
-            ASSERT_EQ(l.ElapsedMinutes, expected(k)) << "record and log in step";
-        }
-        ++(puzzles.size() == 300 ? old : fresh);
-    }
-    EXPECT_GT(old, 0);
-    EXPECT_GT(fresh, 0);
 }
 
 }  // namespace
