@@ -48,16 +48,8 @@ TEST(CliHint, TheFirstHintOfEachPuzzleWithItsPaints) {
 
 TEST(CliHint, NoHintOnAFullBoardOrClashingGivens) {
     const auto& p = testing::GeneratedPuzzles(1)[0];
-    Digits clash = p.puzzle;
-    int a = 0;
-    while (!clash[a])
-        ++a;
-    int b = a + 1;
-    while (b % 9 && clash[b])
-        ++b;
-    ASSERT_EQ(b / 9, a / 9);
-    clash[b] = clash[a];
-    std::istringstream in(FormatDigits(p.solution) + "\n" + FormatDigits(clash) + "\n");
+    std::istringstream in(FormatDigits(p.solution) + "\n" +
+                          FormatDigits(testing::WithClash(p.puzzle)) + "\n");
     std::ostringstream out, err;
     Hint(in, out, err, true);
     for (const auto& line : Lines(out.str()))

@@ -249,24 +249,24 @@ TEST(CliProgram, ExitStatusTellsWhetherEveryLineWasAPuzzle) {
         const int status = std::system(command.c_str());
         return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
     };
-    auto written = [&] {
-        std::ifstream f(out);
+    auto written = [&](const std::filesystem::path& file) {
+        std::ifstream f(file);
         return std::string(std::istreambuf_iterator<char>(f), {});
     };
     EXPECT_EQ(run("rate " + good.string()), 0);
-    EXPECT_EQ(written(), RunRate(Text(FiveHoles()) + "\n" + Text(DeadCell()) + "\n").out);
+    EXPECT_EQ(written(out), RunRate(Text(FiveHoles()) + "\n" + Text(DeadCell()) + "\n").out);
     EXPECT_EQ(run("rate < " + good.string()), 0);
-    EXPECT_EQ(Lines(written()).size(), 2u);
+    EXPECT_EQ(Lines(written(out)).size(), 2u);
     EXPECT_EQ(run("solve " + bad.string()), 2);
-    EXPECT_EQ(Lines(written()).size(), 1u);
+    EXPECT_EQ(Lines(written(out)).size(), 1u);
     EXPECT_EQ(run("steps < " + bad.string()), 2);
     // Every command of the usage text is taken, the board commands too.
     EXPECT_EQ(run("states --all " + good.string()), 0);
-    const std::string boards = written();
+    const std::string boards = written(out);
     EXPECT_FALSE(boards.empty());
     std::ofstream(dir / "boards.txt") << boards;
     EXPECT_EQ(run("rung 4 " + (dir / "boards.txt").string()), 0);
-    EXPECT_FALSE(written().empty());
+    EXPECT_FALSE(written(out).empty());
 
     // Paths that are no readable file, and binary input: a message naming the
     // file (and line), status 2, for every command.
@@ -285,8 +285,7 @@ TEST(CliProgram, ExitStatusTellsWhetherEveryLineWasAPuzzle) {
     };
     for (const auto& [args, said] : cases) {
         EXPECT_EQ(run(args), 2) << args;
-        std::ifstream f(dir / "err.txt");
-        const std::string err(std::istreambuf_iterator<char>(f), {});
+        const std::string err = written(dir / "err.txt");
         EXPECT_NE(err.find(said), std::string::npos) << args << ": " << err;
     }
     std::filesystem::remove_all(dir);

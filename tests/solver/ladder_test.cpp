@@ -110,16 +110,9 @@ TEST(WorkbenchLadder, FullBoardAndContradictions) {
     EXPECT_FALSE(SolveSudoku(broken, run));
     EXPECT_EQ(broken.SolvingLevel, 0);
 
-    // Two equal givens in a row have no solution, whatever the candidates say.
+    // Two equal givens that see each other have no solution, whatever the candidates say.
     SolveContext clash;
-    Digits twice = p.puzzle;
-    int a = -1, b = -1;
-    for (int c = 0; c < 9; ++c)
-        (twice[c] ? a : b) = (twice[c] ? (a < 0 ? c : a) : c);
-    ASSERT_GE(a, 0);
-    ASSERT_GE(b, 0);
-    twice[b] = twice[a];
-    clash.board = BoardFromPuzzle(twice);
+    clash.board = BoardFromPuzzle(testing::WithClash(p.puzzle));
     EXPECT_FALSE(SolveSudoku(clash, run));
     EXPECT_FALSE(SolveSudokuGame(clash, &notifier));
     EXPECT_TRUE(notifier.messages.empty());

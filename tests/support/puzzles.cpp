@@ -42,6 +42,17 @@ Digits WithoutFirstClue(Digits puzzle) {
     return puzzle;
 }
 
+Digits WithClash(Digits puzzle) {
+    for (int c = 0; c < 81; ++c)
+        for (int peer : Peers[c])
+            if (puzzle[c] && !puzzle[peer]) {
+                puzzle[peer] = puzzle[c];
+                return puzzle;
+            }
+    ADD_FAILURE() << "no clue with an empty peer";
+    return puzzle;
+}
+
 std::vector<std::string> Lines(const std::string& text) {
     std::vector<std::string> lines;
     std::istringstream in(text);

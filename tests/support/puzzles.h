@@ -33,6 +33,9 @@ Digits DeadCell();
 // `puzzle` less its first clue: a puzzle with several solutions.
 Digits WithoutFirstClue(Digits puzzle);
 
+// `puzzle` with its first clue copied into an empty cell that sees it: no solution.
+Digits WithClash(Digits puzzle);
+
 // What a player sees of a board: its digits and its marks.
 inline auto GridAndMarks(const Board& b) { return std::pair(b.CurrentGrid, b.Candidates); }
 
