@@ -12,8 +12,7 @@
 namespace tavi::cli {
 namespace {
 
-using testing::Fields;
-using testing::Lines;
+using testing::Fields, testing::Lines;
 
 TEST(CliHint, TheFirstHintOfEachPuzzleWithItsPaints) {
     const auto& p = testing::GeneratedPuzzles(2);

@@ -39,9 +39,7 @@ Output RunSteps(const std::string& input) {
     return RunCommand([](auto& in, auto& out, auto& err) { return Steps(in, out, err); }, input);
 }
 
-using testing::DeadCell;
-using testing::Fields;
-using testing::Lines;
+using testing::DeadCell, testing::Fields, testing::Lines;
 
 std::string Text(const Digits& d) { return FormatDigits(d, '.'); }
 

@@ -10,9 +10,7 @@ namespace tavi {
 namespace {
 
 namespace fs = std::filesystem;
-using testing::MakeLevelFiles;
-using testing::RecordingNotifier;
-using testing::TempDir;
+using testing::MakeLevelFiles, testing::RecordingNotifier, testing::TempDir;
 
 // Remembers whether the keys were pushed out before the start went on.
 struct FlushingStore : MemorySettingsStore {

@@ -9,10 +9,7 @@ namespace tavi {
 namespace {
 
 namespace fs = std::filesystem;
-using testing::BusyLog;
-using testing::MakeLevelFiles;
-using testing::RecordOf;
-using testing::TempDir;
+using testing::BusyLog, testing::MakeLevelFiles, testing::RecordOf, testing::TempDir;
 
 std::string Number(const MemorySettingsStore& s, int level) {
     return s.Read("SudokuLevel" + std::to_string(level), "Number", "?");

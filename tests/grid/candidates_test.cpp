@@ -9,9 +9,7 @@
 namespace tavi {
 namespace {
 
-using testing::OpenBoard;
-using testing::RecordingListener;
-using testing::SetCandidates;
+using testing::OpenBoard, testing::RecordingListener, testing::SetCandidates;
 
 // How a technique's removal lands: under a hint it only reports, with ForceZet it
 // removes quietly, otherwise it removes and the game's move log hears of it.

@@ -9,10 +9,7 @@
 namespace tavi {
 namespace {
 
-using testing::ExpectSentences;
-using testing::OpenBoard;
-using testing::Record;
-using testing::SetCandidates;
+using testing::ExpectSentences, testing::OpenBoard, testing::Record, testing::SetCandidates;
 
 TEST(SchrijfHint, AlsWorksOutItsRemovalsFromTheBoard) {
     // A1 {1,2} against B2 {1,3} and C3 {2,3} in the same box: 1 is restricted, and

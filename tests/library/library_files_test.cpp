@@ -10,12 +10,8 @@ namespace tavi {
 namespace {
 
 namespace fs = std::filesystem;
-using testing::BusyLog;
-using testing::FileBytes;
-using testing::MakeLevelFiles;
-using testing::RecordOf;
-using testing::TempDir;
-using testing::WriteBytes;
+using testing::BusyLog, testing::FileBytes, testing::MakeLevelFiles, testing::RecordOf,
+    testing::TempDir, testing::WriteBytes;
 
 constexpr std::string_view kStem = "Sudoku_Easy.sd";
 

@@ -13,14 +13,8 @@ namespace tavi {
 namespace {
 
 namespace fs = std::filesystem;
-using testing::BusyLog;
-using testing::FileBytes;
-using testing::MakeLevelFiles;
-using testing::PairAt;
-using testing::RecordingNotifier;
-using testing::RecordOf;
-using testing::TempDir;
-using testing::WriteBytes;
+using testing::BusyLog, testing::FileBytes, testing::MakeLevelFiles, testing::PairAt,
+    testing::RecordingNotifier, testing::RecordOf, testing::TempDir, testing::WriteBytes;
 
 constexpr std::string_view kStem = "Sudoku_Medium.sd";
 
@@ -92,11 +86,7 @@ struct OutlawLibrary {
         for (int i = 1; i <= count; ++i)
             EXPECT_TRUE(WriteSudokuLogRecord(LogFile(dir.path(), stem), i, BusyLog(i)));
     }
-    SudokuLogRecord Log(long n) {
-        SudokuLogRecord l;
-        EXPECT_TRUE(ReadSudokuLogRecord(LogFile(dir.path(), stem), n, l));
-        return l;
-    }
+    SudokuLogRecord Log(long n) { return PairAt(dir.path(), stem, n).second; }
 };
 
 TEST(ExportSudoku, MovesTheRecordOutAndClosesTheGap) {

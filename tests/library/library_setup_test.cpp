@@ -9,11 +9,8 @@ namespace tavi {
 namespace {
 
 namespace fs = std::filesystem;
-using testing::FileBytes;
-using testing::MakeLevelFiles;
-using testing::RecordingNotifier;
-using testing::TempDir;
-using testing::WriteBytes;
+using testing::FileBytes, testing::MakeLevelFiles, testing::RecordingNotifier, testing::TempDir,
+    testing::WriteBytes;
 
 struct Library {
     TempDir app, data;

@@ -7,8 +7,7 @@
 namespace tavi {
 namespace {
 
-using testing::BusyLog;
-using testing::RecordOf;
+using testing::BusyLog, testing::RecordOf;
 
 int Int16At(const auto& bytes, std::size_t offset) {
     return std::int16_t(bytes[offset] | (bytes[offset + 1] << 8));
@@ -41,15 +40,13 @@ TEST(SudokuLogRecordFormat, FieldsStandAtTheirOffsetsLittleEndian) {
     for (int c = 0; c < 81; ++c)
         EXPECT_EQ(Int16At(bytes, 85 + 2 * c), l.SavedCandidates[c]);
     EXPECT_EQ(Int16At(bytes, 247), l.StepCount);
-    for (int i = 0; i < 100; ++i) {
-        EXPECT_EQ(Int16At(bytes, 249 + 2 * i), l.LogDigit[i]);
-        EXPECT_EQ(Int16At(bytes, 449 + 2 * i), l.LogCell[i]);
-        EXPECT_EQ(Int16At(bytes, 649 + 2 * i), l.LogOwnMarks[i]);
-        EXPECT_EQ(Int16At(bytes, 849 + 2 * i), l.LogColumnMarks[i]);
-        EXPECT_EQ(Int16At(bytes, 1049 + 2 * i), l.LogRowMarks[i]);
-        EXPECT_EQ(Int16At(bytes, 1249 + 2 * i), l.LogBoxMarks[i]);
-    }
-    EXPECT_EQ(Int16At(bytes, 1447), l.LogBoxMarks[99]);
+    // Then the six lists of the steps, 100 entries each.
+    int at = 249;
+    for (const auto* steps : {&l.LogDigit, &l.LogCell, &l.LogOwnMarks, &l.LogColumnMarks,
+                              &l.LogRowMarks, &l.LogBoxMarks})
+        for (int i = 0; i < 100; ++i, at += 2)
+            EXPECT_EQ(Int16At(bytes, at), (*steps)[i]);
+    EXPECT_EQ(at, 1449);
 }
 
 TEST(RecordFormat, BytesRoundTripUnchanged) {
