@@ -115,10 +115,8 @@ TEST(CliLibrary, ImportAppendsWithSolutionsAndSkipsBadLinesByNumber) {
     const fs::path sds = PuzzleFile(dir.path(), LevelStem(4));
     std::vector<SudokuRecord> records;
     ASSERT_TRUE(ReadSudokuFile(sds, records));
-    ASSERT_EQ(records.size(), 2u);
-    EXPECT_EQ(records[0].Puzzle, puzzles[0].puzzle);
-    EXPECT_EQ(records[0].Solution, puzzles[0].solution);
-    EXPECT_EQ(records[1].Solution, puzzles[1].solution);
+    EXPECT_EQ(records, (std::vector<SudokuRecord>{{puzzles[0].puzzle, puzzles[0].solution, 0, 0},
+                                                  {puzzles[1].puzzle, puzzles[1].solution, 0, 0}}));
     EXPECT_EQ(WholeRecords(LogFile(dir.path(), LevelStem(4)), kSudokuLogRecordSize), 2);
 
     // A second import goes after the first; a level without its log gets one.
@@ -154,9 +152,7 @@ TEST(CliLibrary, ExportWritesPuzzleSolutionAndBestTimeAndFlagsADamagedFile) {
     EXPECT_EQ(ImportLibrary(in, 1, dir.path(), out, err), 0) << err.str();
     std::vector<SudokuRecord> back;
     ASSERT_TRUE(ReadSudokuFile(PuzzleFile(dir.path(), LevelStem(1)), back));
-    ASSERT_EQ(back.size(), 2u);
-    EXPECT_EQ(back[0].Puzzle, a.Puzzle);
-    EXPECT_EQ(back[1].Solution, b.Solution);
+    EXPECT_EQ(back, (std::vector<SudokuRecord>{{a.Puzzle, a.Solution, 0, 0}, b}));
 
     std::ofstream(sds, std::ios::app) << "tail";
     o = RunCommand(LibraryCommand, {"library", "export", sds.string()});

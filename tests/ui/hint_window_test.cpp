@@ -40,14 +40,6 @@ class HintWindowTest : public tavi::testing::GameFixture {
                 return answer;
             });
     }
-    int PixelsOf(const QImage& image, Color color) const {
-        const QRgb want = ToQColor(color).rgb();
-        int n = 0;
-        for (int y = 0; y < image.height(); ++y)
-            for (int x = 0; x < image.width(); ++x)
-                n += image.pixel(x, y) == want;
-        return n;
-    }
 
     std::optional<HintWindow> window;
     std::vector<std::array<QString, 3>> asked;
@@ -86,7 +78,8 @@ TEST_F(HintWindowTest, CaptionRefreshAndAFrozenCopy) {
     for (int c = 0; c < 81 && !paint; ++c)
         paint = game->CellPaint(c);
     ASSERT_TRUE(paint);
-    EXPECT_GT(PixelsOf(picture, *paint), 100);
+    const QRgb want = ToQColor(*paint).rgb();
+    EXPECT_GT(CountIn(picture, picture.rect(), [want](QRgb p) { return p == want; }), 100);
 
     // A move on the board leaves the copy as it was, until Refresh.
     const HintSnapshot before = w.Snapshot();

@@ -14,13 +14,6 @@ class Player : public WindowFixture {
   public:
     void TestBody() override {}
 
-    MainWindow& OpenActive() {
-        Open();
-        window->activateWindow();
-        QApplication::setActiveWindow(&*window);
-        Board()->setFocus();
-        return *window;
-    }
     void Key(int key, Qt::KeyboardModifiers mods = Qt::NoModifier) {
         QTest::keyClick(Board(), Qt::Key(key), mods);
         QApplication::processEvents();

@@ -22,13 +22,6 @@ auto Fields(const Options& o) {
                       o.AutoErase, o.PencilmarksOff, o.Dimmed, o.AutoSave, o.AskSave);
 }
 
-template <typename W>
-W* Child(const QWidget& parent, const QString& name) {
-    auto* w = parent.findChild<W*>(name);
-    EXPECT_NE(w, nullptr) << name.toStdString();
-    return w;
-}
-
 // Every box clicked once, the timer shown hidden, and "Never".
 void ClickEverything(OptionsDialog& dialog) {
     for (int i = 1; i <= 8; ++i)

@@ -19,6 +19,14 @@
 
 namespace tavi::ui {
 
+// The child of `parent` named `name`; a missing one fails the test.
+template <typename W>
+W* Child(const QObject& parent, const QString& name) {
+    auto* w = parent.findChild<W*>(name);
+    EXPECT_NE(w, nullptr) << name.toStdString();
+    return w;
+}
+
 class WindowFixture : public tavi::testing::GameFixture {
   public:
     // Starts the game and shows the window over it.
@@ -30,22 +38,24 @@ class WindowFixture : public tavi::testing::GameFixture {
         QApplication::processEvents();
         return *window;
     }
+    // The window opened and made the active one, its board holding the keyboard.
+    MainWindow& OpenActive() {
+        Open();
+        window->activateWindow();
+        QApplication::setActiveWindow(&*window);
+        Board()->setFocus();
+        return *window;
+    }
     // The window open on a New of the level chosen at start.
     MainWindow& OpenPlaying() {
         Open();
         Press("CommandNew");
         return *window;
     }
-    QPushButton* Button(const char* name) const {
-        auto* b = window->findChild<QPushButton*>(QLatin1String(name));
-        EXPECT_NE(b, nullptr) << name;
-        return b;
-    }
+    QPushButton* Button(const char* name) const { return Find<QPushButton>(name); }
     template <typename W>
     W* Find(const QString& name) const {
-        auto* w = window->findChild<W*>(name);
-        EXPECT_NE(w, nullptr) << name.toStdString();
-        return w;
+        return Child<W>(*window, name);
     }
     BoardWidget* Board() const { return window->Area()->Board(); }
     void Press(const char* name) { QTest::mouseClick(Button(name), Qt::LeftButton); }
