@@ -132,9 +132,9 @@ TEST(CliInput, BadLinesAreReportedAndTheRestIsProcessed) {
         EXPECT_EQ(o.status, 2);
         const auto errors = Lines(o.err);
         ASSERT_EQ(errors.size(), 3u) << o.err;
-        EXPECT_NE(errors[0].find("line 2"), std::string::npos) << errors[0];
-        EXPECT_NE(errors[1].find("line 5"), std::string::npos) << errors[1];
-        EXPECT_NE(errors[2].find("line 7"), std::string::npos) << errors[2];
+        for (size_t i = 0; i < 3; ++i)
+            EXPECT_NE(errors[i].find(std::string("line ") + "257"[i]), std::string::npos)
+                << errors[i];
         int puzzles = 0;
         for (const auto& line : Lines(o.out))
             puzzles += line.starts_with(good + "\t") || line.starts_with("result\t");

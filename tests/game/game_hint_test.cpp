@@ -84,8 +84,7 @@ TEST_F(Hints, AWrongDigitIsReportedFirst) {
     g.CommandHint();
     EXPECT_EQ(g.TextHint(), "Incorrect number (" + std::to_string(digit) + ") at cell " +
                                 CellName(cell) + " - Use [Undo] or [Reset Cell]");
-    EXPECT_EQ(g.SelectedRow, cell / 9);
-    EXPECT_EQ(g.SelectedColumn, cell % 9);
+    EXPECT_EQ(std::pair(g.SelectedRow, g.SelectedColumn), std::pair(cell / 9, cell % 9));
     EXPECT_EQ(g.CellPaint(cell), options.colors.HintColor[kAttackedCell]);
     EXPECT_EQ(Clock(), 10);
     // Reset Cell on the named cell is the way out.

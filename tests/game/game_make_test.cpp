@@ -114,12 +114,9 @@ TEST_F(Make, EveryWayOutOfValidateThatStoresNothing) {
 TEST_F(Make, AHardPuzzleClickedInEndsAsTheLastRecordOfTheHardPairAfterAFailedWrite) {
     Game& g = Making();
     const Digits puzzle = DigitsOf(kHard);
-    int clues = 0;
+    const int clues = 81 - int(std::count(puzzle.begin(), puzzle.end(), 0));
     for (int c = 0; c < 81; ++c)
-        if (puzzle[c]) {
-            g.MarkMouseUp(puzzle[c], c, MouseButton::Left, true);
-            ++clues;
-        }
+        if (puzzle[c]) g.MarkMouseUp(puzzle[c], c, MouseButton::Left, true);
     ASSERT_EQ(g.board().CurrentGrid, puzzle);
     EXPECT_EQ(g.CurrentStep(), clues);
     EXPECT_FALSE(g.commands().Undo);  // no Undo while making

@@ -28,8 +28,7 @@ std::vector<Board> StuckBoards(int count) {
     puzzles.push_back(testing::DigitsOf(testing::kOpenPuzzle));
     std::vector<Board> boards;
     for (const Digits& puzzle : puzzles) {
-        SolveContext ctx;
-        ctx.board = BoardFromPuzzle(puzzle);
+        SolveContext ctx = testing::ContextOn(BoardFromPuzzle(puzzle));
         int cells = ctx.board.EmptyCount();
         bool contradiction = false;
         if (!PreSolve(ctx, cells, contradiction) && !contradiction) boards.push_back(ctx.board);

@@ -6,6 +6,7 @@
 
 #include "grid/candidates.h"
 #include "grid/levels.h"
+#include "support/boards.h"
 #include "support/puzzles.h"
 
 namespace tavi {
@@ -16,8 +17,7 @@ using testing::RecordingNotifier;
 // A generated puzzle that the ladder rates `level`, from the test corpus.
 const GeneratedPuzzle* PuzzleRated(int level) {
     for (const auto& p : testing::GeneratedPuzzles(400)) {
-        SolveContext ctx;
-        ctx.board = BoardFromPuzzle(p.puzzle);
+        SolveContext ctx = testing::ContextOn(BoardFromPuzzle(p.puzzle));
         if (SolveSudoku(ctx, {}) && ctx.SolvingLevel == level) return &p;
     }
     return nullptr;
@@ -38,8 +38,7 @@ TEST(WorkbenchLadder, SpeaksAtASolvedBoardUnlessABatchRuns) {
         {"Sudoku solved", "Sudoku solved and rated as Easy"}};
     for (const Case& c : cases) {
         RecordingNotifier notifier;
-        SolveContext ctx;
-        ctx.board = BoardFromPuzzle(p->puzzle);
+        SolveContext ctx = testing::ContextOn(BoardFromPuzzle(p->puzzle));
         WorkbenchRun run;
         run.ImportRunning = c.import;
         run.CheckRunning = c.check;
@@ -58,8 +57,7 @@ TEST(WorkbenchLadder, ReportsProgressOnlyDuringABatch) {
     std::vector<std::string> texts;
     WorkbenchRun run;
     run.observer.progress = [&](const std::string& t) { texts.push_back(t); };
-    SolveContext ctx;
-    ctx.board = BoardFromPuzzle(p->puzzle);
+    SolveContext ctx = testing::ContextOn(BoardFromPuzzle(p->puzzle));
     SolveSudoku(ctx, run);
     EXPECT_TRUE(texts.empty());
 
@@ -89,15 +87,13 @@ TEST(WorkbenchLadder, FullBoardAndContradictions) {
     run.notifier = &notifier;
 
     // All 81 given: nothing to find, no level, no message.
-    SolveContext full;
-    full.board = BoardFromPuzzle(p.solution);
+    SolveContext full = testing::ContextOn(BoardFromPuzzle(p.solution));
     EXPECT_FALSE(SolveSudoku(full, run));
     EXPECT_EQ(full.SolvingLevel, 0);
     EXPECT_TRUE(notifier.messages.empty());
 
     // A cell with no candidate left ends the run at once.
-    SolveContext broken;
-    broken.board = BoardFromPuzzle(p.puzzle);
+    SolveContext broken = testing::ContextOn(BoardFromPuzzle(p.puzzle));
     int empty = 0;
     while (p.puzzle[empty])
         ++empty;
@@ -111,8 +107,7 @@ TEST(WorkbenchLadder, FullBoardAndContradictions) {
     EXPECT_EQ(broken.SolvingLevel, 0);
 
     // Two equal givens that see each other have no solution, whatever the candidates say.
-    SolveContext clash;
-    clash.board = BoardFromPuzzle(testing::WithClash(p.puzzle));
+    SolveContext clash = testing::ContextOn(BoardFromPuzzle(testing::WithClash(p.puzzle)));
     EXPECT_FALSE(SolveSudoku(clash, run));
     EXPECT_FALSE(SolveSudokuGame(clash, &notifier));
     EXPECT_TRUE(notifier.messages.empty());
@@ -124,8 +119,7 @@ TEST(WorkbenchLadder, FullBoardAndContradictions) {
 TEST(WorkbenchLadder, EndsOnAPuzzleWithTwoSolutions) {
     const Digits twoSolutions = testing::DigitsOf(
         "000040190004000208200050000049000001010090076003000000000019800075400000100070500");
-    SolveContext ctx;
-    ctx.board = BoardFromPuzzle(twoSolutions);
+    SolveContext ctx = testing::ContextOn(BoardFromPuzzle(twoSolutions));
     const bool solved = SolveSudoku(ctx, WorkbenchRun{});
     for (int u = 0; u < 27; ++u) {
         CandidateMask seen = 0;
@@ -148,8 +142,7 @@ TEST(WorkbenchLadder, FollowsTheTechniqueOrder) {
     // a guess; one whose givens are taken away, first to last, soon does.
     Digits puzzle = testing::GeneratedPuzzles(1)[0].puzzle;
     auto rate = [&](const TechniqueOrder& order) {
-        SolveContext ctx;
-        ctx.board = BoardFromPuzzle(puzzle);
+        SolveContext ctx = testing::ContextOn(BoardFromPuzzle(puzzle));
         WorkbenchRun run;
         run.order = &order;
         const bool ok = SolveSudoku(ctx, run);

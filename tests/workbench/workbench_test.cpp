@@ -12,6 +12,7 @@
 #include "library/library_pair.h"
 #include "library/library_test_support.h"
 #include "solver/ladder.h"
+#include "support/boards.h"
 #include "support/game_fixture.h"
 #include "workbench/duplicates.h"
 #include "workbench/foreign_puzzles.h"
@@ -110,8 +111,7 @@ class WorkbenchTest : public ::testing::Test {
   public:
     WorkbenchTest() {
         for (const auto& p : testing::GeneratedPuzzles(200, 5)) {
-            SolveContext ctx;
-            ctx.board = BoardFromPuzzle(p.puzzle);
+            SolveContext ctx = testing::ContextOn(BoardFromPuzzle(p.puzzle));
             (SolveSudoku(ctx, {}) && ctx.SolvingLevel == 1 ? easy : other).push_back(p);
         }
     }
@@ -240,8 +240,7 @@ TEST_F(WorkbenchTest, ImportRatesChecksAndFilesEachPuzzleByItsLevel) {
         FormatDigits(clash, '.') + "\n" + FormatDigits(loose, '.') + "\nnot a puzzle\n" +
         FormatDigits(other[3].puzzle, '0') + "\n" + FormatDigits(easy[2].puzzle, '.') + "\n");
     const ImportReport report = ImportPuzzles(root, file);
-    SolveContext ctx;
-    ctx.board = BoardFromPuzzle(other[3].puzzle);
+    SolveContext ctx = testing::ContextOn(BoardFromPuzzle(other[3].puzzle));
     const int level = SolveSudoku(ctx, {}) ? ctx.SolvingLevel : kOutlaw;
     EXPECT_EQ(report.added[1], 1 + (level == 1));
     EXPECT_EQ(report.added[level], level == 1 ? 2 : 1);
