@@ -15,7 +15,7 @@ using testing::BusyLog, testing::FileBytes, testing::MakeLevelFiles, testing::Re
 
 constexpr std::string_view kStem = "Sudoku_Easy.sd";
 
-TEST(LibraryFileCount, IsTheLengthOverTheRecordSizeAsARealNumber) {
+TEST(LibraryFiles, CountIsTheLengthOverTheRecordSizeAndFoldersAreNoFiles) {
     TempDir dir;
     const fs::path sds = PuzzleFile(dir.path(), kStem);
     EXPECT_FALSE(RecordCount(sds, kSudokuRecordSize).has_value());
@@ -32,10 +32,8 @@ TEST(LibraryFileCount, IsTheLengthOverTheRecordSizeAsARealNumber) {
     EXPECT_DOUBLE_EQ(*RecordCount(sds, kSudokuLogRecordSize), 581.0 / 1449.0);
 
     EXPECT_EQ(SudokuCount(dir.path()), 0.0);  // a folder is no file
-}
 
-TEST(LibraryFileExists, FalseForFoldersAndPathsInMissingFolders) {
-    TempDir dir;
+    // Nor is it for FileExists, and a path in a missing folder is none either.
     EXPECT_FALSE(FileExists(dir / "none.sds"));
     EXPECT_FALSE(FileExists(dir / "missing" / "Sudoku_Easy.sds"));
     EXPECT_FALSE(FileExists(dir.path()));

@@ -18,28 +18,21 @@ using testing::BusyLog, testing::FileBytes, testing::MakeLevelFiles, testing::Pa
 
 constexpr std::string_view kStem = "Sudoku_Medium.sd";
 
-TEST(ReadPair, AMissingLogGivesTheSourceFileMessage) {
+TEST(ReadPair, AMissingLogOrARecordBeyondTheEndIsSaidAndNothingRead) {
     TempDir dir;
     MakeLevelFiles(dir.path(), kStem, 2, /*withLog=*/false);
     SudokuRecord r = RecordOf(3);
-    SudokuLogRecord l;
+    SudokuLogRecord l = BusyLog(1);
     RecordingNotifier notifier;
     EXPECT_FALSE(ReadPair(dir.path(), kStem, 1, r, l, &notifier));
     EXPECT_EQ(notifier.messages.back().second, "Source file: Sudoku_Medium.sd* not found!");
-    EXPECT_EQ(r, RecordOf(3));
-}
-
-TEST(ReadPair, ARecordBeyondTheEndIsReportedAndNothingRead) {
-    TempDir dir;
-    MakeLevelFiles(dir.path(), kStem, 2);
-    SudokuRecord r;
-    SudokuLogRecord l = BusyLog(1);
-    RecordingNotifier notifier;
+    MakeLevelFiles(dir.path(), kStem, 2);  // now with its log
+    notifier.messages.clear();
     EXPECT_FALSE(ReadPair(dir.path(), kStem, 3, r, l, &notifier));
     ASSERT_EQ(notifier.messages.size(), 1u);
     EXPECT_EQ(notifier.messages[0].first, "File Error");
     EXPECT_NE(notifier.messages[0].second.find("Record 3"), std::string::npos);
-    EXPECT_EQ(l, BusyLog(1));
+    EXPECT_EQ(std::pair(r, l), std::pair(RecordOf(3), BusyLog(1)));
     EXPECT_EQ(PairAt(dir.path(), kStem, 2), std::pair(RecordOf(1), SudokuLogRecord{}));
 }
 

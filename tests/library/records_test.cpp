@@ -67,7 +67,7 @@ auto Saved(const SudokuLogRecord& l) {
     return std::tuple(l.ElapsedMinutes, l.ElapsedSeconds, c.seconds, c.TimeOn, c.TimeShow);
 }
 
-TEST(SavedClockSign, TheSignCarriesTheTwoClockOptions) {
+TEST(SavedClockSign, TheSignCarriesTheTwoClockOptionsAndALargeClockIsClamped) {
     SudokuLogRecord l;
     SetClock(l, 200, /*timeOn=*/true, /*timeShow=*/false);  // 3:20, hidden
     EXPECT_EQ(Saved(l), std::tuple(-3, -20, 200, true, false));
@@ -82,10 +82,7 @@ TEST(SavedClockSign, TheSignCarriesTheTwoClockOptions) {
     l.ElapsedMinutes = 1;
     l.ElapsedSeconds = -70;
     EXPECT_EQ(Saved(l), std::tuple(1, -70, 10, true, false));
-}
-
-TEST(SavedClockSign, AnEnormousClockIsClampedNotWrapped) {
-    SudokuLogRecord l;
+    // An enormous clock is clamped, not wrapped.
     SetClock(l, 60 * 40000, true, true);
     EXPECT_EQ(l.ElapsedMinutes, 32767);
     EXPECT_GT(ReadClock(l).seconds, 0);

@@ -33,15 +33,13 @@ TEST(TechniqueTables, TheFixedEntriesAreForcedWhateverTheStoreSays) {
     EXPECT_TRUE(IsValidOrder(t.Order));
 }
 
-TEST(TechniqueTables, AnOrderOutsideTheMovableRangeFallsBackToItsIndex) {
-    MemorySettingsStore store;
-    Put(store, "Order8", 7);
-    Put(store, "Order9", 39);
-    Put(store, "Order10", -4);
-    EXPECT_EQ(Read(store).Order, DefaultTechniqueOrder());
-}
+TEST(TechniqueTables, APositionOutsideTheRangeOrHeldTwiceBringsBackTheDefaultOrder) {
+    MemorySettingsStore outside;
+    Put(outside, "Order8", 7);
+    Put(outside, "Order9", 39);
+    Put(outside, "Order10", -4);
+    EXPECT_EQ(Read(outside).Order, DefaultTechniqueOrder());
 
-TEST(TechniqueTables, APositionHeldTwiceBringsBackTheWholeDefaultOrder) {
     MemorySettingsStore store;
     // A good swap elsewhere, then the duplicate.
     Put(store, "Order20", 30);
