@@ -29,16 +29,14 @@ using testing::BusyLog, testing::FileBytes, testing::RecordOf, testing::TempDir;
 constexpr int kKills = 200;
 constexpr std::string_view kStem = "Sudoku_Hard.sd";
 
+// The bytes of `records`, one after another, as a file holds them.
 template <typename Record>
-std::vector<char> Bytes(const Record& r) {
-    const auto b = ToBytes(r);
-    return {b.begin(), b.end()};
-}
-
-std::vector<char> Concat(const std::vector<std::vector<char>>& parts) {
+std::vector<char> BytesOf(const std::vector<Record>& records) {
     std::vector<char> all;
-    for (const auto& p : parts)
-        all.insert(all.end(), p.begin(), p.end());
+    for (const Record& r : records) {
+        const auto b = ToBytes(r);
+        all.insert(all.end(), b.begin(), b.end());
+    }
     return all;
 }
 
@@ -104,13 +102,14 @@ TEST(KillTest, AppendLeavesEveryRecordWhole) {
     const auto check = [&] {
         const long count = OpenPair(dir.path(), kStem);
         if (count < 0) return;  // killed before the first record
-        std::vector<std::vector<char>> sds, sdl;
+        std::vector<SudokuRecord> sds;
+        std::vector<SudokuLogRecord> sdl;
         for (int j = 1; j <= count; ++j) {
-            sds.push_back(Bytes(RecordOf(j)));
-            sdl.push_back(Bytes(BusyLog(j % 9)));
+            sds.push_back(RecordOf(j));
+            sdl.push_back(BusyLog(j % 9));
         }
-        ASSERT_EQ(FileBytes(PuzzleFile(dir.path(), kStem)), Concat(sds));
-        ASSERT_EQ(FileBytes(LogFile(dir.path(), kStem)), Concat(sdl));
+        ASSERT_EQ(FileBytes(PuzzleFile(dir.path(), kStem)), BytesOf(sds));
+        ASSERT_EQ(FileBytes(LogFile(dir.path(), kStem)), BytesOf(sdl));
     };
     const auto reset = [&] {
         if (WholeRecords(PuzzleFile(dir.path(), kStem), kSudokuRecordSize) < 200) return;
@@ -134,11 +133,10 @@ TEST(KillTest, ImportLeavesThePuzzlesBeforeTheKillWhole) {
     const auto check = [&] {
         const long count = OpenPair(dir.path(), kStem);
         if (count < 0) return;  // killed before the first record
-        std::vector<std::vector<char>> sds;
+        std::vector<SudokuRecord> sds;
         for (long j = 0; j < count; ++j)
-            sds.push_back(
-                Bytes(SudokuRecord{puzzles[j % 8].puzzle, puzzles[j % 8].solution, 0, 0}));
-        ASSERT_EQ(FileBytes(PuzzleFile(dir.path(), kStem)), Concat(sds));
+            sds.push_back(SudokuRecord{puzzles[j % 8].puzzle, puzzles[j % 8].solution, 0, 0});
+        ASSERT_EQ(FileBytes(PuzzleFile(dir.path(), kStem)), BytesOf(sds));
         ASSERT_EQ(FileBytes(LogFile(dir.path(), kStem)),
                   std::vector<char>(count * kSudokuLogRecordSize, 0));
     };
@@ -237,15 +235,15 @@ TEST(KillTest, ExportLosesNoOutlawRecord) {
         const long out = std::max(OpenPair(dir.path(), kExportedStem), 0L);
         const long m = kCount - left;
         ASSERT_TRUE(out == m || out == m + 1) << left << " " << out;
-        std::vector<std::vector<char>> kept, moved;
+        std::vector<SudokuRecord> kept, moved;
         for (int j = 0; j < kCount; ++j)
-            (j < m ? moved : kept).push_back(Bytes(RecordOf(j)));
-        if (out == m + 1) moved.push_back(Bytes(RecordOf(int(m))));
+            (j < m ? moved : kept).push_back(RecordOf(j));
+        if (out == m + 1) moved.push_back(RecordOf(int(m)));
         if (left) {
-            ASSERT_EQ(FileBytes(PuzzleFile(dir.path(), outlaw)), Concat(kept));
+            ASSERT_EQ(FileBytes(PuzzleFile(dir.path(), outlaw)), BytesOf(kept));
         }
         if (out) {
-            ASSERT_EQ(FileBytes(PuzzleFile(dir.path(), kExportedStem)), Concat(moved));
+            ASSERT_EQ(FileBytes(PuzzleFile(dir.path(), kExportedStem)), BytesOf(moved));
         }
     };
     KillRuns(reset, writer, check, dir.path(), outlaw, 6000);

@@ -135,8 +135,7 @@ TEST_F(Input, ResetCellAndItsUndo) {
     const auto placed = Marks();
     g.CommandResetCell();  // nothing selected
     EXPECT_EQ(g.CurrentStep(), 1);
-    g.RowHeaderUp(cell / 9, MouseButton::Left, true);
-    g.ColumnHeaderUp(cell % 9, MouseButton::Left, true);
+    Select(cell);
     g.CommandResetCell();
     ASSERT_EQ(g.CurrentStep(), 2);
     EXPECT_EQ(g.MoveLog()[1].LogDigit, digit + 10);
@@ -154,8 +153,7 @@ TEST_F(Input, ResetCellAndItsUndo) {
     int clue = 0;
     while (!g.IsClue(clue))
         ++clue;
-    g.RowHeaderUp(clue / 9, MouseButton::Left, true);
-    g.ColumnHeaderUp(clue % 9, MouseButton::Left, true);
+    Select(clue);
     const int steps = g.CurrentStep();
     g.CommandResetCell();
     EXPECT_EQ(g.CurrentStep(), steps);

@@ -86,16 +86,11 @@ TEST_F(Life, ResumingABusyLevelAnsweredNoOffersTheSamePuzzleAgain) {
 }
 
 TEST_F(Life, ABusyLevelWhoseRecordWasErased) {
-    Game& g = Playing(5);
-    g.CommandNew();  // record 2, untouched
-    PlaceOne();
-    g.CommandSave();
-    prompter.answers = {Answer::Yes};
-    ASSERT_TRUE(g.CommandExit());
+    Game& g = Playing(5);    // record 1, left untouched
+    LeaveBusy(*this, g, 5);  // record 2
     ASSERT_EQ(store.Read("SudokuLevel5", "Number", ""), "2");
     // The record is erased behind the game's back.
-    SudokuLogRecord empty;
-    ASSERT_TRUE(WriteSudokuLogRecord(LogFile(folders.DataFolder, LevelStem(5)), 2, empty));
+    ASSERT_TRUE(WriteSudokuLogRecord(LogFile(folders.DataFolder, LevelStem(5)), 2, {}));
 
     prompter.shown.clear();
     prompter.answers = {Answer::Yes};

@@ -25,11 +25,6 @@ class Sequence : public GameFixture {
         }
         return false;
     }
-    void Select(int cell) {
-        if (game->SelectedRow != cell / 9) game->RowHeaderUp(cell / 9, MouseButton::Left, true);
-        if (game->SelectedColumn != cell % 9)
-            game->ColumnHeaderUp(cell % 9, MouseButton::Left, true);
-    }
     // Saves, then starts the program again and resumes the saved game.
     void SaveAndResume(int& actions) {
         const int steps = game->CurrentStep();
