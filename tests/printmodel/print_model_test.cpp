@@ -38,12 +38,9 @@ TEST(PrintRange, TheOnScreenPuzzleTakesTheFirstPlaceOnlyWhenThereIsOne) {
     snapshot.Number = 42;
     auto slots = PlanJob(Settings(2, 2, 1, true), snapshot);
     ASSERT_EQ(slots.size(), 8u);
-    EXPECT_TRUE(slots[0].onScreen);
-    EXPECT_EQ(slots[0].number, 42);
-    EXPECT_EQ(slots[1].number, 1);
-    EXPECT_EQ(slots[7].number, 7);
-    EXPECT_EQ(slots[4].page, 2);
-    EXPECT_EQ(slots[4].position, 0);
+    EXPECT_EQ(std::tuple(slots[0].onScreen, slots[0].number, slots[1].number, slots[7].number),
+              std::tuple(true, 42, 1, 7));
+    EXPECT_EQ(std::tuple(slots[4].page, slots[4].position), std::tuple(2, 0));
     snapshot.Number = 0;  // no game on the screen: the range starts at once
     slots = PlanJob(Settings(2, 1, 1, true), snapshot);
     EXPECT_FALSE(slots[0].onScreen);

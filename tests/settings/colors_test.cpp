@@ -27,10 +27,8 @@ TEST(HaalKleuren, AMissingOrUnreadableKeyKeepsTheColourInForce) {
     c.LabelFore[2] = 0x00112233;
     c.LabelBack[4] = 0x00445566;
     HaalKleuren(store, c);
-    EXPECT_EQ(c.LabelBack[1], 255u);
-    EXPECT_EQ(c.LabelFore[2], 0x00112233u);
-    EXPECT_EQ(c.HintColor[4], 0x00FF0000u);
-    EXPECT_EQ(c.LabelBack[4], 0x00445566u);
+    EXPECT_EQ(std::tuple(c.LabelBack[1], c.LabelFore[2], c.HintColor[4], c.LabelBack[4]),
+              std::tuple(255u, 0x00112233u, 0x00FF0000u, 0x00445566u));
 }
 
 TEST(SchrijfKleuren, WritesSevenLabelPairsAndNineHintColoursThatReadBack) {

@@ -87,22 +87,20 @@ TEST(ForeignPuzzles, LinesCandidatesAndGridsWithTheirProblems) {
                           "\r\n" + grid + "12345\n" + grid.substr(0, 60) + "\n" + line + "\n");
     const ForeignPuzzles read = ReadForeignPuzzles(in);
     ASSERT_EQ(read.puzzles.size(), 4u);
-    EXPECT_EQ(read.puzzles[0].line, 2);
-    EXPECT_EQ(read.puzzles[0].puzzle, p.puzzle);
+    EXPECT_EQ(std::tuple(read.puzzles[0].line, read.puzzles[0].puzzle), std::tuple(2, p.puzzle));
     // A candidate line knows a clue as a cell of one candidate: the givens and
     // every naked single of the fresh board.
     for (int c = 0; c < 81; ++c)
         EXPECT_EQ(read.puzzles[1].puzzle[c] != 0,
                   p.puzzle[c] != 0 || CountDigits(board.Candidates[c]) == 1);
-    EXPECT_EQ(read.puzzles[2].line, 5);
-    EXPECT_EQ(read.puzzles[2].puzzle, p.puzzle);
+    EXPECT_EQ(std::tuple(read.puzzles[2].line, read.puzzles[2].puzzle), std::tuple(5, p.puzzle));
     EXPECT_EQ(read.puzzles[3].puzzle, p.puzzle);
     // "12345", then two rows and a half of a grid.
     ASSERT_EQ(read.problems.size(), 3u);
-    EXPECT_EQ(read.problems[0].line, 16);
-    EXPECT_EQ(read.problems[0].why, "no puzzle and no row of nine cells");
-    EXPECT_EQ(read.problems[1].line, 17);
-    EXPECT_EQ(read.problems[1].why, "a grid of 2 rows; a grid needs 9");
+    EXPECT_EQ(std::tuple(read.problems[0].line, read.problems[0].why),
+              std::tuple(16, "no puzzle and no row of nine cells"));
+    EXPECT_EQ(std::tuple(read.problems[1].line, read.problems[1].why),
+              std::tuple(17, "a grid of 2 rows; a grid needs 9"));
     EXPECT_EQ(read.problems[2].line, 19);
 }
 
