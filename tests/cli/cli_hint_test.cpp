@@ -18,10 +18,11 @@ TEST(CliHint, TheFirstHintOfEachPuzzleWithItsPaints) {
     const auto& p = testing::GeneratedPuzzles(2);
     const std::string input =
         FormatDigits(p[0].puzzle, '.') + "\n" + FormatDigits(p[1].puzzle, '.') + "\n";
-    std::istringstream in(input);
-    std::ostringstream out, err;
+    std::istringstream in(input), again(input);
+    std::ostringstream out, painted, err;
     EXPECT_EQ(Hint(in, out, err, false), 0);
-    const auto plain = Lines(out.str());
+    EXPECT_EQ(Hint(again, painted, err, true), 0);
+    const auto plain = Lines(out.str()), lines = Lines(painted.str());
     ASSERT_EQ(plain.size(), 2u);
     for (size_t i = 0; i < 2; ++i) {
         const auto f = Fields(plain[i]);
@@ -31,10 +32,6 @@ TEST(CliHint, TheFirstHintOfEachPuzzleWithItsPaints) {
             << f[1];
     }
 
-    std::istringstream again(input);
-    std::ostringstream painted;
-    EXPECT_EQ(Hint(again, painted, err, true), 0);
-    const auto lines = Lines(painted.str());
     ASSERT_GT(lines.size(), 2u);
     EXPECT_EQ(lines[0], plain[0]);
     EXPECT_EQ(lines[1], "\terase");

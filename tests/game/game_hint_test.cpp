@@ -13,14 +13,6 @@ namespace {
 class Hints : public GameFixture {
   public:
     int Clock() { return game->ClockSeconds(); }
-    // An open cell and a digit that is a candidate there but not its solution.
-    std::pair<int, int> WrongCandidate() const {
-        const Board& b = game->board();
-        for (int c = 0; c < 81; ++c)
-            for (int d = 1; d <= 9; ++d)
-                if (!b.CurrentGrid[c] && d != b.Solution[c] && b.Has(d, c)) return {c, d};
-        return {-1, 0};
-    }
 };
 
 TEST_F(Hints, ATechniqueHintChangesNothingAndCostsFifteenSeconds) {

@@ -7,17 +7,6 @@ namespace {
 
 class Input : public GameFixture {
   public:
-    // An open cell with at least two marks, other than its solution, that a peer
-    // in the same row also carries; and that digit.
-    std::pair<int, int> OpenCellWithWrongMark() {
-        const Board& b = game->board();
-        for (int c = 0; c < 81; ++c) {
-            if (b.CurrentGrid[c]) continue;
-            for (int d = 1; d <= 9; ++d)
-                if (d != b.Solution[c] && b.Has(d, c)) return {c, d};
-        }
-        return {-1, 0};
-    }
     std::array<CandidateMask, 81> Marks() const { return game->board().Candidates; }
 };
 
@@ -70,7 +59,7 @@ TEST_F(Input, PencilmarksOffMattersOnlyBelowLevelFour) {
 
 TEST_F(Input, TakingAMarkAwayAndTheOnlyMarkLeft) {
     Game& g = Playing(6);
-    auto [cell, digit] = OpenCellWithWrongMark();
+    auto [cell, digit] = WrongCandidate();
     ASSERT_GE(cell, 0);
     g.MarkMouseUp(digit, cell, MouseButton::Right, true);
     EXPECT_FALSE(g.board().Has(digit, cell));

@@ -162,6 +162,14 @@ class GameFixture : public ::testing::Test {
             if (!game->board().CurrentGrid[c]) return {c, game->board().Solution[c]};
         return {-1, 0};
     }
+    // An open cell and a digit that is a candidate there but not its solution.
+    std::pair<int, int> WrongCandidate() const {
+        const Board& b = game->board();
+        for (int c = 0; c < 81; ++c)
+            for (int d = 1; d <= 9; ++d)
+                if (!b.CurrentGrid[c] && d != b.Solution[c] && b.Has(d, c)) return {c, d};
+        return {-1, 0};
+    }
     // Picks `cell` by its row and column headers (a header already picked stays).
     void Select(int cell) {
         if (game->SelectedRow != cell / 9) game->RowHeaderUp(cell / 9, MouseButton::Left, true);

@@ -22,8 +22,8 @@ class HintWindowTest : public tavi::testing::GameFixture {
   public:
     // A game of the first level with a technique's hint on the board.
     HintWindow& WithHint() {
-        options.HintWindow = true;
         Playing(1);
+        options.HintWindow = true;
         game->CommandHint();
         window.emplace(*game, folders);
         window->ShowHint();

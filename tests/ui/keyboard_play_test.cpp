@@ -51,10 +51,10 @@ auto Outcome(const Player& p) {
 
 TEST(KeyboardPlay, KeysMakeTheSameGameAsClicks) {
     Player mouse, keys;
-    mouse.options.Sounds = keys.options.Sounds = true;
     mouse.OpenActive();
-    mouse.Press("CommandNew");
     keys.OpenActive();
+    mouse.options.Sounds = keys.options.Sounds = true;  // after the start, which reads them
+    mouse.Press("CommandNew");
     keys.Key(Qt::Key_N, Qt::ControlModifier);
     ASSERT_EQ(mouse.game->board().Puzzle, keys.game->board().Puzzle);
 
