@@ -62,10 +62,8 @@ TEST(FirstRun, AMissingOrEmptyLibraryStopsTheStartAndTheNextStartTriesAgain) {
                       level == 8 ? 3 : 2);
 
         // And the one after that makes nothing.
-        Options third;
-        HaalOpties(store, third);
         RecordingNotifier quiet;
-        ASSERT_TRUE(PrepareLogFiles(folders, third, store, quiet));
+        ASSERT_TRUE(PrepareLogFiles(folders, again, store, quiet));
         EXPECT_TRUE(quiet.messages.empty());
     }
 }

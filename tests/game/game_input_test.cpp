@@ -63,13 +63,13 @@ TEST_F(Input, TakingAMarkAwayAndTheOnlyMarkLeft) {
     ASSERT_GE(cell, 0);
     g.MarkMouseUp(digit, cell, MouseButton::Right, true);
     EXPECT_FALSE(g.board().Has(digit, cell));
-    EXPECT_EQ(g.MoveLog().back().LogDigit, -digit);
-    EXPECT_EQ(g.MoveLog().back().LogOwnMarks, DigitBit(digit));
+    EXPECT_EQ(std::tuple(g.MoveLog().back().LogDigit, g.MoveLog().back().LogOwnMarks),
+              std::tuple(-digit, DigitBit(digit)));
     // Take every mark: the cell may end with none at all.
     for (int d = 1; d <= 9; ++d)
         if (g.board().Has(d, cell)) g.MarkMouseUp(d, cell, MouseButton::Right, true);
-    EXPECT_EQ(g.board().Candidates[cell], 0);
-    EXPECT_EQ(g.board().CurrentGrid[cell], 0);
+    EXPECT_EQ(std::tuple(g.board().Candidates[cell], g.board().CurrentGrid[cell]),
+              std::tuple(0, 0));
 }
 
 TEST_F(Input, UndoRedoRestoreExactlyWhateverTheOptionsSayNow) {
@@ -128,8 +128,8 @@ TEST_F(Input, ResetCellAndItsUndo) {
     g.CommandResetCell();
     ASSERT_EQ(g.CurrentStep(), 2);
     EXPECT_EQ(g.MoveLog()[1].LogDigit, digit + 10);
-    EXPECT_EQ(g.board().CurrentGrid[cell], 0);
-    EXPECT_EQ(g.board().Candidates[cell], kAllCandidates);
+    EXPECT_EQ(std::tuple(g.board().CurrentGrid[cell], g.board().Candidates[cell]),
+              std::tuple(0, kAllCandidates));
     for (int peer : Peers[cell])
         EXPECT_EQ(g.board().Candidates[peer], placed[peer]);
     g.CommandUndo();

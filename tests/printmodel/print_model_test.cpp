@@ -110,9 +110,8 @@ TEST_F(PrintJobTest, ReadsEachPuzzleWithItsMarksAndStopsAtTheFirstMissingRecord)
     // Record 4 does not exist: the job ends on page 2, after what was printed.
     EXPECT_EQ(r.events, (std::vector<std::string>{"begin 1", "# 2", "# 3", "end 1", "begin 2"}));
     const auto& p = testing::GeneratedPuzzles(3, 5)[1];
-    EXPECT_EQ(r.puzzles[0].Grid, p.puzzle);
-    EXPECT_EQ(r.puzzles[0].Solution, p.solution);
-    EXPECT_EQ(r.puzzles[0].Marks, BoardFromPuzzle(p.puzzle).Candidates);
+    EXPECT_EQ(std::tie(r.puzzles[0].Grid, r.puzzles[0].Solution, r.puzzles[0].Marks),
+              std::tuple(p.puzzle, p.solution, BoardFromPuzzle(p.puzzle).Candidates));
 }
 
 TEST_F(PrintJobTest, TheOnScreenPuzzleInItsCurrentStateKeepsItsDigitsAndMarks) {
@@ -130,9 +129,8 @@ TEST_F(PrintJobTest, TheOnScreenPuzzleInItsCurrentStateKeepsItsDigitsAndMarks) {
     Recorder r;
     EXPECT_EQ(RunPrintJob(s, snap, folder, r), PrintResult::Done);
     ASSERT_EQ(r.puzzles.size(), 1u);
-    EXPECT_EQ(r.puzzles[0].Grid, snap.Grid);
-    EXPECT_EQ(r.puzzles[0].Marks, snap.Marks);
-    EXPECT_EQ(r.puzzles[0].Number, 9);
+    EXPECT_EQ(std::tie(r.puzzles[0].Grid, r.puzzles[0].Marks, r.puzzles[0].Number),
+              std::tuple(snap.Grid, snap.Marks, 9));
     s.PrintPencils = false;
     Recorder bare;
     RunPrintJob(s, snap, folder, bare);
@@ -141,8 +139,8 @@ TEST_F(PrintJobTest, TheOnScreenPuzzleInItsCurrentStateKeepsItsDigitsAndMarks) {
     s.PrintCurrentState = false;
     Recorder clues;
     RunPrintJob(s, snap, folder, clues);
-    EXPECT_EQ(clues.puzzles[0].Grid, p.puzzle);
-    EXPECT_EQ(clues.puzzles[0].Marks, BoardFromPuzzle(p.puzzle).Candidates);
+    EXPECT_EQ(std::pair(clues.puzzles[0].Grid, clues.puzzles[0].Marks),
+              testing::GridAndMarks(BoardFromPuzzle(p.puzzle)));
 }
 
 TEST(TeachingPrint, TheTechniquesOfTheSolutionInOrderOfFirstUseWithTheirCounts) {

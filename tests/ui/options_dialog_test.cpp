@@ -76,8 +76,7 @@ TEST(OptionsDialog, KeepTimeEnablesTheTimerChoicesAndSoundsNeedsADevice) {
     // "Ask": save only after asking.
     Child<QRadioButton>(dialog, "Option3_2")->click();
     dialog.accept();
-    EXPECT_FALSE(options.AutoSave);
-    EXPECT_TRUE(options.AskSave);
+    EXPECT_EQ(std::pair(options.AutoSave, options.AskSave), std::pair(false, true));
 }
 
 TEST(OptionsDialog, TheTechniquesManagerCountsEvenWhenTheOptionsAreCancelled) {

@@ -80,9 +80,9 @@ TEST_F(TechniqueDialog, UpAndDownMoveThePickedRowWithinEightToThirtyEight) {
     Press("KnopDown");
     Press("KnopDown");
     EXPECT_EQ(tables.Order[8], 10);
-    EXPECT_EQ(dialog.TechniqueShownAt(10), 8);
-    EXPECT_EQ(dialog.TechniqueShownAt(8), 9);
-    EXPECT_EQ(dialog.TechniqueShownAt(9), 10);
+    EXPECT_EQ(std::tuple(dialog.TechniqueShownAt(8), dialog.TechniqueShownAt(9),
+                         dialog.TechniqueShownAt(10)),
+              std::tuple(9, 10, 8));
 
     Pick(38);  // Long AIC's, the last movable row
     Press("KnopDown");
