@@ -78,10 +78,9 @@ TEST_F(Input, UndoRedoRestoreExactlyWhateverTheOptionsSayNow) {
     // A peer's mark of the digit taken away by hand first stays away after undo.
     int handPeer = -1;
     for (int peer : Peers[cell])
-        if (g.board().Has(digit, peer) && CountDigits(g.board().Candidates[peer]) > 1) {
+        if (handPeer < 0 && g.board().Has(digit, peer) &&
+            CountDigits(g.board().Candidates[peer]) > 1)
             handPeer = peer;
-            break;
-        }
     ASSERT_GE(handPeer, 0);
     g.MarkMouseUp(digit, handPeer, MouseButton::Right, true);
     const auto beforePlace = Marks();

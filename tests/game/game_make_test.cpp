@@ -197,8 +197,7 @@ TEST_F(Make, CluesFromTypedTextAndDroppedFiles) {
         SCOPED_TRACE(k.files.front().filename().string());
         prompter.shown.clear();
         d.SudTekstDrop(k.files);
-        EXPECT_EQ(prompter.Texts(),
-                  k.said.empty() ? std::vector<std::string>{} : std::vector<std::string>{k.said});
+        EXPECT_EQ(prompter.Texts(), std::vector<std::string>(!k.said.empty(), k.said));
         std::string expected(k.clues);
         expected.resize(81, '.');
         EXPECT_EQ(d.board().CurrentGrid, DigitsOf(expected));

@@ -129,7 +129,6 @@ TEST(WriteBruteForceSolution, TheFoundSolutionGoesToTheFileAtItsNumber) {
     SudokuRecord r = RecordOf(1);
     r.Solution = {};
     ASSERT_TRUE(WriteSudokuRecord(PuzzleFile(dir.path(), stem), 2, r));
-    const auto first = FileBytes(PuzzleFile(dir.path(), stem));
 
     SolveContext ctx(Side::Workbench);
     ctx.board.Puzzle = r.Puzzle;
@@ -140,9 +139,8 @@ TEST(WriteBruteForceSolution, TheFoundSolutionGoesToTheFileAtItsNumber) {
 
     EXPECT_EQ(PairAt(dir.path(), stem, 2), std::pair(r, log));
     // Records 1 and 3 are as they were.
-    const auto after = FileBytes(PuzzleFile(dir.path(), stem));
-    EXPECT_TRUE(std::equal(after.begin(), after.begin() + 166, first.begin()));
-    EXPECT_TRUE(std::equal(after.begin() + 332, after.end(), first.begin() + 332));
+    for (int n : {1, 3})
+        EXPECT_EQ(PairAt(dir.path(), stem, n), std::pair(RecordOf(n - 1), SudokuLogRecord{}));
 
     RecordingNotifier notifier;
     EXPECT_FALSE(WriteBruteForceSolution(dir.path(), 2, 9, ctx.board, r, log, &notifier));

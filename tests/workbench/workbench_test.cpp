@@ -215,8 +215,8 @@ TEST_F(WorkbenchTest, BruteForceAnswersAndRemoveDuplicatesKeepsTheFirst) {
     Open(2).CommandSolve(true, false);
     EXPECT_TRUE(prompter.shown.size() == 1) << "a release outside the button does nothing";
     bench.CommandSolve(true, true);
-    EXPECT_EQ(prompter.shown.back().title, "Valid Sudoku");
-    EXPECT_EQ(prompter.shown.back().text, "This Sudoku has one unique solution");
+    EXPECT_EQ(prompter.Last(),
+              testing::TitleText("Valid Sudoku", "This Sudoku has one unique solution"));
     EXPECT_EQ(At(2, 1).Solution, easy[1].solution);
     bench.CommandRemoveDuplicates();
     EXPECT_EQ(prompter.shown.back().text, "2 duplicate sudokus removed.");
