@@ -90,14 +90,11 @@ TEST_F(Puzzles, ASavedGameComesBackWithItsStepsMarksAndClock) {
     Game& g = Playing(5);
     // 40 steps: placements and removals of wrong marks.
     while (g.CurrentStep() < 40) {
-        auto [cell, digit] = FirstOpenCell();
-        int wrong = 0;
-        for (int d = 1; d <= 9 && !wrong; ++d)
-            if (d != digit && g.board().Has(d, cell)) wrong = d;
-        if (wrong && g.CurrentStep() % 2 == 0)
+        const auto [cell, wrong] = WrongCandidate();
+        if (cell >= 0 && g.CurrentStep() % 2 == 0)
             g.MarkMouseUp(wrong, cell, MouseButton::Right, true);
         else
-            g.MarkMouseUp(digit, cell, MouseButton::Left, true);
+            PlaceOne();
     }
     ASSERT_EQ(g.CurrentStep(), 40);
     clock.now += 200;
