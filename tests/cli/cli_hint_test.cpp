@@ -12,25 +12,17 @@
 namespace tavi::cli {
 namespace {
 
-using testing::Lines;
-
-std::vector<std::string> Fields(const std::string& line) {
-    std::vector<std::string> f;
-    size_t start = 0;
-    for (size_t tab; (tab = line.find('\t', start)) != std::string::npos; start = tab + 1)
-        f.push_back(line.substr(start, tab - start));
-    f.push_back(line.substr(start));
-    return f;
-}
+using testing::Fields, testing::Lines;
 
 TEST(CliHint, TheFirstHintOfEachPuzzleWithItsPaints) {
     const auto& p = testing::GeneratedPuzzles(2);
     const std::string input =
         FormatDigits(p[0].puzzle, '.') + "\n" + FormatDigits(p[1].puzzle, '.') + "\n";
-    std::istringstream in(input);
-    std::ostringstream out, err;
+    std::istringstream in(input), again(input);
+    std::ostringstream out, painted, err;
     EXPECT_EQ(Hint(in, out, err, false), 0);
-    const auto plain = Lines(out.str());
+    EXPECT_EQ(Hint(again, painted, err, true), 0);
+    const auto plain = Lines(out.str()), lines = Lines(painted.str());
     ASSERT_EQ(plain.size(), 2u);
     for (size_t i = 0; i < 2; ++i) {
         const auto f = Fields(plain[i]);
@@ -40,10 +32,6 @@ TEST(CliHint, TheFirstHintOfEachPuzzleWithItsPaints) {
             << f[1];
     }
 
-    std::istringstream again(input);
-    std::ostringstream painted;
-    EXPECT_EQ(Hint(again, painted, err, true), 0);
-    const auto lines = Lines(painted.str());
     ASSERT_GT(lines.size(), 2u);
     EXPECT_EQ(lines[0], plain[0]);
     EXPECT_EQ(lines[1], "\terase");
@@ -56,16 +44,8 @@ TEST(CliHint, TheFirstHintOfEachPuzzleWithItsPaints) {
 
 TEST(CliHint, NoHintOnAFullBoardOrClashingGivens) {
     const auto& p = testing::GeneratedPuzzles(1)[0];
-    Digits clash = p.puzzle;
-    int a = 0;
-    while (!clash[a])
-        ++a;
-    int b = a + 1;
-    while (b % 9 && clash[b])
-        ++b;
-    ASSERT_EQ(b / 9, a / 9);
-    clash[b] = clash[a];
-    std::istringstream in(FormatDigits(p.solution) + "\n" + FormatDigits(clash) + "\n");
+    std::istringstream in(FormatDigits(p.solution) + "\n" +
+                          FormatDigits(testing::WithClash(p.puzzle)) + "\n");
     std::ostringstream out, err;
     Hint(in, out, err, true);
     for (const auto& line : Lines(out.str()))

@@ -72,7 +72,6 @@ TEST(CliLibrary, BuildWritesNineRatedFilesAndReportsTheCounts) {
     EXPECT_EQ(o.status, 0) << o.err;
     const auto lines = Lines(o.out);
     ASSERT_EQ(lines.size(), 10u) << o.out;
-    EXPECT_EQ(lines[0].rfind("Easy\t", 0), 0u);
     for (int level = 1; level <= 9; ++level) {
         const fs::path sds = PuzzleFile(dir.path(), LevelStem(level));
         ASSERT_TRUE(FileExists(sds)) << level;
@@ -84,9 +83,7 @@ TEST(CliLibrary, BuildWritesNineRatedFilesAndReportsTheCounts) {
         for (const SudokuRecord& r : records) {
             const SolutionCount s = Solutions(r.Puzzle);
             EXPECT_EQ(s.count, 1);
-            EXPECT_EQ(r.Solution, s.first);
-            EXPECT_EQ(r.BestMinutes, 0);
-            EXPECT_EQ(r.BestSeconds, 0);
+            EXPECT_EQ(r, (SudokuRecord{r.Puzzle, s.first, 0, 0}));
         }
         EXPECT_FALSE(fs::exists(LogFile(dir.path(), LevelStem(level))));
     }
@@ -101,31 +98,25 @@ TEST(CliLibrary, ImportAppendsWithSolutionsAndSkipsBadLinesByNumber) {
     Digits clash = puzzles[1].puzzle;
     clash[0] = clash[1] = 5;
     const fs::path text = dir / "in.txt";
-    {
-        std::ofstream f(text);
-        f << FormatDigits(puzzles[0].puzzle) << "\n"   // 1
-          << "not a puzzle at all\n"                   // 2
-          << FormatDigits(twoSolutions, '.') << "\n"   // 3
-          << "\n"                                      // 4
-          << FormatDigits(clash) << "\n"               // 5
-          << FormatDigits(puzzles[1].puzzle) << "\n";  // 6
-    }
+    std::ofstream(text) << FormatDigits(puzzles[0].puzzle) << "\n"   // 1
+                        << "not a puzzle at all\n"                   // 2
+                        << FormatDigits(twoSolutions, '.') << "\n"   // 3
+                        << "\n"                                      // 4
+                        << FormatDigits(clash) << "\n"               // 5
+                        << FormatDigits(puzzles[1].puzzle) << "\n";  // 6
     const std::string d = dir.path().string();
     Output o = RunCommand(LibraryCommand,
                           {"library", "import", text.string(), "--level", "4", "--dir", d});
     EXPECT_EQ(o.status, 2);  // line 2 is no puzzle
-    EXPECT_NE(o.err.find("line 2:"), std::string::npos) << o.err;
-    EXPECT_NE(o.err.find("line 3: more than one solution"), std::string::npos) << o.err;
-    EXPECT_NE(o.err.find("line 5: no solution"), std::string::npos) << o.err;
+    for (const char* said : {"line 2:", "line 3: more than one solution", "line 5: no solution"})
+        EXPECT_NE(o.err.find(said), std::string::npos) << o.err;
     EXPECT_EQ(o.out, "added 2 puzzles to Sudoku_Crazy.sds as records 1 to 2\n");
 
     const fs::path sds = PuzzleFile(dir.path(), LevelStem(4));
     std::vector<SudokuRecord> records;
     ASSERT_TRUE(ReadSudokuFile(sds, records));
-    ASSERT_EQ(records.size(), 2u);
-    EXPECT_EQ(records[0].Puzzle, puzzles[0].puzzle);
-    EXPECT_EQ(records[0].Solution, puzzles[0].solution);
-    EXPECT_EQ(records[1].Solution, puzzles[1].solution);
+    EXPECT_EQ(records, (std::vector<SudokuRecord>{{puzzles[0].puzzle, puzzles[0].solution, 0, 0},
+                                                  {puzzles[1].puzzle, puzzles[1].solution, 0, 0}}));
     EXPECT_EQ(WholeRecords(LogFile(dir.path(), LevelStem(4)), kSudokuLogRecordSize), 2);
 
     // A second import goes after the first; a level without its log gets one.
@@ -161,9 +152,7 @@ TEST(CliLibrary, ExportWritesPuzzleSolutionAndBestTimeAndFlagsADamagedFile) {
     EXPECT_EQ(ImportLibrary(in, 1, dir.path(), out, err), 0) << err.str();
     std::vector<SudokuRecord> back;
     ASSERT_TRUE(ReadSudokuFile(PuzzleFile(dir.path(), LevelStem(1)), back));
-    ASSERT_EQ(back.size(), 2u);
-    EXPECT_EQ(back[0].Puzzle, a.Puzzle);
-    EXPECT_EQ(back[1].Solution, b.Solution);
+    EXPECT_EQ(back, (std::vector<SudokuRecord>{{a.Puzzle, a.Solution, 0, 0}, b}));
 
     std::ofstream(sds, std::ios::app) << "tail";
     o = RunCommand(LibraryCommand, {"library", "export", sds.string()});

@@ -17,30 +17,26 @@
 #include "library/library_pair.h"
 #include "library/library_test_support.h"
 #include "library/pair_guard.h"
+#include "library/pair_rewrite.h"
 #include "library/record_journal.h"
 
 namespace tavi {
 namespace {
 
 namespace fs = std::filesystem;
-using testing::BusyLog;
-using testing::FileBytes;
-using testing::RecordOf;
-using testing::TempDir;
+using testing::BusyLog, testing::FileBytes, testing::RecordOf, testing::TempDir;
 
 constexpr int kKills = 200;
 constexpr std::string_view kStem = "Sudoku_Hard.sd";
 
+// The bytes of `records`, one after another, as a file holds them.
 template <typename Record>
-std::vector<char> Bytes(const Record& r) {
-    const auto b = ToBytes(r);
-    return {b.begin(), b.end()};
-}
-
-std::vector<char> Concat(const std::vector<std::vector<char>>& parts) {
+std::vector<char> BytesOf(const std::vector<Record>& records) {
     std::vector<char> all;
-    for (const auto& p : parts)
-        all.insert(all.end(), p.begin(), p.end());
+    for (const Record& r : records) {
+        const auto b = ToBytes(r);
+        all.insert(all.end(), b.begin(), b.end());
+    }
     return all;
 }
 
@@ -106,13 +102,14 @@ TEST(KillTest, AppendLeavesEveryRecordWhole) {
     const auto check = [&] {
         const long count = OpenPair(dir.path(), kStem);
         if (count < 0) return;  // killed before the first record
-        std::vector<std::vector<char>> sds, sdl;
+        std::vector<SudokuRecord> sds;
+        std::vector<SudokuLogRecord> sdl;
         for (int j = 1; j <= count; ++j) {
-            sds.push_back(Bytes(RecordOf(j)));
-            sdl.push_back(Bytes(BusyLog(j % 9)));
+            sds.push_back(RecordOf(j));
+            sdl.push_back(BusyLog(j % 9));
         }
-        ASSERT_EQ(FileBytes(PuzzleFile(dir.path(), kStem)), Concat(sds));
-        ASSERT_EQ(FileBytes(LogFile(dir.path(), kStem)), Concat(sdl));
+        ASSERT_EQ(FileBytes(PuzzleFile(dir.path(), kStem)), BytesOf(sds));
+        ASSERT_EQ(FileBytes(LogFile(dir.path(), kStem)), BytesOf(sdl));
     };
     const auto reset = [&] {
         if (WholeRecords(PuzzleFile(dir.path(), kStem), kSudokuRecordSize) < 200) return;
@@ -136,11 +133,10 @@ TEST(KillTest, ImportLeavesThePuzzlesBeforeTheKillWhole) {
     const auto check = [&] {
         const long count = OpenPair(dir.path(), kStem);
         if (count < 0) return;  // killed before the first record
-        std::vector<std::vector<char>> sds;
+        std::vector<SudokuRecord> sds;
         for (long j = 0; j < count; ++j)
-            sds.push_back(
-                Bytes(SudokuRecord{puzzles[j % 8].puzzle, puzzles[j % 8].solution, 0, 0}));
-        ASSERT_EQ(FileBytes(PuzzleFile(dir.path(), kStem)), Concat(sds));
+            sds.push_back(SudokuRecord{puzzles[j % 8].puzzle, puzzles[j % 8].solution, 0, 0});
+        ASSERT_EQ(FileBytes(PuzzleFile(dir.path(), kStem)), BytesOf(sds));
         ASSERT_EQ(FileBytes(LogFile(dir.path(), kStem)),
                   std::vector<char>(count * kSudokuLogRecordSize, 0));
     };
@@ -160,9 +156,6 @@ TEST(KillTest, SaveAndBestTimeLeaveTheOldRecordOrTheNew) {
     position.OpenLevel = 3;
     position.OpenRecord = 2;
     const auto reset = [&] { testing::MakeLevelFiles(dir.path(), kStem, 3); };
-    reset();
-    const auto sdsBefore = FileBytes(PuzzleFile(dir.path(), kStem));
-    const auto sdlBefore = FileBytes(LogFile(dir.path(), kStem));
     const auto writer = [&] {
         for (int j = 0;; ++j) {
             SaveGameLog(folders, position, BusyLog(j % 2 + 1), nullptr);
@@ -171,23 +164,51 @@ TEST(KillTest, SaveAndBestTimeLeaveTheOldRecordOrTheNew) {
     };
     const auto check = [&] {
         ASSERT_EQ(OpenPair(dir.path(), kStem), 3);
-        auto sds = FileBytes(PuzzleFile(dir.path(), kStem));
-        auto sdl = FileBytes(LogFile(dir.path(), kStem));
-        const std::vector<char> s(sds.begin() + kSudokuRecordSize,
-                                  sds.begin() + 2 * kSudokuRecordSize);
-        const std::vector<char> l(sdl.begin() + kSudokuLogRecordSize,
-                                  sdl.begin() + 2 * kSudokuLogRecordSize);
-        ASSERT_TRUE(s == Bytes(RecordOf(1)) || s == Bytes(RecordOf(4)));
-        ASSERT_TRUE(l == std::vector<char>(kSudokuLogRecordSize, 0) || l == Bytes(BusyLog(1)) ||
-                    l == Bytes(BusyLog(2)));
-        std::copy(sdsBefore.begin() + kSudokuRecordSize, sdsBefore.begin() + 2 * kSudokuRecordSize,
-                  sds.begin() + kSudokuRecordSize);
-        std::copy(sdlBefore.begin() + kSudokuLogRecordSize,
-                  sdlBefore.begin() + 2 * kSudokuLogRecordSize, sdl.begin() + kSudokuLogRecordSize);
-        ASSERT_EQ(sds, sdsBefore);
-        ASSERT_EQ(sdl, sdlBefore);
+        const auto [s, l] = testing::PairAt(dir.path(), kStem, 2);
+        ASSERT_TRUE(s == RecordOf(1) || s == RecordOf(4));
+        ASSERT_TRUE(l == SudokuLogRecord{} || l == BusyLog(1) || l == BusyLog(2));
+        for (int n : {1, 3})  // the records beside it, as made
+            ASSERT_EQ(testing::PairAt(dir.path(), kStem, n),
+                      std::pair(RecordOf(n - 1), SudokuLogRecord{}));
     };
     KillRuns(reset, writer, check, dir.path(), kStem, 5000);
+}
+
+// A rewrite that keeps two records of three leaves the old pair or the new one,
+// record and log in step.
+TEST(KillTest, RewriteLeavesTheOldPairOrTheNew) {
+    TempDir dir(testing::FastScratch()), made;
+    for (int i = 1; i <= 300; ++i) {
+        SudokuRecord r;
+        r.BestMinutes = std::int16_t(i);
+        SudokuLogRecord l;
+        l.ElapsedMinutes = std::int16_t(i);
+        ASSERT_TRUE(AppendToPair(made.path(), kStem, r, l));
+    }
+    int old = 0, fresh = 0;
+    const auto reset = [&] {
+        for (const fs::path& file : {PuzzleFile(dir.path(), kStem), LogFile(dir.path(), kStem)})
+            fs::copy_file(made / file.filename().string(), file,
+                          fs::copy_options::overwrite_existing);
+    };
+    const auto writer = [&] { KeepInPair(dir.path(), kStem, [](long n) { return n % 3 != 0; }); };
+    const auto check = [&] {
+        const long count = OpenPair(dir.path(), kStem);
+        ASSERT_TRUE(count == 300 || count == 200) << count;
+        // The old pair holds 1..300; the new one the numbers that are not a multiple of 3.
+        const auto expected = [&](long k) { return count == 300 ? k + 1 : k / 2 * 3 + k % 2 + 1; };
+        std::vector<SudokuRecord> puzzles;
+        ASSERT_TRUE(ReadSudokuFile(PuzzleFile(dir.path(), kStem), puzzles));
+        for (long k = 0; k < count; ++k)
+            ASSERT_EQ(puzzles[k].BestMinutes, expected(k));
+        for (long k : {0L, count / 2, count - 1})
+            ASSERT_EQ(testing::PairAt(dir.path(), kStem, k + 1).second.ElapsedMinutes, expected(k))
+                << "record and log in step";
+        ++(count == 300 ? old : fresh);
+    };
+    KillRuns(reset, writer, check, dir.path(), kStem, 4000);
+    EXPECT_GT(old, 0);
+    EXPECT_GT(fresh, 0);
 }
 
 // Record 1 of Outlaw moved out again and again: the Outlaw pair is always the
@@ -214,16 +235,13 @@ TEST(KillTest, ExportLosesNoOutlawRecord) {
         const long out = std::max(OpenPair(dir.path(), kExportedStem), 0L);
         const long m = kCount - left;
         ASSERT_TRUE(out == m || out == m + 1) << left << " " << out;
-        std::vector<std::vector<char>> kept, moved;
+        std::vector<SudokuRecord> kept, moved;
         for (int j = 0; j < kCount; ++j)
-            (j < m ? moved : kept).push_back(Bytes(RecordOf(j)));
-        if (out == m + 1) moved.push_back(Bytes(RecordOf(int(m))));
-        if (left) {
-            ASSERT_EQ(FileBytes(PuzzleFile(dir.path(), outlaw)), Concat(kept));
-        }
-        if (out) {
-            ASSERT_EQ(FileBytes(PuzzleFile(dir.path(), kExportedStem)), Concat(moved));
-        }
+            (j < m ? moved : kept).push_back(RecordOf(j));
+        if (out == m + 1) moved.push_back(RecordOf(int(m)));
+        // A pair of no records may be gone: its bytes are none all the same.
+        ASSERT_EQ(FileBytes(PuzzleFile(dir.path(), outlaw)), BytesOf(kept));
+        ASSERT_EQ(FileBytes(PuzzleFile(dir.path(), kExportedStem)), BytesOf(moved));
     };
     KillRuns(reset, writer, check, dir.path(), outlaw, 6000);
 }

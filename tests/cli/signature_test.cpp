@@ -8,6 +8,7 @@
 
 #include "cli/commands.h"
 #include "cli/library_commands.h"
+#include "support/puzzles.h"
 
 namespace tavi::cli {
 namespace {
@@ -25,13 +26,10 @@ TEST(LadderSignature, StaysAsRecorded) {
     std::istringstream in(puzzles.str());
     std::ostringstream out, err;
     ASSERT_EQ(Signature(in, out, err), 0);
-    std::istringstream got(out.str());
-    std::string line;
-    for (size_t i = 0; i < expected.size(); ++i) {
-        ASSERT_TRUE(std::getline(got, line));
-        EXPECT_EQ(line, expected[i]) << "puzzle " << i + 1;
-    }
-    EXPECT_FALSE(std::getline(got, line));
+    const auto got = testing::Lines(out.str());
+    ASSERT_EQ(got.size(), expected.size());
+    for (size_t i = 0; i < expected.size(); ++i)
+        EXPECT_EQ(got[i], expected[i]) << "puzzle " << i + 1;
 }
 
 }  // namespace

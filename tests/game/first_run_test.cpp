@@ -10,9 +10,7 @@ namespace tavi {
 namespace {
 
 namespace fs = std::filesystem;
-using testing::MakeLevelFiles;
-using testing::RecordingNotifier;
-using testing::TempDir;
+using testing::MakeLevelFiles, testing::RecordingNotifier, testing::TempDir;
 
 // Remembers whether the keys were pushed out before the start went on.
 struct FlushingStore : MemorySettingsStore {
@@ -44,9 +42,8 @@ TEST(FirstRun, AMissingOrEmptyLibraryStopsTheStartAndTheNextStartTriesAgain) {
         EXPECT_EQ(notifier.messages[2].second,
                   "Failed to write sudoku logfiles, program can't continue.");
         // The levels before it were done, the ones after it not.
-        EXPECT_TRUE(FileExists(LogFile(data.path(), LevelStem(7))));
-        EXPECT_FALSE(fs::exists(LogFile(data.path(), LevelStem(8))));
-        EXPECT_FALSE(fs::exists(LogFile(data.path(), LevelStem(9))));
+        for (int level = 1; level <= 9; ++level)
+            EXPECT_EQ(FileExists(LogFile(data.path(), LevelStem(level))), level < 8) << level;
         EXPECT_FALSE(options.LogfilesMade);
         EXPECT_EQ(store.Read("Options", "Logfiles", "False"), "False");
 
@@ -65,10 +62,8 @@ TEST(FirstRun, AMissingOrEmptyLibraryStopsTheStartAndTheNextStartTriesAgain) {
                       level == 8 ? 3 : 2);
 
         // And the one after that makes nothing.
-        Options third;
-        HaalOpties(store, third);
         RecordingNotifier quiet;
-        ASSERT_TRUE(PrepareLogFiles(folders, third, store, quiet));
+        ASSERT_TRUE(PrepareLogFiles(folders, again, store, quiet));
         EXPECT_TRUE(quiet.messages.empty());
     }
 }

@@ -17,8 +17,7 @@ TEST_F(Life, FirstStartWithAnEmptyStore) {
     EXPECT_EQ(g.Caption(), "Tavi Sudoku 1");
     EXPECT_FALSE(g.GridEnabled());
     EXPECT_TRUE(g.position().SudokuSolved);
-    EXPECT_FALSE(g.commands().Undo);
-    EXPECT_FALSE(g.commands().Hint);
+    EXPECT_EQ(g.commands(), CommandStates{});
     // The library was copied to the data folder, and every puzzle has a log record.
     for (int level = 1; level <= 9; ++level)
         EXPECT_EQ(WholeRecords(LogFile(folders.DataFolder, LevelStem(level)), kSudokuLogRecordSize),
@@ -34,11 +33,7 @@ TEST_F(Life, AFirstRunWithoutALibraryCannotGoOn) {
     std::filesystem::remove(PuzzleFile(folders.AppFolder, LevelStem(4)));
     NewGame();
     EXPECT_FALSE(game->Start());
-    const auto texts = prompter.Texts();
-    ASSERT_EQ(texts.size(), 3u);
-    EXPECT_EQ(texts[1], "Could not open source file " +
-                            PuzzleFile(folders.DataFolder, LevelStem(4)).string());
-    EXPECT_EQ(texts[2], "Failed to write sudoku logfiles, program can't continue.");
+    EXPECT_EQ(prompter.Texts().back(), "Failed to write sudoku logfiles, program can't continue.");
     EXPECT_EQ(store.Read("Options", "Logfiles", "False"), "False");
 }
 
@@ -73,9 +68,7 @@ TEST_F(Life, ResumingABusyLevelAnsweredYes) {
 }
 
 TEST_F(Life, ResumingABusyLevelAnsweredNoOffersTheSamePuzzleAgain) {
-    Game& g = Started();
-    g.OptionType(3);
-    g.CommandNew();          // record 1, left untouched
+    Game& g = Playing(3);    // record 1, left untouched
     LeaveBusy(*this, g, 3);  // record 2
     ASSERT_EQ(store.Read("SudokuLevel3", "Number", ""), "2");
     prompter.answers = {Answer::No};
@@ -93,18 +86,11 @@ TEST_F(Life, ResumingABusyLevelAnsweredNoOffersTheSamePuzzleAgain) {
 }
 
 TEST_F(Life, ABusyLevelWhoseRecordWasErased) {
-    Game& g = Started();
-    g.OptionType(5);
-    g.CommandNew();
-    g.CommandNew();  // record 2, untouched
-    PlaceOne();
-    g.CommandSave();
-    prompter.answers = {Answer::Yes};
-    ASSERT_TRUE(g.CommandExit());
+    Game& g = Playing(5);    // record 1, left untouched
+    LeaveBusy(*this, g, 5);  // record 2
     ASSERT_EQ(store.Read("SudokuLevel5", "Number", ""), "2");
     // The record is erased behind the game's back.
-    SudokuLogRecord empty;
-    ASSERT_TRUE(WriteSudokuLogRecord(LogFile(folders.DataFolder, LevelStem(5)), 2, empty));
+    ASSERT_TRUE(WriteSudokuLogRecord(LogFile(folders.DataFolder, LevelStem(5)), 2, {}));
 
     prompter.shown.clear();
     prompter.answers = {Answer::Yes};
@@ -128,11 +114,9 @@ class ExitPaths : public GameFixture, public ::testing::WithParamInterface<ExitC
 
 TEST_P(ExitPaths, AskAndSaveAsTheOptionsSay) {
     const ExitCase& c = GetParam();
-    Game& g = Started();
+    Game& g = Playing(1);
     options.AutoSave = c.autoSave;
     options.AskSave = c.askSave;
-    g.OptionType(1);
-    g.CommandNew();
     PlaceOne();
     prompter.answers.assign(c.answers.begin(), c.answers.end());
     EXPECT_EQ(g.CommandExit(), c.ends);
@@ -156,10 +140,8 @@ INSTANTIATE_TEST_SUITE_P(
     [](const auto& param) { return std::string(param.param.name); });
 
 TEST_F(Life, ClosingTheWindowWithNeitherOptionAsksToSave) {
-    Game& g = Started();
+    Game& g = Playing(1);
     options.AutoSave = options.AskSave = false;
-    g.OptionType(1);
-    g.CommandNew();
     PlaceOne();
     prompter.answers = {Answer::Cancel};
     EXPECT_FALSE(g.QueryUnload());
@@ -171,9 +153,7 @@ TEST_F(Life, ClosingTheWindowWithNeitherOptionAsksToSave) {
 }
 
 TEST_F(Life, AnUntouchedPuzzleIsOfferedAgain) {
-    Game& g = Started();
-    g.OptionType(2);
-    g.CommandNew();
+    Game& g = Playing(2);
     prompter.answers = {Answer::Yes};
     ASSERT_TRUE(g.CommandExit());
     EXPECT_EQ(store.Read("SudokuLevel2", "Number", ""), "0");

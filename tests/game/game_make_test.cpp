@@ -39,11 +39,6 @@ class Make : public GameFixture {
             n.push_back(Records(level) * 1000 + Records(level, true));
         return n;
     }
-    static CommandStates Ended() {
-        CommandStates c;
-        c.Save = false;
-        return c;
-    }
 };
 
 std::string Solved() { return FormatDigits(Solutions(DigitsOf(kHard)).first, '.'); }
@@ -119,12 +114,9 @@ TEST_F(Make, EveryWayOutOfValidateThatStoresNothing) {
 TEST_F(Make, AHardPuzzleClickedInEndsAsTheLastRecordOfTheHardPairAfterAFailedWrite) {
     Game& g = Making();
     const Digits puzzle = DigitsOf(kHard);
-    int clues = 0;
+    const int clues = 81 - int(std::count(puzzle.begin(), puzzle.end(), 0));
     for (int c = 0; c < 81; ++c)
-        if (puzzle[c]) {
-            g.MarkMouseUp(puzzle[c], c, MouseButton::Left, true);
-            ++clues;
-        }
+        if (puzzle[c]) g.MarkMouseUp(puzzle[c], c, MouseButton::Left, true);
     ASSERT_EQ(g.board().CurrentGrid, puzzle);
     EXPECT_EQ(g.CurrentStep(), clues);
     EXPECT_FALSE(g.commands().Undo);  // no Undo while making
@@ -205,8 +197,7 @@ TEST_F(Make, CluesFromTypedTextAndDroppedFiles) {
         SCOPED_TRACE(k.files.front().filename().string());
         prompter.shown.clear();
         d.SudTekstDrop(k.files);
-        EXPECT_EQ(prompter.Texts(),
-                  k.said.empty() ? std::vector<std::string>{} : std::vector<std::string>{k.said});
+        EXPECT_EQ(prompter.Texts(), std::vector<std::string>(!k.said.empty(), k.said));
         std::string expected(k.clues);
         expected.resize(81, '.');
         EXPECT_EQ(d.board().CurrentGrid, DigitsOf(expected));

@@ -9,10 +9,7 @@ namespace tavi {
 namespace {
 
 namespace fs = std::filesystem;
-using testing::BusyLog;
-using testing::MakeLevelFiles;
-using testing::RecordOf;
-using testing::TempDir;
+using testing::BusyLog, testing::MakeLevelFiles, testing::RecordOf, testing::TempDir;
 
 std::string Number(const MemorySettingsStore& s, int level) {
     return s.Read("SudokuLevel" + std::to_string(level), "Number", "?");
@@ -73,11 +70,8 @@ TEST(HaalLaatsteSudoku, ReadsWhatSaveLastSudokuWroteAndDefaultsTheRest) {
     MemorySettingsStore store;
     LibraryPosition p;
     HaalLaatsteSudoku(store, p);
-    EXPECT_EQ(p.LastLevel, 0);
-    for (int i = 1; i <= 9; ++i) {
-        EXPECT_EQ(p.PuzzleNumber[i], 0);
-        EXPECT_FALSE(p.LevelBusy[i]);
-    }
+    EXPECT_EQ(std::tuple(p.LastLevel, p.PuzzleNumber, p.LevelBusy),
+              std::tuple(0, std::array<int, 10>{}, std::array<bool, 10>{}));
 
     SaveLastSudoku(store, Playing(6, 40, 2));
     store.Write("SudokuLevel1", "Number", "lots");  // damaged: taken as missing
@@ -86,12 +80,8 @@ TEST(HaalLaatsteSudoku, ReadsWhatSaveLastSudokuWroteAndDefaultsTheRest) {
     HaalLaatsteSudoku(store, back);
     EXPECT_EQ(back.LastLevel, 6);
     EXPECT_EQ(back.StoredNumber[6], 40);
-    EXPECT_EQ(back.PuzzleNumber[6], 40);
-    EXPECT_EQ(back.PuzzleNumber[9], 90);
-    EXPECT_EQ(back.PuzzleNumber[1], 0);
-    EXPECT_EQ(back.PuzzleNumber[2], 0);
-    EXPECT_TRUE(back.LevelBusy[6]);
-    EXPECT_FALSE(back.LevelBusy[5]);
+    EXPECT_EQ(back.PuzzleNumber, (std::array{0, 0, 0, 30, 40, 50, 40, 70, 80, 90}));
+    EXPECT_EQ(back.LevelBusy, (std::array<bool, 10>{0, 0, 0, 0, 0, 0, 1, 0, 0, 0}));
 
     store.Write("Sudoku", "Level", "12");
     HaalLaatsteSudoku(store, back);

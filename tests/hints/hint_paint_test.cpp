@@ -11,15 +11,8 @@
 namespace tavi {
 namespace {
 
-using testing::Box;
-using testing::KeepDigitOnlyIn;
-using testing::KeepDigitsOnlyIn;
-using testing::OpenBoard;
-using testing::PaintedBoard;
-using testing::Record;
-using testing::Removal;
-using testing::Row;
-using testing::SetCandidates;
+using testing::Box, testing::KeepDigitOnlyIn, testing::KeepDigitsOnlyIn, testing::OpenBoard,
+    testing::PaintedBoard, testing::Record, testing::Removal, testing::Row, testing::SetCandidates;
 
 HintRecord HintOf(const Board& board, bool (*rung)(SolveContext&)) {
     SolveContext ctx = testing::ContextOn(board, Side::Game);

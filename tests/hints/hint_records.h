@@ -3,9 +3,12 @@
 // keeps a stale mark, so a sentence or a paint that reads one shows it.
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <initializer_list>
 
 #include "hints/hint_paint.h"
+#include "hints/schrijf_hint.h"
 #include "support/boards.h"
 
 namespace tavi::testing {
@@ -43,6 +46,19 @@ class Record {
     }
     HintRecord h_;
 };
+
+// A record and the sentence it gives on a board.
+struct SentenceCase {
+    HintRecord hint;
+    const char* sentence;
+};
+
+inline void ExpectSentences(std::initializer_list<SentenceCase> cases,
+                            const Board& board = OpenBoard()) {
+    for (const SentenceCase& c : cases)
+        EXPECT_EQ(SchrijfHint(c.hint, board), c.sentence)
+            << "kind " << c.hint.HintKind << " variant " << c.hint.HintVariant;
+}
 
 // A candidate of Medusa's records: cell + 81 x (digit - 1).
 constexpr int Coded(int cell, int digit) { return cell + 81 * (digit - 1); }

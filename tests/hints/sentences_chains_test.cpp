@@ -9,21 +9,7 @@
 namespace tavi {
 namespace {
 
-using testing::Coded;
-using testing::OpenBoard;
-using testing::Record;
-using testing::SetCandidates;
-
-struct SentenceCase {
-    HintRecord hint;
-    const char* sentence;
-};
-
-void ExpectSentences(std::initializer_list<SentenceCase> cases, const Board& board = OpenBoard()) {
-    for (const SentenceCase& c : cases)
-        EXPECT_EQ(SchrijfHint(c.hint, board), c.sentence)
-            << "kind " << c.hint.HintKind << " variant " << c.hint.HintVariant;
-}
+using testing::ExpectSentences, testing::OpenBoard, testing::Record, testing::SetCandidates;
 
 TEST(SchrijfHint, AlsWorksOutItsRemovalsFromTheBoard) {
     // A1 {1,2} against B2 {1,3} and C3 {2,3} in the same box: 1 is restricted, and

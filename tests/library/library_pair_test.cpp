@@ -13,42 +13,27 @@ namespace tavi {
 namespace {
 
 namespace fs = std::filesystem;
-using testing::BusyLog;
-using testing::FileBytes;
-using testing::MakeLevelFiles;
-using testing::RecordingNotifier;
-using testing::RecordOf;
-using testing::TempDir;
-using testing::WriteBytes;
+using testing::BusyLog, testing::FileBytes, testing::MakeLevelFiles, testing::PairAt,
+    testing::RecordingNotifier, testing::RecordOf, testing::TempDir, testing::WriteBytes;
 
 constexpr std::string_view kStem = "Sudoku_Medium.sd";
 
-TEST(ReadPair, AMissingLogGivesTheSourceFileMessage) {
+TEST(ReadPair, AMissingLogOrARecordBeyondTheEndIsSaidAndNothingRead) {
     TempDir dir;
     MakeLevelFiles(dir.path(), kStem, 2, /*withLog=*/false);
     SudokuRecord r = RecordOf(3);
-    SudokuLogRecord l;
+    SudokuLogRecord l = BusyLog(1);
     RecordingNotifier notifier;
     EXPECT_FALSE(ReadPair(dir.path(), kStem, 1, r, l, &notifier));
     EXPECT_EQ(notifier.messages.back().second, "Source file: Sudoku_Medium.sd* not found!");
-    EXPECT_EQ(r, RecordOf(3));
-}
-
-TEST(ReadPair, ARecordBeyondTheEndIsReportedAndNothingRead) {
-    TempDir dir;
-    MakeLevelFiles(dir.path(), kStem, 2);
-    SudokuRecord r;
-    SudokuLogRecord l = BusyLog(1);
-    RecordingNotifier notifier;
+    MakeLevelFiles(dir.path(), kStem, 2);  // now with its log
+    notifier.messages.clear();
     EXPECT_FALSE(ReadPair(dir.path(), kStem, 3, r, l, &notifier));
     ASSERT_EQ(notifier.messages.size(), 1u);
     EXPECT_EQ(notifier.messages[0].first, "File Error");
     EXPECT_NE(notifier.messages[0].second.find("Record 3"), std::string::npos);
-    EXPECT_EQ(l, BusyLog(1));
-
-    ASSERT_TRUE(ReadPair(dir.path(), kStem, 2, r, l, &notifier));
-    EXPECT_EQ(r, RecordOf(1));
-    EXPECT_EQ(l, SudokuLogRecord{});
+    EXPECT_EQ(std::pair(r, l), std::pair(RecordOf(3), BusyLog(1)));
+    EXPECT_EQ(PairAt(dir.path(), kStem, 2), std::pair(RecordOf(1), SudokuLogRecord{}));
 }
 
 TEST(WritePair, WhenTheLogCantFollowThePuzzleRecordIsPutBack) {
@@ -83,10 +68,7 @@ TEST(AppendToPair, RefusesHalfAPairAndRepairsOneOutOfStep) {
     ASSERT_TRUE(AppendToPair(dir.path(), kStem, RecordOf(5), BusyLog(5), &number, &why)) << why;
     EXPECT_EQ(number, 5);
     EXPECT_NE(why.find("4 records were kept"), std::string::npos) << why;
-    SudokuRecord r;
-    SudokuLogRecord l;
-    ASSERT_TRUE(ReadPair(dir.path(), kStem, 5, r, l, nullptr));
-    EXPECT_EQ(l, BusyLog(5));
+    EXPECT_EQ(PairAt(dir.path(), kStem, 5).second, BusyLog(5));
 }
 
 struct OutlawLibrary {
@@ -97,11 +79,7 @@ struct OutlawLibrary {
         for (int i = 1; i <= count; ++i)
             EXPECT_TRUE(WriteSudokuLogRecord(LogFile(dir.path(), stem), i, BusyLog(i)));
     }
-    SudokuLogRecord Log(long n) {
-        SudokuLogRecord l;
-        EXPECT_TRUE(ReadSudokuLogRecord(LogFile(dir.path(), stem), n, l));
-        return l;
-    }
+    SudokuLogRecord Log(long n) { return PairAt(dir.path(), stem, n).second; }
 };
 
 TEST(ExportSudoku, MovesTheRecordOutAndClosesTheGap) {
@@ -115,11 +93,7 @@ TEST(ExportSudoku, MovesTheRecordOutAndClosesTheGap) {
     EXPECT_EQ(lib.Log(2), BusyLog(3));
     EXPECT_EQ(lib.Log(3), BusyLog(4));
 
-    SudokuRecord r;
-    SudokuLogRecord l;
-    ASSERT_TRUE(ReadPair(lib.dir.path(), "Exported_Sudokus.sd", 1, r, l, nullptr));
-    EXPECT_EQ(r, RecordOf(1));
-    EXPECT_EQ(l, BusyLog(2));
+    EXPECT_EQ(PairAt(lib.dir.path(), "Exported_Sudokus.sd", 1), std::pair(RecordOf(1), BusyLog(2)));
     EXPECT_FALSE(fs::exists(lib.dir / "2Sudoku_Outlaw.sds"));
     EXPECT_FALSE(fs::exists(lib.dir / "2Sudoku_Outlaw.sdl"));
 
@@ -155,7 +129,6 @@ TEST(WriteBruteForceSolution, TheFoundSolutionGoesToTheFileAtItsNumber) {
     SudokuRecord r = RecordOf(1);
     r.Solution = {};
     ASSERT_TRUE(WriteSudokuRecord(PuzzleFile(dir.path(), stem), 2, r));
-    const auto first = FileBytes(PuzzleFile(dir.path(), stem));
 
     SolveContext ctx(Side::Workbench);
     ctx.board.Puzzle = r.Puzzle;
@@ -164,35 +137,16 @@ TEST(WriteBruteForceSolution, TheFoundSolutionGoesToTheFileAtItsNumber) {
     ASSERT_TRUE(WriteBruteForceSolution(dir.path(), 2, 2, ctx.board, r, log, nullptr));
     EXPECT_EQ(r.Solution, RecordOf(1).Solution);
 
-    SudokuRecord onDisk;
-    SudokuLogRecord logOnDisk;
-    ASSERT_TRUE(ReadPair(dir.path(), stem, 2, onDisk, logOnDisk, nullptr));
-    EXPECT_EQ(onDisk, r);
-    EXPECT_EQ(logOnDisk, log);
+    EXPECT_EQ(PairAt(dir.path(), stem, 2), std::pair(r, log));
     // Records 1 and 3 are as they were.
-    const auto after = FileBytes(PuzzleFile(dir.path(), stem));
-    EXPECT_TRUE(std::equal(after.begin(), after.begin() + 166, first.begin()));
-    EXPECT_TRUE(std::equal(after.begin() + 332, after.end(), first.begin() + 332));
+    for (int n : {1, 3})
+        EXPECT_EQ(PairAt(dir.path(), stem, n), std::pair(RecordOf(n - 1), SudokuLogRecord{}));
 
     RecordingNotifier notifier;
     EXPECT_FALSE(WriteBruteForceSolution(dir.path(), 2, 9, ctx.board, r, log, &notifier));
-    ASSERT_EQ(notifier.messages.size(), 1u);
-    EXPECT_EQ(notifier.messages[0], std::make_pair(std::string("File Error"),
-                                                   std::string("Error writing sudoku to file !")));
+    EXPECT_EQ(notifier.messages,
+              (std::vector<testing::TitleText>{{"File Error", "Error writing sudoku to file !"}}));
 }
-
-}  // namespace
-}  // namespace tavi
-
-namespace tavi {
-namespace {
-
-using testing::BusyLog;
-using testing::FileBytes;
-using testing::MakeLevelFiles;
-using testing::RecordOf;
-using testing::TempDir;
-using testing::WriteBytes;
 
 // The states a kill can leave a pair in, one by one: each opens as the old pair
 // or the new one, whole. An append is cut at every 37th byte; the rewrite

@@ -9,11 +9,8 @@ namespace tavi {
 namespace {
 
 namespace fs = std::filesystem;
-using testing::FileBytes;
-using testing::MakeLevelFiles;
-using testing::RecordingNotifier;
-using testing::TempDir;
-using testing::WriteBytes;
+using testing::FileBytes, testing::MakeLevelFiles, testing::RecordingNotifier, testing::TempDir,
+    testing::WriteBytes;
 
 struct Library {
     TempDir app, data;
@@ -32,10 +29,8 @@ TEST(CopyLibraryFiles, CopiesWhatIsMissingAndNeverOverwrites) {
 
     for (int level = 1; level <= 9; ++level) {
         const fs::path copy = PuzzleFile(lib.data.path(), LevelStem(level));
-        if (level == 3)
-            EXPECT_EQ(FileBytes(copy), hard);
-        else
-            EXPECT_EQ(FileBytes(copy), FileBytes(PuzzleFile(lib.app.path(), LevelStem(level))));
+        EXPECT_EQ(FileBytes(copy),
+                  level == 3 ? hard : FileBytes(PuzzleFile(lib.app.path(), LevelStem(level))));
         EXPECT_FALSE(fs::exists(LogFile(lib.data.path(), LevelStem(level))));
     }
     EXPECT_EQ(std::distance(fs::directory_iterator(lib.data.path()), fs::directory_iterator()), 9);

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "library/library_files.h"
+#include "library/library_pair.h"
 #include "library/records.h"
 #include "support/puzzles.h"
 
@@ -87,6 +88,14 @@ inline SudokuLogRecord BusyLog(int variant) {
         l.LogBoxMarks[i] = std::int16_t(i * 13 % 512);
     }
     return l;
+}
+
+// Record `n` of the pair `stem` in `folder`, with its log; a read that fails fails the test.
+inline std::pair<SudokuRecord, SudokuLogRecord> PairAt(const std::filesystem::path& folder,
+                                                       std::string_view stem, long n) {
+    std::pair<SudokuRecord, SudokuLogRecord> p;
+    EXPECT_TRUE(ReadPair(folder, stem, n, p.first, p.second, nullptr)) << stem << " " << n;
+    return p;
 }
 
 // A `.sds` file of `count` records (and, if asked, its `.sdl` file of empty logs).

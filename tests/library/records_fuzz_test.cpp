@@ -16,11 +16,8 @@ namespace tavi {
 namespace {
 
 namespace fs = std::filesystem;
-using testing::BusyLog;
-using testing::FileBytes;
-using testing::RecordOf;
-using testing::TempDir;
-using testing::WriteBytes;
+using testing::BusyLog, testing::FileBytes, testing::RecordOf, testing::TempDir,
+    testing::WriteBytes;
 
 constexpr int kInputs = 10000;
 
@@ -130,7 +127,6 @@ TEST(RecordFuzz, PairsOfAnyShapeOpenIntoStep) {
         for (long n = -1; n <= count + 1; ++n) {
             SudokuRecord r;
             SudokuLogRecord l;
-            std::string why;
             if (ReadPair(dir.path(), stem, n, r, l, nullptr)) {
                 ASSERT_TRUE(InRange(r) && InRange(l)) << i;
             }

@@ -7,8 +7,7 @@
 namespace tavi {
 namespace {
 
-using testing::BusyLog;
-using testing::RecordOf;
+using testing::BusyLog, testing::RecordOf;
 
 int Int16At(const auto& bytes, std::size_t offset) {
     return std::int16_t(bytes[offset] | (bytes[offset + 1] << 8));
@@ -24,10 +23,8 @@ TEST(SudokuRecordFormat, FieldsStandAtTheirOffsetsLittleEndian) {
         EXPECT_EQ(bytes[c], r.Puzzle[c]);
         EXPECT_EQ(bytes[81 + c], r.Solution[c]);
     }
-    EXPECT_EQ(bytes[162], 0x34);
-    EXPECT_EQ(bytes[163], 0x12);
-    EXPECT_EQ(bytes[164], 0xFE);
-    EXPECT_EQ(bytes[165], 0xFF);
+    EXPECT_EQ(std::vector(bytes.begin() + 162, bytes.end()),
+              (std::vector<std::uint8_t>{0x34, 0x12, 0xFE, 0xFF}));
     EXPECT_EQ(SudokuRecordFromBytes(bytes), r);
 }
 
@@ -43,15 +40,13 @@ TEST(SudokuLogRecordFormat, FieldsStandAtTheirOffsetsLittleEndian) {
     for (int c = 0; c < 81; ++c)
         EXPECT_EQ(Int16At(bytes, 85 + 2 * c), l.SavedCandidates[c]);
     EXPECT_EQ(Int16At(bytes, 247), l.StepCount);
-    for (int i = 0; i < 100; ++i) {
-        EXPECT_EQ(Int16At(bytes, 249 + 2 * i), l.LogDigit[i]);
-        EXPECT_EQ(Int16At(bytes, 449 + 2 * i), l.LogCell[i]);
-        EXPECT_EQ(Int16At(bytes, 649 + 2 * i), l.LogOwnMarks[i]);
-        EXPECT_EQ(Int16At(bytes, 849 + 2 * i), l.LogColumnMarks[i]);
-        EXPECT_EQ(Int16At(bytes, 1049 + 2 * i), l.LogRowMarks[i]);
-        EXPECT_EQ(Int16At(bytes, 1249 + 2 * i), l.LogBoxMarks[i]);
-    }
-    EXPECT_EQ(Int16At(bytes, 1447), l.LogBoxMarks[99]);
+    // Then the six lists of the steps, 100 entries each.
+    int at = 249;
+    for (const auto* steps : {&l.LogDigit, &l.LogCell, &l.LogOwnMarks, &l.LogColumnMarks,
+                              &l.LogRowMarks, &l.LogBoxMarks})
+        for (int i = 0; i < 100; ++i, at += 2)
+            EXPECT_EQ(Int16At(bytes, at), (*steps)[i]);
+    EXPECT_EQ(at, 1449);
 }
 
 TEST(RecordFormat, BytesRoundTripUnchanged) {
@@ -66,48 +61,28 @@ TEST(RecordFormat, BytesRoundTripUnchanged) {
     EXPECT_EQ(ToBytes(SudokuLogRecordFromBytes(b)), b);
 }
 
-TEST(SavedClockSign, TheSignCarriesTheTwoClockOptions) {
+// The saved minutes and seconds, and the clock read back from them.
+auto Saved(const SudokuLogRecord& l) {
+    const SavedClock c = ReadClock(l);
+    return std::tuple(l.ElapsedMinutes, l.ElapsedSeconds, c.seconds, c.TimeOn, c.TimeShow);
+}
+
+TEST(SavedClockSign, TheSignCarriesTheTwoClockOptionsAndALargeClockIsClamped) {
     SudokuLogRecord l;
     SetClock(l, 200, /*timeOn=*/true, /*timeShow=*/false);  // 3:20, hidden
-    EXPECT_EQ(l.ElapsedMinutes, -3);
-    EXPECT_EQ(l.ElapsedSeconds, -20);
-    SavedClock c = ReadClock(l);
-    EXPECT_EQ(c.seconds, 200);
-    EXPECT_TRUE(c.TimeOn);
-    EXPECT_FALSE(c.TimeShow);
-
+    EXPECT_EQ(Saved(l), std::tuple(-3, -20, 200, true, false));
     SetClock(l, 200, true, true);
-    EXPECT_EQ(l.ElapsedMinutes, 3);
-    EXPECT_EQ(l.ElapsedSeconds, 20);
-    c = ReadClock(l);
-    EXPECT_EQ(c.seconds, 200);
-    EXPECT_TRUE(c.TimeOn);
-    EXPECT_TRUE(c.TimeShow);
-
+    EXPECT_EQ(Saved(l), std::tuple(3, 20, 200, true, true));
     SetClock(l, 200, false, true);
-    EXPECT_EQ(l.ElapsedMinutes, 0);
-    EXPECT_EQ(l.ElapsedSeconds, 0);
-    c = ReadClock(l);
-    EXPECT_FALSE(c.TimeOn);
-    EXPECT_FALSE(c.TimeShow);
-
+    EXPECT_EQ(Saved(l), std::tuple(0, 0, 0, false, false));
     // A game saved in the first second of a running clock comes back without one.
     SetClock(l, 0, true, true);
-    c = ReadClock(l);
-    EXPECT_EQ(c.seconds, 0);
-    EXPECT_FALSE(c.TimeOn);
-
+    EXPECT_EQ(Saved(l), std::tuple(0, 0, 0, false, false));
     // Minutes and seconds of mixed signs are read as one total.
     l.ElapsedMinutes = 1;
     l.ElapsedSeconds = -70;
-    c = ReadClock(l);
-    EXPECT_EQ(c.seconds, 10);
-    EXPECT_TRUE(c.TimeOn);
-    EXPECT_FALSE(c.TimeShow);
-}
-
-TEST(SavedClockSign, AnEnormousClockIsClampedNotWrapped) {
-    SudokuLogRecord l;
+    EXPECT_EQ(Saved(l), std::tuple(1, -70, 10, true, false));
+    // An enormous clock is clamped, not wrapped.
     SetClock(l, 60 * 40000, true, true);
     EXPECT_EQ(l.ElapsedMinutes, 32767);
     EXPECT_GT(ReadClock(l).seconds, 0);

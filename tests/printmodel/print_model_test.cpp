@@ -38,12 +38,9 @@ TEST(PrintRange, TheOnScreenPuzzleTakesTheFirstPlaceOnlyWhenThereIsOne) {
     snapshot.Number = 42;
     auto slots = PlanJob(Settings(2, 2, 1, true), snapshot);
     ASSERT_EQ(slots.size(), 8u);
-    EXPECT_TRUE(slots[0].onScreen);
-    EXPECT_EQ(slots[0].number, 42);
-    EXPECT_EQ(slots[1].number, 1);
-    EXPECT_EQ(slots[7].number, 7);
-    EXPECT_EQ(slots[4].page, 2);
-    EXPECT_EQ(slots[4].position, 0);
+    EXPECT_EQ(std::tuple(slots[0].onScreen, slots[0].number, slots[1].number, slots[7].number),
+              std::tuple(true, 42, 1, 7));
+    EXPECT_EQ(std::tuple(slots[4].page, slots[4].position), std::tuple(2, 0));
     snapshot.Number = 0;  // no game on the screen: the range starts at once
     slots = PlanJob(Settings(2, 1, 1, true), snapshot);
     EXPECT_FALSE(slots[0].onScreen);
@@ -113,10 +110,8 @@ TEST_F(PrintJobTest, ReadsEachPuzzleWithItsMarksAndStopsAtTheFirstMissingRecord)
     // Record 4 does not exist: the job ends on page 2, after what was printed.
     EXPECT_EQ(r.events, (std::vector<std::string>{"begin 1", "# 2", "# 3", "end 1", "begin 2"}));
     const auto& p = testing::GeneratedPuzzles(3, 5)[1];
-    EXPECT_EQ(r.puzzles[0].Grid, p.puzzle);
-    EXPECT_EQ(r.puzzles[0].Solution, p.solution);
-    const Board b = BoardFromPuzzle(p.puzzle);
-    EXPECT_EQ(r.puzzles[0].Marks, b.Candidates);
+    EXPECT_EQ(std::tie(r.puzzles[0].Grid, r.puzzles[0].Solution, r.puzzles[0].Marks),
+              std::tuple(p.puzzle, p.solution, BoardFromPuzzle(p.puzzle).Candidates));
 }
 
 TEST_F(PrintJobTest, TheOnScreenPuzzleInItsCurrentStateKeepsItsDigitsAndMarks) {
@@ -134,9 +129,8 @@ TEST_F(PrintJobTest, TheOnScreenPuzzleInItsCurrentStateKeepsItsDigitsAndMarks) {
     Recorder r;
     EXPECT_EQ(RunPrintJob(s, snap, folder, r), PrintResult::Done);
     ASSERT_EQ(r.puzzles.size(), 1u);
-    EXPECT_EQ(r.puzzles[0].Grid, snap.Grid);
-    EXPECT_EQ(r.puzzles[0].Marks, snap.Marks);
-    EXPECT_EQ(r.puzzles[0].Number, 9);
+    EXPECT_EQ(std::tie(r.puzzles[0].Grid, r.puzzles[0].Marks, r.puzzles[0].Number),
+              std::tuple(snap.Grid, snap.Marks, 9));
     s.PrintPencils = false;
     Recorder bare;
     RunPrintJob(s, snap, folder, bare);
@@ -145,8 +139,8 @@ TEST_F(PrintJobTest, TheOnScreenPuzzleInItsCurrentStateKeepsItsDigitsAndMarks) {
     s.PrintCurrentState = false;
     Recorder clues;
     RunPrintJob(s, snap, folder, clues);
-    EXPECT_EQ(clues.puzzles[0].Grid, p.puzzle);
-    EXPECT_EQ(clues.puzzles[0].Marks, BoardFromPuzzle(p.puzzle).Candidates);
+    EXPECT_EQ(std::pair(clues.puzzles[0].Grid, clues.puzzles[0].Marks),
+              testing::GridAndMarks(BoardFromPuzzle(p.puzzle)));
 }
 
 TEST(TeachingPrint, TheTechniquesOfTheSolutionInOrderOfFirstUseWithTheirCounts) {

@@ -22,20 +22,18 @@ TEST(ColorsForm, PickedColoursGoThroughTheStoreAndComeBackAsTheyWere) {
 
     MemorySettingsStore store;
     form.Accept(inForce, store);
-    EXPECT_EQ(inForce.HintColor[4], kColorPalette[3]);
-    EXPECT_EQ(inForce.LabelBack[7], kColorPalette[40]);
-    EXPECT_EQ(inForce.LabelFore[7], kColorPalette[47]);
+    EXPECT_EQ(std::tuple(inForce.HintColor[4], inForce.LabelBack[7], inForce.LabelFore[7]),
+              std::tuple(kColorPalette[3], kColorPalette[40], kColorPalette[47]));
     ColorSettings read;
     HaalKleuren(store, read);
-    EXPECT_EQ(read.HintColor, inForce.HintColor);
-    EXPECT_EQ(read.LabelBack, inForce.LabelBack);
-    EXPECT_EQ(read.LabelFore, inForce.LabelFore);
+    EXPECT_EQ(std::tie(read.HintColor, read.LabelBack, read.LabelFore),
+              std::tie(inForce.HintColor, inForce.LabelBack, inForce.LabelFore));
 
     form.Defaults();
     form.Accept(inForce, store);
     HaalKleuren(store, read);
-    EXPECT_EQ(read.HintColor, kDefaultHintColor);
-    EXPECT_EQ(read.LabelBack, kDefaultLabelBack);
+    EXPECT_EQ(std::tie(read.HintColor, read.LabelBack),
+              std::tie(kDefaultHintColor, kDefaultLabelBack));
 }
 
 }  // namespace

@@ -27,10 +27,8 @@ TEST(HaalKleuren, AMissingOrUnreadableKeyKeepsTheColourInForce) {
     c.LabelFore[2] = 0x00112233;
     c.LabelBack[4] = 0x00445566;
     HaalKleuren(store, c);
-    EXPECT_EQ(c.LabelBack[1], 255u);
-    EXPECT_EQ(c.LabelFore[2], 0x00112233u);
-    EXPECT_EQ(c.HintColor[4], 0x00FF0000u);
-    EXPECT_EQ(c.LabelBack[4], 0x00445566u);
+    EXPECT_EQ(std::tuple(c.LabelBack[1], c.LabelFore[2], c.HintColor[4], c.LabelBack[4]),
+              std::tuple(255u, 0x00112233u, 0x00FF0000u, 0x00445566u));
 }
 
 TEST(SchrijfKleuren, WritesSevenLabelPairsAndNineHintColoursThatReadBack) {
@@ -40,9 +38,8 @@ TEST(SchrijfKleuren, WritesSevenLabelPairsAndNineHintColoursThatReadBack) {
     c.HintColor[0] = 0x00123456;
     SchrijfKleuren(store, c);
     EXPECT_EQ(store.Values().size(), 7u * 2 + 9);
-    EXPECT_FALSE(store.Has("Colors", "BColor4"));
-    EXPECT_FALSE(store.Has("Colors", "FColor5"));
-    EXPECT_FALSE(store.Has("Colors", "BColor0"));
+    for (const char* key : {"BColor4", "FColor5", "BColor0"})
+        EXPECT_FALSE(store.Has("Colors", key)) << key;
     EXPECT_EQ(store.Read("Colors", "BColor9", ""), "-2147483640");
     ColorSettings back;
     HaalKleuren(store, back);

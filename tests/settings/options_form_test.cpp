@@ -17,8 +17,7 @@ TEST(OptionsForm, TheSaveChoices) {
         OptionsForm f = OptionsForm::From(o);
         f.Save = c.choice;
         f.ApplyTo(o);
-        EXPECT_EQ(o.AutoSave, c.autoSave);
-        EXPECT_EQ(o.AskSave, c.askSave);
+        EXPECT_EQ(std::pair(o.AutoSave, o.AskSave), std::pair(c.autoSave, c.askSave));
         EXPECT_EQ(OptionsForm::From(o).Save, c.choice);
     }
     // A stored pair that no choice makes (save without asking, not asking) reads as Allways.

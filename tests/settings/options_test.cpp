@@ -72,9 +72,8 @@ TEST(SchrijfOpties, WritesTheElevenOptionsAndTheTechniqueTablesAsText) {
 
     Options back;
     HaalOpties(store, back);
-    EXPECT_TRUE(back.Dimmed);
-    EXPECT_FALSE(back.AutoErase);
-    EXPECT_EQ(back.techniques.Order, o.techniques.Order);
+    EXPECT_EQ(std::tuple(back.Dimmed, back.AutoErase, back.techniques.Order),
+              std::tuple(true, false, o.techniques.Order));
 }
 
 TEST(SchrijfOpties, TheLogfilesAndVersionKeysHaveWritersOfTheirOwn) {
@@ -90,9 +89,8 @@ TEST(SchrijfOpties, TheLogfilesAndVersionKeysHaveWritersOfTheirOwn) {
                                         {"Version", "Sub", "6"}}));
     Options back;
     HaalOpties(store, back);
-    EXPECT_TRUE(back.LogfilesMade);
-    EXPECT_EQ(back.VersionMain, 1);
-    EXPECT_EQ(back.VersionSub, 6);
+    EXPECT_EQ(std::tuple(back.LogfilesMade, back.VersionMain, back.VersionSub),
+              std::tuple(true, 1, 6));
 }
 
 TEST(HaalOpties, AValueOfTheWrongTypeGivesTheDefault) {
@@ -109,16 +107,11 @@ TEST(HaalOpties, AValueOfTheWrongTypeGivesTheDefault) {
     store.Write("Technique", "Order9", "ten");
     Options o;
     HaalOpties(store, o);
-    EXPECT_TRUE(o.Wells);
-    EXPECT_FALSE(o.Sounds);
-    EXPECT_FALSE(o.TimeShow);
-    EXPECT_FALSE(o.AutoSave);
-    EXPECT_TRUE(o.Dimmed);
-    EXPECT_EQ(o.VersionMain, 0);
-    EXPECT_EQ(o.VersionSub, 0);
-    EXPECT_EQ(o.techniques.OnOff[9], 1);
-    EXPECT_EQ(o.techniques.Halt[9], 0);
-    EXPECT_EQ(o.techniques.Order[9], 9);
+    EXPECT_EQ(std::tuple(o.Wells, o.Sounds, o.TimeShow, o.AutoSave, o.Dimmed, o.VersionMain,
+                         o.VersionSub),
+              std::tuple(true, false, false, false, true, 0, 0));
+    EXPECT_EQ(std::tuple(o.techniques.OnOff[9], o.techniques.Halt[9], o.techniques.Order[9]),
+              std::tuple(1, 0, 9));
 }
 
 TEST(SettingValues, WholeNumbersAreReadStrictly) {

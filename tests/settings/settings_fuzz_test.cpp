@@ -55,8 +55,7 @@ TEST(SettingsFuzz, AnyStoreGivesSettingsInRange) {
         ASSERT_TRUE(IsValidOrder(options.techniques.Order)) << i;
         for (int t = 0; t < kTechniqueCount; ++t)
             ASSERT_TRUE(options.techniques.OnOff[t] == 0 || options.techniques.OnOff[t] == 1);
-        ASSERT_GE(position.LastLevel, 0);
-        ASSERT_LE(position.LastLevel, 9);
+        ASSERT_TRUE(position.LastLevel >= 0 && position.LastLevel <= 9) << i;
         for (int level = 1; level <= 9; ++level)
             ASSERT_GE(position.PuzzleNumber[level], 0) << i;
         noted += !store.Unreadable().empty();

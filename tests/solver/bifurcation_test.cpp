@@ -19,22 +19,20 @@ struct Guess {
 };
 
 // Boards from generated puzzles as the head of the ladder leaves them.
+// Last, two rows and one digit: a two-candidate cell in C1 whose guesses both
+// leave the board open, so that every trial fails.
 std::vector<Board> StuckBoards(int count) {
+    std::vector<Digits> puzzles;
+    for (const auto& p : testing::GeneratedPuzzles(count))
+        puzzles.push_back(p.puzzle);
+    puzzles.push_back(testing::DigitsOf(testing::kOpenPuzzle));
     std::vector<Board> boards;
-    for (const auto& p : testing::GeneratedPuzzles(count)) {
-        SolveContext ctx;
-        ctx.board = BoardFromPuzzle(p.puzzle);
+    for (const Digits& puzzle : puzzles) {
+        SolveContext ctx = testing::ContextOn(BoardFromPuzzle(puzzle));
         int cells = ctx.board.EmptyCount();
         bool contradiction = false;
         if (!PreSolve(ctx, cells, contradiction) && !contradiction) boards.push_back(ctx.board);
     }
-    // Two rows and one digit: a two-candidate cell in C1 whose guesses both leave
-    // the board open, so that every trial fails.
-    SolveContext open;
-    open.board = BoardFromPuzzle(testing::DigitsOf(testing::kOpenPuzzle));
-    int cells = open.board.EmptyCount();
-    bool contradiction = false;
-    if (!PreSolve(open, cells, contradiction) && !contradiction) boards.push_back(open.board);
     return boards;
 }
 
@@ -76,8 +74,8 @@ TEST(Bifurcation, GuessesDigitByDigitAndRestoresTheBoardBetweenTrials) {
         } else {
             EXPECT_TRUE(trace.empty());
         }
-        ASSERT_EQ(ctx.board.Candidates, after.Candidates) << FormatDigits(stuck.CurrentGrid, '.');
-        ASSERT_EQ(ctx.board.CurrentGrid, after.CurrentGrid);
+        ASSERT_EQ(testing::GridAndMarks(ctx.board), testing::GridAndMarks(after))
+            << FormatDigits(stuck.CurrentGrid, '.');
     }
     EXPECT_GT(placed, 0);
     EXPECT_GT(orderMatters, 0) << "no board told digit order from cell order";
@@ -99,16 +97,14 @@ TEST(Bifurcation, UnderAHintFillsKindTwentyAndChangesNothing) {
         ctx.hint = testing::MarkedHint();
         ASSERT_EQ(Bifurcation(ctx), expected.has_value());
         EXPECT_TRUE(ctx.HintOnly() && ctx.ForceZet()) << "the mode is as it was";
-        ASSERT_EQ(ctx.board.Candidates, stuck.Candidates);
-        ASSERT_EQ(ctx.board.CurrentGrid, stuck.CurrentGrid);
+        ASSERT_EQ(testing::GridAndMarks(ctx.board), testing::GridAndMarks(stuck));
         EXPECT_TRUE(listener.placed.empty() && listener.removed.empty());
         if (!expected) continue;
         ++hints;
         const HintRecord& h = ctx.hint;
         EXPECT_EQ(h.HintKind, 20);
         EXPECT_EQ((Guess{h.HintNumber, h.HintCell}), *expected);
-        EXPECT_EQ(h.HintVariant, -99);
-        EXPECT_EQ(h.HintRow, -99);
+        EXPECT_EQ(std::tuple(h.HintVariant, h.HintRow), std::tuple(-99, -99));
     }
     EXPECT_GT(hints, 0);
 }

@@ -65,6 +65,9 @@ class ScriptedPrompter : public Prompter {
             t.push_back(s.text);
         return t;
     }
+    // The title and text of box `i`, and of the last box.
+    TitleText Box(std::size_t i) const { return {shown.at(i).title, shown.at(i).text}; }
+    TitleText Last() const { return Box(shown.size() - 1); }
     bool Showed(std::string_view text) const {
         for (const auto& s : shown)
             if (s.text == text) return true;
@@ -147,11 +150,31 @@ class GameFixture : public ::testing::Test {
         EXPECT_TRUE(ReadSudokuLogRecord(LogFile(folders.DataFolder, LevelStem(level)), number, r));
         return r;
     }
+    // The commands once a game has ended: those at the start, less Save.
+    static CommandStates Ended() {
+        CommandStates c;
+        c.Save = false;
+        return c;
+    }
     // The first empty cell of the game's board and its solution digit.
     std::pair<int, int> FirstOpenCell() const {
         for (int c = 0; c < 81; ++c)
             if (!game->board().CurrentGrid[c]) return {c, game->board().Solution[c]};
         return {-1, 0};
+    }
+    // An open cell and a digit that is a candidate there but not its solution.
+    std::pair<int, int> WrongCandidate() const {
+        const Board& b = game->board();
+        for (int c = 0; c < 81; ++c)
+            for (int d = 1; d <= 9; ++d)
+                if (!b.CurrentGrid[c] && d != b.Solution[c] && b.Has(d, c)) return {c, d};
+        return {-1, 0};
+    }
+    // Picks `cell` by its row and column headers (a header already picked stays).
+    void Select(int cell) {
+        if (game->SelectedRow != cell / 9) game->RowHeaderUp(cell / 9, MouseButton::Left, true);
+        if (game->SelectedColumn != cell % 9)
+            game->ColumnHeaderUp(cell % 9, MouseButton::Left, true);
     }
     // Places the right digit in the first open cell.
     void PlaceOne() {

@@ -42,12 +42,32 @@ Digits WithoutFirstClue(Digits puzzle) {
     return puzzle;
 }
 
+Digits WithClash(Digits puzzle) {
+    for (int c = 0; c < 81; ++c)
+        for (int peer : Peers[c])
+            if (puzzle[c] && !puzzle[peer]) {
+                puzzle[peer] = puzzle[c];
+                return puzzle;
+            }
+    ADD_FAILURE() << "no clue with an empty peer";
+    return puzzle;
+}
+
 std::vector<std::string> Lines(const std::string& text) {
     std::vector<std::string> lines;
     std::istringstream in(text);
     for (std::string line; std::getline(in, line);)
         lines.push_back(line);
     return lines;
+}
+
+std::vector<std::string> Fields(const std::string& line, char sep) {
+    std::vector<std::string> f;
+    size_t start = 0;
+    for (size_t at; (at = line.find(sep, start)) != std::string::npos; start = at + 1)
+        f.push_back(line.substr(start, at - start));
+    f.push_back(line.substr(start));
+    return f;
 }
 
 }  // namespace tavi::testing

@@ -33,13 +33,24 @@ Digits DeadCell();
 // `puzzle` less its first clue: a puzzle with several solutions.
 Digits WithoutFirstClue(Digits puzzle);
 
+// `puzzle` with its first clue copied into an empty cell that sees it: no solution.
+Digits WithClash(Digits puzzle);
+
+// What a player sees of a board: its digits and its marks.
+inline auto GridAndMarks(const Board& b) { return std::pair(b.CurrentGrid, b.Candidates); }
+
 // The lines of `text`.
 std::vector<std::string> Lines(const std::string& text);
+// The fields of `line` between the `sep` characters, empty ones too.
+std::vector<std::string> Fields(const std::string& line, char sep = '\t');
+
+// A message or a box: its title and its text.
+using TitleText = std::pair<std::string, std::string>;
 
 // Records what the solver says.
 struct RecordingNotifier : Notifier {
     int beeps = 0;
-    std::vector<std::pair<std::string, std::string>> messages;
+    std::vector<TitleText> messages;
     void Beep() override { ++beeps; }
     void Message(std::string_view title, std::string_view text) override {
         messages.emplace_back(title, text);

@@ -58,9 +58,7 @@ TEST_F(MakeWindowTest, AFileDroppedOnTheLineAfterMakeEntersItsClues) {
 // Clues typed on the board while making go in as clicks on marks do: the digit at
 // the cursor, and the same digit gone from the marks of the cell's peers.
 TEST_F(MakeWindowTest, DigitKeysEnterCluesAtTheCursor) {
-    Open();
-    window->activateWindow();
-    QApplication::setActiveWindow(&*window);
+    OpenActive();
     Press("CommandMake");
     Board()->setFocus();
     Board()->SetCursorCell(40);

@@ -9,10 +9,10 @@
 #include <QDir>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QTimer>
 #include <tuple>
 
 #include "ui/technique_manager_dialog.h"
+#include "window_fixture.h"
 
 namespace tavi::ui {
 namespace {
@@ -20,13 +20,6 @@ namespace {
 auto Fields(const Options& o) {
     return std::tuple(o.Pencilmarks, o.TimeOn, o.TimeShow, o.Wells, o.Sounds, o.HintWindow,
                       o.AutoErase, o.PencilmarksOff, o.Dimmed, o.AutoSave, o.AskSave);
-}
-
-template <typename W>
-W* Child(const QWidget& parent, const QString& name) {
-    auto* w = parent.findChild<W*>(name);
-    EXPECT_NE(w, nullptr) << name.toStdString();
-    return w;
 }
 
 // Every box clicked once, the timer shown hidden, and "Never".
@@ -38,40 +31,21 @@ void ClickEverything(OptionsDialog& dialog) {
     Child<QRadioButton>(dialog, "Option3_1")->click();
 }
 
-// The first modal window that opens gets `act`, from the event loop of its exec.
-template <typename F>
-void WhenModalOpens(F act) {
-    QTimer::singleShot(0, [act] {
-        QWidget* modal = QApplication::activeModalWidget();
-        ASSERT_NE(modal, nullptr);
-        act(modal);
-    });
-}
-
 TEST(OptionsDialog, CancelAndTheCloseBoxDropTheCopyAndOkTakesIt) {
     Options options;
     const auto before = Fields(options);
-    {
-        OptionsDialog dialog(options, true);
-        ClickEverything(dialog);
-        EXPECT_FALSE(dialog.Form().Pencilmarks);
-        Child<QPushButton>(dialog, "Command1")->click();
-        EXPECT_EQ(dialog.result(), QDialog::Rejected);
-    }
-    EXPECT_EQ(Fields(options), before);
-    {
+    for (const QString way : {"Command1", "close box", "Command2"}) {  // Cancel, close, OK
         OptionsDialog dialog(options, true);
         dialog.show();
         ClickEverything(dialog);
-        dialog.close();
-        EXPECT_EQ(dialog.result(), QDialog::Rejected);
-    }
-    EXPECT_EQ(Fields(options), before);
-    {
-        OptionsDialog dialog(options, true);
-        ClickEverything(dialog);
-        Child<QPushButton>(dialog, "Command2")->click();
-        EXPECT_EQ(dialog.result(), QDialog::Accepted);
+        EXPECT_FALSE(dialog.Form().Pencilmarks);
+        if (way == "close box")
+            dialog.close();
+        else
+            Child<QPushButton>(dialog, way)->click();
+        const bool ok = way == "Command2";
+        EXPECT_EQ(dialog.result(), ok ? QDialog::Accepted : QDialog::Rejected);
+        EXPECT_EQ(Fields(options) == before, !ok) << way.toStdString();
     }
     EXPECT_EQ(Fields(options),
               std::tuple(false, true, false, false, true, true, false, true, true, false, false));
@@ -102,14 +76,13 @@ TEST(OptionsDialog, KeepTimeEnablesTheTimerChoicesAndSoundsNeedsADevice) {
     // "Ask": save only after asking.
     Child<QRadioButton>(dialog, "Option3_2")->click();
     dialog.accept();
-    EXPECT_FALSE(options.AutoSave);
-    EXPECT_TRUE(options.AskSave);
+    EXPECT_EQ(std::pair(options.AutoSave, options.AskSave), std::pair(false, true));
 }
 
 TEST(OptionsDialog, TheTechniquesManagerCountsEvenWhenTheOptionsAreCancelled) {
     Options options;
     OptionsDialog dialog(options, true);
-    WhenModalOpens([](QWidget* modal) {
+    WhenModal([](QWidget* modal) {
         auto* manager = qobject_cast<TechniqueManagerDialog*>(modal);
         ASSERT_NE(manager, nullptr);
         EXPECT_EQ(manager->windowTitle(), "Solving Techniques Manager");
@@ -123,7 +96,7 @@ TEST(OptionsDialog, TheTechniquesManagerCountsEvenWhenTheOptionsAreCancelled) {
 
 TEST(OptionsDialog, RunTellsWhetherOkWasPressedAndOpensTheColoursWhenGiven) {
     Options options;
-    WhenModalOpens([](QWidget* modal) {
+    WhenModal([](QWidget* modal) {
         EXPECT_EQ(modal->windowTitle(), "Tavi Sudoku Options");
         // No colours window given: its button can't be pressed.
         EXPECT_FALSE(Child<QPushButton>(*modal, "KnopColors")->isEnabled());
@@ -134,7 +107,7 @@ TEST(OptionsDialog, RunTellsWhetherOkWasPressedAndOpensTheColoursWhenGiven) {
     EXPECT_FALSE(options.Wells);
 
     int colorsOpened = 0;
-    WhenModalOpens([](QWidget* modal) {
+    WhenModal([](QWidget* modal) {
         Child<QPushButton>(*modal, "KnopColors")->click();
         Child<QPushButton>(*modal, "Command1")->click();
     });

@@ -8,25 +8,15 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTemporaryDir>
-#include <QTimer>
-#include <functional>
 
 #include "print/board_geometry.h"
 #include "ui/desktop_services.h"
 #include "ui/qt_prompter.h"
 #include "ui/qt_sound_player.h"
+#include "window_fixture.h"
 
 namespace tavi::ui {
 namespace {
-
-// Runs `act` on the modal dialog as soon as it is up.
-void WhenModal(std::function<void(QWidget*)> act) {
-    QTimer::singleShot(0, [act] {
-        QWidget* modal = QApplication::activeModalWidget();
-        ASSERT_NE(modal, nullptr);
-        act(modal);
-    });
-}
 
 TEST(QtPrompter, AsksWithTheGamesTitleTextButtonsAndIcon) {
     QtPrompter prompter;

@@ -26,9 +26,8 @@ TEST(QSettingsStore, KeepsSectionsKeysAndTextInAnIniFile) {
         QFile ini(file);
         ASSERT_TRUE(ini.open(QIODevice::ReadOnly));
         const QByteArray text = ini.readAll();
-        EXPECT_TRUE(text.contains("[Options]")) << text.toStdString();
-        EXPECT_TRUE(text.contains("Wells=False")) << text.toStdString();
-        EXPECT_TRUE(text.contains("[SudokuLevel3]")) << text.toStdString();
+        for (const char* line : {"[Options]", "Wells=False", "[SudokuLevel3]"})
+            EXPECT_TRUE(text.contains(line)) << text.toStdString();
     }
     QSettingsStore again(file);
     EXPECT_EQ(again.Read("Options", "Wells", "True"), "False");

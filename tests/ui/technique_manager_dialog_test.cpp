@@ -2,6 +2,7 @@
 // fixed boxes, the order buttons and the default order, all straight into the
 // tables.
 #include "ui/technique_manager_dialog.h"
+#include "window_fixture.h"
 
 #include <gtest/gtest.h>
 
@@ -19,19 +20,11 @@ namespace {
 class TechniqueDialog : public ::testing::Test {
   public:
     QCheckBox* Box(int box) const {
-        auto* b = dialog.findChild<QCheckBox*>(QStringLiteral("CheckInclude_%1").arg(box));
-        EXPECT_NE(b, nullptr) << box;
-        return b;
+        return Child<QCheckBox>(dialog, QStringLiteral("CheckInclude_%1").arg(box));
     }
-    void Press(const char* name) {
-        auto* b = dialog.findChild<QPushButton*>(QString::fromLatin1(name));
-        ASSERT_NE(b, nullptr) << name;
-        b->click();
-    }
+    void Press(const char* name) { Child<QPushButton>(dialog, name)->click(); }
     QRadioButton* PickButton(int technique) const {
-        auto* b = dialog.findChild<QRadioButton*>(QStringLiteral("OptionOrder_%1").arg(technique));
-        EXPECT_NE(b, nullptr) << technique;
-        return b;
+        return Child<QRadioButton>(dialog, QStringLiteral("OptionOrder_%1").arg(technique));
     }
     void Pick(int technique) { PickButton(technique)->click(); }
 
@@ -87,9 +80,9 @@ TEST_F(TechniqueDialog, UpAndDownMoveThePickedRowWithinEightToThirtyEight) {
     Press("KnopDown");
     Press("KnopDown");
     EXPECT_EQ(tables.Order[8], 10);
-    EXPECT_EQ(dialog.TechniqueShownAt(10), 8);
-    EXPECT_EQ(dialog.TechniqueShownAt(8), 9);
-    EXPECT_EQ(dialog.TechniqueShownAt(9), 10);
+    EXPECT_EQ(std::tuple(dialog.TechniqueShownAt(8), dialog.TechniqueShownAt(9),
+                         dialog.TechniqueShownAt(10)),
+              std::tuple(9, 10, 8));
 
     Pick(38);  // Long AIC's, the last movable row
     Press("KnopDown");

@@ -7,6 +7,8 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTest>
+#include <QTimer>
+#include <functional>
 
 #include "support/game_fixture.h"
 #include "ui/board_area.h"
@@ -16,6 +18,14 @@
 #include "ui/release_controls.h"
 
 namespace tavi::ui {
+
+// The child of `parent` named `name`; a missing one fails the test.
+template <typename W>
+W* Child(const QObject& parent, const QString& name) {
+    auto* w = parent.findChild<W*>(name);
+    EXPECT_NE(w, nullptr) << name.toStdString();
+    return w;
+}
 
 class WindowFixture : public tavi::testing::GameFixture {
   public:
@@ -28,16 +38,24 @@ class WindowFixture : public tavi::testing::GameFixture {
         QApplication::processEvents();
         return *window;
     }
-    QPushButton* Button(const char* name) const {
-        auto* b = window->findChild<QPushButton*>(QLatin1String(name));
-        EXPECT_NE(b, nullptr) << name;
-        return b;
+    // The window opened and made the active one, its board holding the keyboard.
+    MainWindow& OpenActive() {
+        Open();
+        window->activateWindow();
+        QApplication::setActiveWindow(&*window);
+        Board()->setFocus();
+        return *window;
     }
+    // The window open on a New of the level chosen at start.
+    MainWindow& OpenPlaying() {
+        Open();
+        Press("CommandNew");
+        return *window;
+    }
+    QPushButton* Button(const char* name) const { return Find<QPushButton>(name); }
     template <typename W>
     W* Find(const QString& name) const {
-        auto* w = window->findChild<W*>(name);
-        EXPECT_NE(w, nullptr) << name.toStdString();
-        return w;
+        return Child<W>(*window, name);
     }
     BoardWidget* Board() const { return window->Area()->Board(); }
     void Press(const char* name) { QTest::mouseClick(Button(name), Qt::LeftButton); }
@@ -56,13 +74,28 @@ class WindowFixture : public tavi::testing::GameFixture {
     std::optional<MainWindow> window;
 };
 
-// Dark pixels in `box` of `image`: what has been drawn there in ink.
-inline int InkIn(const QImage& image, const QRect& box) {
-    int ink = 0;
+// The pixels in `box` of `image` that `take` takes.
+template <typename F>
+int CountIn(const QImage& image, const QRect& box, F take) {
+    int n = 0;
     for (int y = box.top(); y <= box.bottom(); ++y)
         for (int x = box.left(); x <= box.right(); ++x)
-            if (qGray(image.pixel(x, y)) < 150) ++ink;
-    return ink;
+            n += take(image.pixel(x, y));
+    return n;
+}
+
+// Dark pixels in `box` of `image`: what has been drawn there in ink.
+inline int InkIn(const QImage& image, const QRect& box) {
+    return CountIn(image, box, [](QRgb p) { return qGray(p) < 150; });
+}
+
+// Runs `act` on the modal window as soon as it is up.
+inline void WhenModal(std::function<void(QWidget*)> act) {
+    QTimer::singleShot(0, [act] {
+        QWidget* modal = QApplication::activeModalWidget();
+        ASSERT_NE(modal, nullptr);
+        act(modal);
+    });
 }
 
 // The part of `r` between the fractions `from` and `to` of its width and height.

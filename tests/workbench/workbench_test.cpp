@@ -1,23 +1,18 @@
 // The file workbench over libraries in a temporary folder, with the person's
 // answers scripted: rerating moves, the report of a check, abort, delete,
-// duplicates, the reader of foreign files, and rewrites killed at random instants.
+// duplicates and the reader of foreign files.
 #include "workbench/workbench.h"
 
 #include <gtest/gtest.h>
-#include <signal.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
-#include <random>
 #include <sstream>
 
 #include "grid/candidates.h"
 #include "library/library_files.h"
 #include "library/library_pair.h"
 #include "library/library_test_support.h"
-#include "library/pair_guard.h"
-#include "library/pair_rewrite.h"
 #include "solver/ladder.h"
+#include "support/boards.h"
 #include "support/game_fixture.h"
 #include "workbench/duplicates.h"
 #include "workbench/foreign_puzzles.h"
@@ -58,9 +53,8 @@ TEST(CheckReport, EachCaseOfTheTableInItsOrder) {
     };
     for (const Case& k : cases) {
         const CheckReport report = ReportFor(k.r, k.o, k.u, k.t);
-        EXPECT_EQ(report.fate, k.fate) << k.text;
-        EXPECT_EQ(report.title, k.title);
-        EXPECT_EQ(report.text, k.text);
+        EXPECT_EQ(std::tie(report.fate, report.title, report.text),
+                  std::tuple(k.fate, k.title, k.text));
     }
 }
 
@@ -93,22 +87,20 @@ TEST(ForeignPuzzles, LinesCandidatesAndGridsWithTheirProblems) {
                           "\r\n" + grid + "12345\n" + grid.substr(0, 60) + "\n" + line + "\n");
     const ForeignPuzzles read = ReadForeignPuzzles(in);
     ASSERT_EQ(read.puzzles.size(), 4u);
-    EXPECT_EQ(read.puzzles[0].line, 2);
-    EXPECT_EQ(read.puzzles[0].puzzle, p.puzzle);
+    EXPECT_EQ(std::tuple(read.puzzles[0].line, read.puzzles[0].puzzle), std::tuple(2, p.puzzle));
     // A candidate line knows a clue as a cell of one candidate: the givens and
     // every naked single of the fresh board.
     for (int c = 0; c < 81; ++c)
         EXPECT_EQ(read.puzzles[1].puzzle[c] != 0,
                   p.puzzle[c] != 0 || CountDigits(board.Candidates[c]) == 1);
-    EXPECT_EQ(read.puzzles[2].line, 5);
-    EXPECT_EQ(read.puzzles[2].puzzle, p.puzzle);
+    EXPECT_EQ(std::tuple(read.puzzles[2].line, read.puzzles[2].puzzle), std::tuple(5, p.puzzle));
     EXPECT_EQ(read.puzzles[3].puzzle, p.puzzle);
     // "12345", then two rows and a half of a grid.
     ASSERT_EQ(read.problems.size(), 3u);
-    EXPECT_EQ(read.problems[0].line, 16);
-    EXPECT_EQ(read.problems[0].why, "no puzzle and no row of nine cells");
-    EXPECT_EQ(read.problems[1].line, 17);
-    EXPECT_EQ(read.problems[1].why, "a grid of 2 rows; a grid needs 9");
+    EXPECT_EQ(std::tuple(read.problems[0].line, read.problems[0].why),
+              std::tuple(16, "no puzzle and no row of nine cells"));
+    EXPECT_EQ(std::tuple(read.problems[1].line, read.problems[1].why),
+              std::tuple(17, "a grid of 2 rows; a grid needs 9"));
     EXPECT_EQ(read.problems[2].line, 19);
 }
 
@@ -117,8 +109,7 @@ class WorkbenchTest : public ::testing::Test {
   public:
     WorkbenchTest() {
         for (const auto& p : testing::GeneratedPuzzles(200, 5)) {
-            SolveContext ctx;
-            ctx.board = BoardFromPuzzle(p.puzzle);
+            SolveContext ctx = testing::ContextOn(BoardFromPuzzle(p.puzzle));
             (SolveSudoku(ctx, {}) && ctx.SolvingLevel == 1 ? easy : other).push_back(p);
         }
     }
@@ -138,6 +129,7 @@ class WorkbenchTest : public ::testing::Test {
         return p;
     }
     long Count(int level) { return WholeRecords(PuzzleFile(root, LevelStem(level)), 166); }
+    SudokuRecord At(int level, long n) { return testing::PairAt(root, LevelStem(level), n).first; }
     // Opens `level` at record 1.
     Workbench& Open(int level) {
         prompter.inputs.push_back("1");
@@ -174,10 +166,7 @@ TEST_F(WorkbenchTest, AnOutlawPuzzleThatStillFailsIsCountedNowhere) {
     EXPECT_EQ(prompter.shown.back().text, "1 sudokus solved and rerated.");
     EXPECT_EQ(Count(9), 2);
     EXPECT_EQ(Count(1), 1);
-    SudokuRecord moved;
-    ASSERT_TRUE(ReadSudokuRecord(PuzzleFile(root, LevelStem(1)), 1, moved));
-    EXPECT_EQ(moved.Puzzle, easy[0].puzzle);
-    EXPECT_EQ(moved.Solution, easy[0].solution);
+    EXPECT_EQ(At(1, 1), (SudokuRecord{easy[0].puzzle, easy[0].solution, 0, 0}));
 }
 
 TEST_F(WorkbenchTest, AnAbortAfterTheThirdOfTenTreatsOnlyThree) {
@@ -193,11 +182,8 @@ TEST_F(WorkbenchTest, AnAbortAfterTheThirdOfTenTreatsOnlyThree) {
         << "the total of the report is the last number done";
     EXPECT_EQ(Count(3), 7) << "the records the run did not reach stay";
     EXPECT_EQ(Count(1), 3);
-    for (long n = 1; n <= 7; ++n) {
-        SudokuRecord r;
-        ASSERT_TRUE(ReadSudokuRecord(PuzzleFile(root, LevelStem(3)), n, r));
-        EXPECT_EQ(r.Puzzle, (n <= 2 ? easy[n + 2] : Broken(n + 2)).puzzle);
-    }
+    for (long n = 1; n <= 7; ++n)
+        EXPECT_EQ(At(3, n).Puzzle, (n <= 2 ? easy[n + 2] : Broken(n + 2)).puzzle);
 }
 
 TEST_F(WorkbenchTest, SolveRatesInPlaceOrMovesAndDeleteOfTheOnlyRecordLeavesNoFile) {
@@ -229,11 +215,9 @@ TEST_F(WorkbenchTest, BruteForceAnswersAndRemoveDuplicatesKeepsTheFirst) {
     Open(2).CommandSolve(true, false);
     EXPECT_TRUE(prompter.shown.size() == 1) << "a release outside the button does nothing";
     bench.CommandSolve(true, true);
-    EXPECT_EQ(prompter.shown.back().title, "Valid Sudoku");
-    EXPECT_EQ(prompter.shown.back().text, "This Sudoku has one unique solution");
-    SudokuRecord first;
-    ASSERT_TRUE(ReadSudokuRecord(PuzzleFile(root, LevelStem(2)), 1, first));
-    EXPECT_EQ(first.Solution, easy[1].solution);
+    EXPECT_EQ(prompter.Last(),
+              testing::TitleText("Valid Sudoku", "This Sudoku has one unique solution"));
+    EXPECT_EQ(At(2, 1).Solution, easy[1].solution);
     bench.CommandRemoveDuplicates();
     EXPECT_EQ(prompter.shown.back().text, "2 duplicate sudokus removed.");
     EXPECT_EQ(Count(2), 2);
@@ -254,8 +238,7 @@ TEST_F(WorkbenchTest, ImportRatesChecksAndFilesEachPuzzleByItsLevel) {
         FormatDigits(clash, '.') + "\n" + FormatDigits(loose, '.') + "\nnot a puzzle\n" +
         FormatDigits(other[3].puzzle, '0') + "\n" + FormatDigits(easy[2].puzzle, '.') + "\n");
     const ImportReport report = ImportPuzzles(root, file);
-    SolveContext ctx;
-    ctx.board = BoardFromPuzzle(other[3].puzzle);
+    SolveContext ctx = testing::ContextOn(BoardFromPuzzle(other[3].puzzle));
     const int level = SolveSudoku(ctx, {}) ? ctx.SolvingLevel : kOutlaw;
     EXPECT_EQ(report.added[1], 1 + (level == 1));
     EXPECT_EQ(report.added[level], level == 1 ? 2 : 1);
@@ -264,61 +247,7 @@ TEST_F(WorkbenchTest, ImportRatesChecksAndFilesEachPuzzleByItsLevel) {
     EXPECT_EQ(report.Text(), "2 sudokus imported: " + levels +
                                  ". Rejected: 1 without a solution, 1 with several solutions, 2 "
                                  "already in the library, 1 malformed (line 5).");
-    SudokuRecord added;
-    ASSERT_TRUE(ReadSudokuRecord(PuzzleFile(root, LevelStem(1)), 2, added));
-    EXPECT_EQ(added.Solution, easy[2].solution);
-}
-
-// A rewrite killed at any instant leaves the old pair or the new pair whole once
-// the next open has recovered it.
-TEST(PairRewrite, AKillAtAnyInstantLeavesTheOldOrTheNewPair) {
-    const testing::TempDir dir;
-    const fs::path root = dir.path();
-    const std::string stem = "Sudoku_Hard.sd";
-    std::mt19937 random(7);
-    int old = 0, fresh = 0;
-    const fs::path made = root / "made";
-    fs::create_directories(made);
-    for (int i = 1; i <= 300; ++i) {
-        SudokuRecord r;
-        r.BestMinutes = std::int16_t(i);
-        SudokuLogRecord l;
-        l.ElapsedMinutes = std::int16_t(i);
-        ASSERT_TRUE(AppendToPair(made, stem, r, l));
-    }
-    for (int round = 0; round < 200; ++round) {
-        for (const fs::path& file : {PuzzleFile(root, stem), LogFile(root, stem)}) {
-            fs::remove(file);
-            fs::copy_file(made / file.filename(), file);
-        }
-        const pid_t child = fork();
-        if (child == 0) {
-            KeepInPair(root, stem, [](long n) { return n % 3 != 0; });
-            _exit(0);
-        }
-        usleep(std::uniform_int_distribution<useconds_t>(0, 4000)(random));
-        ::kill(child, SIGKILL);
-        waitpid(child, nullptr, 0);
-        OpenPair(root, stem);
-        std::vector<SudokuRecord> puzzles;
-        ASSERT_TRUE(ReadSudokuFile(PuzzleFile(root, stem), puzzles));
-        const long logs = WholeRecords(LogFile(root, stem), kSudokuLogRecordSize);
-        ASSERT_EQ(long(puzzles.size()), logs);
-        ASSERT_TRUE(puzzles.size() == 300 || puzzles.size() == 200) << puzzles.size();
-        auto expected = [&](size_t k) {
-            return puzzles.size() == 300 ? int(k) + 1 : int(k / 2 * 3 + k % 2 + 1);
-        };
-        for (size_t k = 0; k < puzzles.size(); ++k)
-            ASSERT_EQ(puzzles[k].BestMinutes, expected(k));
-        for (size_t k : {size_t(0), puzzles.size() / 2, puzzles.size() - 1}) {
-            SudokuLogRecord l;
-            ASSERT_TRUE(ReadSudokuLogRecord(LogFile(root, stem), long(k) + 1, l));
-            ASSERT_EQ(l.ElapsedMinutes, expected(k)) << "record and log in step";
-        }
-        ++(puzzles.size() == 300 ? old : fresh);
-    }
-    EXPECT_GT(old, 0);
-    EXPECT_GT(fresh, 0);
+    EXPECT_EQ(At(1, 2).Solution, easy[2].solution);
 }
 
 }  // namespace
