@@ -35,8 +35,11 @@ constexpr int kCounterLimit = 50000;
 // branches are kept once the walk of a call has entered that many of those, and
 // not so near the limit that the walk below is shorter than its lookup.
 constexpr int kKeptEvery = 4;
-constexpr long kFreshBeforeKeeping = 20000;
+constexpr long kFreshBeforeKeeping = 5000;
 constexpr int kKeptBeforeLimit = 3;
+// A walk that only counts is cheap enough that its lookups repay only far from the
+// limit, but there from the first step.
+constexpr int kCountedKeptBeforeLimit = 11;
 // The close map is drawn once the walk of a call has taken that many steps.
 constexpr long kStepsBeforeCloseMap = 2000;
 
@@ -652,7 +655,7 @@ struct AicSearch {
         ctx.Yield();
         ++countSteps;
         if (p > chainLimit) return ++limitCounter >= kCounterLimit ? -1 : kNone;
-        if (Kept(p)) return CountKept(p);
+        if (p % kKeptEvery == 0 && chainLimit - p >= kCountedKeptBeforeLimit) return CountKept(p);
         return CountLinks(p);
     }
 
