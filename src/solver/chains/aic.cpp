@@ -520,14 +520,19 @@ struct AicSearch {
         return r;
     }
 
-    // The links from the node at p - 1, the same-cell ones first.
-    [[gnu::always_inline]] int WalkOn(int p) {
+    // Takes each link from the node at p - 1 in the walk's order, the links inside
+    // the cell first, sets the node at p and the in-chain flags for it, and calls
+    // `below`; the first answer other than kNone ends the loop and is returned.
+    // Each link's cell leaves the chain after it; the cell at p - 1 stays in, for
+    // the caller to take out.
+    template <typename Below>
+    [[gnu::always_inline]] int EachLink(int p, Below below) {
         const int q = cells[p - 1], x = chainDigits[p - 1];
         if (!inChain.Has(q)) {
             for (int k : SameCellLinks(p)) {
                 cells[p] = q, chainDigits[p] = k;
                 inChain.Add(q);
-                if (const int r = Walk(p + 1); r != kNone) return r;
+                if (const int r = below(); r != kNone) return r;
                 inChain.Remove(q);
             }
             inChain.Add(q);
@@ -535,10 +540,14 @@ struct AicSearch {
         for (int c : OtherCellLinks(p)) {
             cells[p] = c, chainDigits[p] = x;
             EnterFromOtherCell(c, p);
-            if (const int r = Walk(p + 1); r != kNone) return r;
+            if (const int r = below(); r != kNone) return r;
             inChain.Remove(c);
         }
         return kNone;
+    }
+
+    [[gnu::always_inline]] int WalkOn(int p) {
+        return EachLink(p, [&] { return Walk(p + 1); });
     }
 
     // A place in the walk: the start digit, a position, and the nodes before it.
@@ -617,37 +626,19 @@ struct AicSearch {
             if (p > chainLimit && ++limitCounter >= kCounterLimit) return -1;
             return Close(p, runDigit);
         }
-        const int q = cells[p - 1], x = chainDigits[p - 1];
         const bool chainBelow = !resuming || OnWayTo(found, p);
-        const auto next = [&]() {
-            const auto on = [&](const Chain& way) {
-                return cells[p] == way.cells[p] && chainDigits[p] == way.digits[p];
-            };
+        const auto on = [&](const Chain& way) {
+            return cells[p] == way.cells[p] && chainDigits[p] == way.digits[p];
+        };
+        return EachLink(p, [&] {
             if (resuming) {
                 if (!on(givenUp)) return kNone;  // counted before
                 resuming = false;
-                if (const int r = RecountBelow(p + 1, true); r != kNone) return r;
-                return kNone;
+                return RecountBelow(p + 1, true);
             }
             if (chainBelow && on(found)) return RecountBelow(p + 1, false);
             return CountBelow(p + 1) < 0 ? -1 : kNone;
-        };
-        if (!inChain.Has(q)) {
-            for (int k : SameCellLinks(p)) {
-                cells[p] = q, chainDigits[p] = k;
-                inChain.Add(q);
-                if (const int r = next(); r != kNone) return r;
-                inChain.Remove(q);
-            }
-            inChain.Add(q);
-        }
-        for (int c : OtherCellLinks(p)) {
-            cells[p] = c, chainDigits[p] = x;
-            EnterFromOtherCell(c, p);
-            if (const int r = next(); r != kNone) return r;
-            inChain.Remove(c);
-        }
-        return kNone;
+        });
     }
 
     // A branch without a chain: kNone, or -1 when the counter runs out in it.
@@ -673,30 +664,13 @@ struct AicSearch {
     }
 
     [[gnu::always_inline]] int CountLinks(int p) {
-        const int q = cells[p - 1], x = chainDigits[p - 1];
         if (p == chainLimit) {
             // Every link from here ends on the limit: they are counted, not walked.
-            int links = CountUpTo(OtherCellLinks(p), 81);
-            if (!inChain.Has(q)) links += SameCellLinks(p).Count();
-            limitCounter += links;
+            limitCounter += CountUpTo(OtherCellLinks(p), 81);
+            if (!inChain.Has(cells[p - 1])) limitCounter += SameCellLinks(p).Count();
             return limitCounter >= kCounterLimit ? -1 : kNone;
         }
-        if (!inChain.Has(q)) {
-            for (int k : SameCellLinks(p)) {
-                cells[p] = q, chainDigits[p] = k;
-                inChain.Add(q);
-                if (CountBelow(p + 1) < 0) return -1;
-                inChain.Remove(q);
-            }
-            inChain.Add(q);
-        }
-        for (int c : OtherCellLinks(p)) {
-            cells[p] = c, chainDigits[p] = x;
-            EnterFromOtherCell(c, p);
-            if (CountBelow(p + 1) < 0) return -1;
-            inChain.Remove(c);
-        }
-        return kNone;
+        return EachLink(p, [&] { return CountBelow(p + 1) < 0 ? -1 : kNone; });
     }
 
     int Hit(int result, int p, int d) {
