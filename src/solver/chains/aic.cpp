@@ -166,8 +166,11 @@ struct AicSearch {
     // The close map, drawn once the walk is long.
     bool closeMapOn = false;
     // Per digit and cell: the cells whose strong links go there, and those whose
-    // weak ones do.
-    std::array<std::array<CellSet, 81>, 10> strongFrom{}, weakFrom{};
+    // weak ones do. Made with the map only, as most calls never draw it.
+    struct LinksInto {
+        std::array<std::array<CellSet, 81>, 10> strong{}, weak{};
+    };
+    std::unique_ptr<LinksInto> linksInto;
     std::array<DigitSet, 81> sameCellTo{};  // the digits a link inside the cell may go to
     // [digit][position's parity][loop flag]: the cells where a node may still lead
     // to a close of the present start.
@@ -206,13 +209,12 @@ struct AicSearch {
                 anyLink[cell] |= linkPeers[d][cell];
             }
         }
-        twoNodeCells = biValue;
-        for (int cell : multiValue)
-            if (strongDigits[cell].Count() >= 2) twoNodeCells.Add(cell);
         for (int cell : biValue)
             sameCellTo[cell] = digits[cell];
         for (int cell : multiValue)
             sameCellTo[cell] = digits[cell] & strongDigits[cell];
+        for (int cell : biValue | multiValue)
+            if (sameCellTo[cell].Count() >= 2) twoNodeCells.Add(cell);
     }
 
     // The cells that share with `cell` a unit where the digit's link is weak.
@@ -225,12 +227,13 @@ struct AicSearch {
 
     void StartCloseMap() {
         closeMapOn = true;
+        linksInto = std::make_unique<LinksInto>();
         for (int d = 1; d <= 9; ++d)
             for (int c : holders[d]) {
                 for (int t : conjugatePeers[d][c])
-                    strongFrom[d][t].Add(c);
+                    linksInto->strong[d][t].Add(c);
                 for (int t : linkPeers[d][c])
-                    weakFrom[d][t].Add(c);
+                    linksInto->weak[d][t].Add(c);
             }
         FillCloseMap();
     }
@@ -276,7 +279,7 @@ struct AicSearch {
             const int t = n.cell, k = n.digit, loop = n.loop;
             if (n.parity == 1) {
                 // Entered at an odd position: by a strong link, or inside a bi-value cell.
-                for (int c : strongFrom[k][t])
+                for (int c : linksInto->strong[k][t])
                     mark(c, k, 0, loop);
                 if (biValue.Has(t))
                     for (int k1 : digits[t] - DigitSet::Of(k))
@@ -286,12 +289,12 @@ struct AicSearch {
             // Entered at an even position: by a weak link, or inside the cell.
             const CellSet weakMates = WeakUnitMates(t, k);
             if (loop) {
-                for (int c : weakFrom[k][t])
+                for (int c : linksInto->weak[k][t])
                     mark(c, k, 1, 1);
-                for (int c : weakFrom[k][t] & weakMates)
+                for (int c : linksInto->weak[k][t] & weakMates)
                     mark(c, k, 1, 0);
             } else {
-                for (int c : weakFrom[k][t] - weakMates)
+                for (int c : linksInto->weak[k][t] - weakMates)
                     mark(c, k, 1, 0);
             }
             if (!sameCellTo[t].Has(k)) continue;
@@ -450,14 +453,22 @@ struct AicSearch {
         return linkPeers[x][q] - inChain;
     }
 
+    // The start nodes of digit d: its bi-value cells and its strong nodes in cells
+    // of more than two candidates.
+    CellSet Starts(int d) const { return biHolders[d] | (links[d].strong & multiValue); }
+
+    // The chain's first node: `cell` with digit d.
+    void EnterStart(int cell, int d) {
+        runDigit = d;
+        cells[0] = cell, chainDigits[0] = d;
+        EnterFromOtherCell(cell, 0);
+    }
+
     // Runs the search for start digit d: a result, or -1 when the counter ran out.
     int Run(int d) {
         inChain = CellSet();
-        runDigit = d;
-        const CellSet starts = biHolders[d] | (links[d].strong & multiValue);
-        for (int c : starts) {
-            cells[0] = c, chainDigits[0] = d;
-            EnterFromOtherCell(c, 0);
+        for (int c : Starts(d)) {
+            EnterStart(c, d);
             SetStart(c, d);
             if (closeMapOn) FillCloseMap();
             deadEnds.Clear();
@@ -591,11 +602,9 @@ struct AicSearch {
         for (int d = givenUp.digit; d <= found.digit; ++d) {
             inChain = CellSet();
             bool before = d == givenUp.digit;  // the starts before that branch's own
-            for (int c : biHolders[d] | (links[d].strong & multiValue)) {
+            for (int c : Starts(d)) {
                 if (before && c != givenUp.cells[0]) continue;
-                runDigit = d;
-                cells[0] = c, chainDigits[0] = d;
-                EnterFromOtherCell(c, 0);
+                EnterStart(c, d);
                 const bool chain = c == found.cells[0] && d == found.digit;
                 if (chain) SetStart(c, d);
                 const int r = chain || before ? RecountBelow(1, before) : CountBelow(1);
