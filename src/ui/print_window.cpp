@@ -183,14 +183,15 @@ QWidget* PrintWindow::MakeInclude() {
     pencils_ = check("CheckPencils", "Pencilmarks", &PrintSettings::PrintPencils);
     solutions_ = check("CheckSolution", "Solutions", &PrintSettings::PrintSolutions);
     teaching_ = check("CheckTeaching", "Techniques used", &PrintSettings::PrintTeaching);
+    pencils_->setToolTip(QStringLiteral("Clear it for grids without pencil marks"));
     teaching_->setToolTip(
         QStringLiteral("Under each puzzle, the techniques its solution needs and how often"));
     column->addWidget(current_);
     auto* indented = new QVBoxLayout;
     indented->setContentsMargins(22, 0, 0, 0);
     indented->addWidget(currentState_);
-    indented->addWidget(pencils_);
     column->addLayout(indented);
+    column->addWidget(pencils_);
     column->addWidget(solutions_);
     column->addWidget(teaching_);
     current_->setEnabled(snapshot_.Number != 0);
