@@ -9,13 +9,13 @@
 #include <QPainter>
 #include <QScreen>
 
+#include "ui/about_window.h"
 #include "ui/check_window.h"
 #include "ui/colors_window.h"
 #include "ui/hint_window.h"
 #include "ui/options_dialog.h"
 #include "ui/print_window.h"
 #include "ui/qt_prompter.h"
-#include "ui/about_window.h"
 #include "ui/revision_window.h"
 #include "ui/technique_manager_dialog.h"
 #include "window_fixture.h"
