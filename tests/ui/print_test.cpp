@@ -169,6 +169,9 @@ TEST_F(PrintTest, DigitsAndHeadingsAreSetInTheMetricTwinsOfTimesAndArial) {
     const QStringList families = QFontDatabase::families();
     if (!families.contains("Liberation Serif") || !families.contains("Liberation Sans"))
         GTEST_SKIP() << "the Liberation fonts are not installed";
+    // Where the faces themselves are installed fontconfig takes them: as good.
+    if (families.contains("Times New Roman") || families.contains("Arial"))
+        GTEST_SKIP() << "Times New Roman or Arial itself is installed";
     EXPECT_EQ(QFontInfo(PaperSerifFont(40)).family(), "Liberation Serif");
     EXPECT_EQ(QFontInfo(PaperSansFont(40)).family(), "Liberation Sans");
     settings.PrintPuzzlesPerPageIndex = 2;
