@@ -2,6 +2,7 @@
 // the options and the platform's services are made here and handed to the game;
 // the game starts before the window shows, as its questions may come first.
 #include <QApplication>
+#include <iostream>
 
 #include "game/game.h"
 #include "settings/options.h"
@@ -9,14 +10,18 @@
 #include "ui/desktop_services.h"
 #include "ui/main_window.h"
 #include "ui/program_folders.h"
+#include "ui/program_info.h"
 #include "ui/qsettings_store.h"
 #include "ui/qt_prompter.h"
 #include "ui/qt_sound_player.h"
 
 int main(int argc, char** argv) {
+    // --help and --version answer on the terminal, before a display is needed.
+    if (const int status = tavi::ui::AnswerCommandLine(argc, argv, std::cout); status >= 0)
+        return status;
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Tavi Sudoku 1"));
-    QApplication::setApplicationVersion(QStringLiteral("1.6"));
+    QApplication::setApplicationVersion(QStringLiteral(TAVI_VERSION));
     QApplication::setWindowIcon(tavi::ui::AppIcon());
     QGuiApplication::setDesktopFileName(QString::fromLatin1(tavi::ui::kAppId));
 

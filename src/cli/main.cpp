@@ -15,6 +15,7 @@ namespace {
 
 constexpr const char* kUsage =
     "usage: tavi-sudoku-cli COMMAND [options] [FILE]\n"
+    "       tavi-sudoku-cli --help | --version\n"
     "\n"
     "Puzzles are read one per line from FILE, or from standard input: the first 81\n"
     "characters of a line are the puzzle ('1'-'9' a clue, '0' or '.' an empty cell).\n"
@@ -71,6 +72,16 @@ int main(int argc, char** argv) {
     const std::string command = args[0];
     if (command == "--help" || command == "-h" || command == "help") {
         std::cout << kUsage;
+        return 0;
+    }
+    if (command == "--version") {
+        std::cout
+            << "tavi-sudoku-cli (Tavi Sudoku 1) " TAVI_VERSION
+               "\n"
+               "Copyright 2026 The Tavi Sudoku 1 developers\n"
+               "License GPLv3+: GNU GPL version 3 or later <https://gnu.org/licenses/gpl.html>.\n"
+               "This is free software: you are free to change and redistribute it.\n"
+               "There is NO WARRANTY, to the extent permitted by law.\n";
         return 0;
     }
 

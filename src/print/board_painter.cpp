@@ -8,6 +8,7 @@
 #include "game/game.h"
 #include "grid/tables.h"
 #include "print/glyph_cache.h"
+#include "print/paper_type.h"
 
 namespace tavi::ui {
 
@@ -19,10 +20,16 @@ const QColor kCursorColor(230, 120, 0);  // the colour value 255 of a picked hea
 
 // Centres the digit by its ink, not by the font's line box, as the glyph cache
 // does.
+QFont FontOf(const QFont& current, const QString& family, QFont::StyleHint hint) {
+    if (family.isEmpty()) return current;
+    QFont font(family);
+    font.setStyleHint(hint, QFont::PreferOutline);
+    return font;
+}
+
 void DrawDigitText(QPainter& p, const QRect& box, int digit, int pixelSize, const QColor& color,
-                   bool bold, const QString& family) {
-    QFont font = p.font();
-    if (!family.isEmpty()) font.setFamily(family);
+                   bool bold, const QString& family, QFont::StyleHint hint) {
+    QFont font = FontOf(p.font(), family, hint);
     font.setPixelSize(std::max(1, pixelSize));
     font.setBold(bold);
     p.setFont(font);
@@ -35,11 +42,21 @@ void DrawDigitText(QPainter& p, const QRect& box, int digit, int pixelSize, cons
 }
 
 void DrawDigit(QPainter& p, GlyphCache* glyphs, const QRect& box, int digit, int pixelSize,
-               const QColor& color, bool bold, const QString& family) {
+               const QColor& color, bool bold, const BoardLook& look) {
     if (glyphs)
         glyphs->Draw(p, box, digit, pixelSize, color, bold);
     else
-        DrawDigitText(p, box, digit, pixelSize, color, bold, family);
+        DrawDigitText(p, box, digit, pixelSize, color, bold, look.digitFamily, look.digitHint);
+}
+
+// The square of mark `digit` inside the cell's margin.
+QRect MarkBox(const BoardGeometry& g, int digit, int cell, int marginPercent) {
+    if (marginPercent <= 0) return g.MarkRect(digit, cell);
+    const QRect c = g.CellRect(cell);
+    const int margin = c.width() * marginPercent / 100;
+    const int m = (c.width() - 2 * margin) / 3;
+    return QRect(c.x() + margin + ((digit - 1) % 3) * m, c.y() + margin + ((digit - 1) / 3) * m, m,
+                 m);
 }
 
 void PaintBackgrounds(QPainter& p, const BoardGeometry& g, const BoardPicture& s,
@@ -81,8 +98,7 @@ void PaintLines(QPainter& p, const BoardGeometry& g, const BoardLook& look) {
 
 void PaintHeaders(QPainter& p, const BoardGeometry& g, const BoardPicture& s,
                   const BoardLook& look) {
-    QFont font = p.font();
-    if (!look.headerFamily.isEmpty()) font.setFamily(look.headerFamily);
+    QFont font = FontOf(p.font(), look.headerFamily, look.headerHint);
     font.setPixelSize(std::max(9, g.HeaderSize() * 11 / 20));
     for (int i = 0; i < 9; ++i) {
         const bool rowPicked = s.selectedRow == i;
@@ -104,12 +120,12 @@ void PaintDigitsAndMarks(QPainter& p, const BoardGeometry& g, const BoardPicture
                          const BoardLook& look, GlyphCache* glyphs) {
     const int cell = g.CellSize();
     const int digitSize = cell * 62 / 100;
-    const int markSize = std::max(7, cell * 30 / 100);
+    const int markSize = std::max(7, cell * (30 - look.markMargin / 2) / 100);
     for (int c = 0; c < 81; ++c) {
         if (const int d = s.digits[c]) {
             const QColor ink = s.clue[c] ? look.clue : look.userDigit;
             DrawDigit(p, glyphs, g.CellRect(c), d, digitSize, ReadableOn(ink, s.cellPaint[c]),
-                      s.clue[c] && look.boldClues, look.digitFamily);
+                      s.clue[c] && look.boldClues, look);
             continue;
         }
         for (int m = 1; m <= 9; ++m) {
@@ -119,9 +135,8 @@ void PaintDigitsAndMarks(QPainter& p, const BoardGeometry& g, const BoardPicture
                                  : dim      ? ColorOf(kDimmedMarkColor)
                                             : look.mark;
             const auto& under = s.markPaint[c][m - 1] ? s.markPaint[c][m - 1] : s.cellPaint[c];
-            DrawDigit(p, glyphs, g.MarkRect(m, c), m, markSize,
-                      ReadableOn(color, under, dim ? kDimmedContrast : kInkContrast), false,
-                      look.digitFamily);
+            DrawDigit(p, glyphs, MarkBox(g, m, c, look.markMargin), m, markSize,
+                      ReadableOn(color, under, dim ? kDimmedContrast : kInkContrast), false, look);
         }
     }
 }
@@ -140,8 +155,11 @@ BoardLook BoardLook::Paper() {
     look.thinLine = QColor(110, 110, 110);
     look.thickLine = Qt::black;
     look.headerText = Qt::black;
-    look.digitFamily = QStringLiteral("Times New Roman");
-    look.headerFamily = QStringLiteral("Arial");
+    look.digitFamily = kPaperSerif;
+    look.headerFamily = kPaperSans;
+    look.digitHint = QFont::Serif;
+    look.headerHint = QFont::SansSerif;
+    look.markMargin = 8;
     look.boldClues = false;
     look.fillWindow = false;
     return look;

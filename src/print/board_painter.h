@@ -7,6 +7,7 @@
 #pragma once
 
 #include <QColor>
+#include <QFont>
 #include <QString>
 #include <array>
 #include <cstdint>
@@ -53,12 +54,19 @@ struct BoardLook {
     QColor headerText = QColor(70, 76, 92);
     QString digitFamily;  // empty: the painter's font
     QString headerFamily;
+    // With a family the font starts fresh, with this hint for fontconfig's
+    // choice, and takes nothing of the painter's font.
+    QFont::StyleHint digitHint = QFont::AnyStyle;
+    QFont::StyleHint headerHint = QFont::AnyStyle;
+    // The marks lie in the cell less this share of its side on every edge
+    // (hundredths), so they keep clear of the grid lines.
+    int markMargin = 0;
     bool boldClues = true;
     bool fillWindow = true;  // paint `window` over the board's whole rectangle first
 
     BoardLook();
-    // Black on white paper: clues in Times New Roman, marks in grey, lines that
-    // survive a printer.
+    // Black on white paper: digits in a Times New Roman face, headers in an
+    // Arial face, marks in grey clear of the lines, lines that survive a printer.
     static BoardLook Paper();
 };
 

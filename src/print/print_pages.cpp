@@ -8,6 +8,7 @@
 
 #include "grid/levels.h"
 #include "print/board_painter.h"
+#include "print/paper_type.h"
 
 namespace tavi::ui {
 
@@ -28,24 +29,37 @@ class PagePainter : public PrintSink {
           settings_(settings),
           places_(PuzzlePlaces(geometry, PuzzlesPerPage(settings.PrintPuzzlesPerPageIndex))) {}
 
-    void BeginPage(int page) override {
-        if (printer_ && started_) printer_->newPage();
-        started_ = true;
+    void BeginPage(int page, int level) override {
         (void)page;
+        pageLevel_ = level;
+        if (printer_) {
+            // The sheet is opened with the first puzzle that stands on it, so a
+            // job whose first read fails leaves no empty sheet behind.
+            if (!p_.isActive()) {
+                if (!p_.begin(printer_)) {
+                    failed_ = true;
+                    return;
+                }
+                p_.setRenderHint(QPainter::Antialiasing);
+            } else {
+                printer_->newPage();
+            }
+        }
         // PrintTitel: the program's name on the left, the level on the right.
-        p_.setFont(Font("Arial", 18));
+        p_.setFont(PaperSansFont(Points(18)));
         p_.setPen(Qt::black);
         const QRect heading = ToQRect(HeadingRect(g_));
         p_.drawText(heading, Qt::AlignLeft | Qt::AlignVCenter,
                     QString::fromLatin1(kPrintHeading.data(), int(kPrintHeading.size())));
-        const std::string_view level = LevelName(settings_.PrintLevelIndex + 1);
+        const std::string_view name = LevelName(level);
         p_.drawText(heading, Qt::AlignRight | Qt::AlignVCenter,
-                    QString::fromLatin1(level.data(), int(level.size())));
+                    QString::fromLatin1(name.data(), int(name.size())));
         const int rule = std::max(1, int(g_.PrintUnit * 0.3));
         p_.fillRect(QRect(heading.left(), heading.bottom() + 1, heading.width(), rule), Qt::black);
     }
 
     void Puzzle(const PrintSlot& slot, const PrintPuzzle& puzzle) override {
+        if (failed_) return;
         const PuzzlePlace& place = places_[std::size_t(slot.position) % places_.size()];
         // PrintSudoku: the board, then "# " and the number.
         BoardPicture picture;
@@ -57,14 +71,16 @@ class PagePainter : public PrintSink {
         BoardGeometry board;
         board.FitIn(ToQRect(place.board), false);
         PaintBoard(p_, board, picture, BoardLook::Paper());
-        p_.setFont(Font("Arial", 12));
+        p_.setFont(PaperSansFont(Points(12)));
         p_.setPen(Qt::black);
         p_.drawText(ToQRect(place.caption), Qt::AlignLeft | Qt::AlignVCenter,
-                    QStringLiteral("# %1").arg(puzzle.Number));
+                    QString::fromStdString(PuzzleCaption(puzzle, pageLevel_)));
         if (settings_.PrintTeaching) {
-            p_.setFont(Font("Arial", 8));
-            p_.drawText(ToQRect(place.teaching), Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap,
-                        QString::fromStdString(TeachingText(puzzle.Techniques)));
+            const QRect box = ToQRect(place.teaching);
+            const FittedText fitted =
+                FitTeachingText(puzzle.Techniques, box, Points(8), Points(5.5), p_.device());
+            p_.setFont(fitted.font);
+            p_.drawText(box, kTeachingFlags, fitted.text);
         }
         // PrintSolution: the solution in small form.
         const bool known = std::any_of(puzzle.Solution.begin(), puzzle.Solution.end(),
@@ -84,19 +100,20 @@ class PagePainter : public PrintSink {
     }
 
     void EndPage(int page) override {
+        if (failed_) return;
         // PrintPaginanummer, bottom right of the print area.
-        p_.setFont(Font("Arial", 18));
+        p_.setFont(PaperSansFont(Points(18)));
         p_.setPen(Qt::black);
         p_.drawText(ToQRect(PageNumberRect(g_)), Qt::AlignRight | Qt::AlignBottom,
                     QStringLiteral("Page %1").arg(page));
     }
 
+    bool Failed() const { return failed_; }
+
   private:
-    QFont Font(const char* family, double points) const {
-        QFont font(QString::fromLatin1(family));
-        font.setStyleHint(QFont::SansSerif);
-        font.setPixelSize(std::max(1, int(points * 25.4 / 72.0 * g_.PrintUnit)));
-        return font;
+    // A type size in points as units of the sheet.
+    int Points(double points) const {
+        return std::max(1, int(points * 25.4 / 72.0 * g_.PrintUnit));
     }
 
     QPainter& p_;
@@ -104,7 +121,8 @@ class PagePainter : public PrintSink {
     PageGeometry g_;
     PrintSettings settings_;
     std::vector<PuzzlePlace> places_;
-    bool started_ = false;
+    int pageLevel_ = 0;
+    bool failed_ = false;
 };
 
 }  // namespace
@@ -115,12 +133,12 @@ bool PrintJobTo(QPrinter& printer, const PrintSettings& settings, const PrintSna
     printer.setPageSize(QPageSize(QPageSize::A4));
     printer.setPageOrientation(QPageLayout::Portrait);
     QPainter painter;
-    if (!painter.begin(&printer)) return false;
     const QRect paper = printer.pageLayout().fullRectPixels(printer.resolution());
     PagePainter pages(painter, &printer, GeometryOf(paper.width(), paper.height()), settings);
     const PrintResult r = RunPrintJob(settings, snapshot, dataFolder, pages);
     if (result) *result = r;
-    return painter.end();
+    if (pages.Failed()) return false;
+    return !painter.isActive() || painter.end();
 }
 
 void PaintPreviewPage(QPainter& painter, const QRectF& sheet, const PrintSettings& settings,

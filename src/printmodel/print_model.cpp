@@ -5,6 +5,7 @@
 #include "grid/candidates.h"
 #include "grid/levels.h"
 #include "library/library_files.h"
+#include "settings/technique_manager.h"
 #include "solver/ladder.h"
 #include "solver/solve_context.h"
 
@@ -36,6 +37,13 @@ std::array<std::string, 9> PrintLevelList() {
         names[level - 1] = std::string(LevelName(level));
     names[kOutlaw - 1] += "!";
     return names;
+}
+
+std::string RangeNote(const PrintSettings& settings, long count) {
+    if (settings.PrintFrom <= count) return {};
+    const std::string level(LevelName(settings.PrintLevelIndex + 1));
+    if (count <= 0) return "There are no " + level + " puzzles";
+    return level + " holds " + std::to_string(count) + (count == 1 ? " puzzle" : " puzzles");
 }
 
 PageGeometry GeometryOf(int printerWidth, int printerHeight) {
@@ -118,6 +126,7 @@ std::optional<PrintPuzzle> PuzzleWithoutTechniques(const PrintSlot& slot,
     out.Number = slot.number;
     Board board;
     if (slot.onScreen) {
+        out.Level = snapshot.Level ? snapshot.Level : settings.PrintLevelIndex + 1;
         out.Puzzle = snapshot.Puzzle;
         out.Solution = snapshot.Solution;
         if (settings.PrintCurrentState) {
@@ -128,6 +137,7 @@ std::optional<PrintPuzzle> PuzzleWithoutTechniques(const PrintSlot& slot,
         board.Puzzle = snapshot.Puzzle;
     } else {
         const int level = settings.PrintLevelIndex + 1;
+        out.Level = level;
         SudokuRecord record;
         if (!IsLevel(level) || slot.number < 1 ||
             !ReadSudokuRecord(PuzzleFile(dataFolder, LevelStem(level)), slot.number, record))
@@ -137,7 +147,7 @@ std::optional<PrintPuzzle> PuzzleWithoutTechniques(const PrintSlot& slot,
     }
     SetupCandidates(board);
     out.Grid = board.CurrentGrid;
-    out.Marks = board.Candidates;
+    if (settings.PrintPencils) out.Marks = board.Candidates;
     return out;
 }
 
@@ -151,13 +161,27 @@ std::optional<PrintPuzzle> PuzzleFor(const PrintSlot& slot, const PrintSettings&
     return out;
 }
 
+int PageLevel(const PrintSettings& settings, const PrintSnapshot& snapshot, int page) {
+    const bool aloneOnScreen = page == 1 && settings.PrintCurrent && snapshot.Number != 0 &&
+                               snapshot.Level != 0 &&
+                               PuzzlesPerPage(settings.PrintPuzzlesPerPageIndex) == 1;
+    return aloneOnScreen ? snapshot.Level : settings.PrintLevelIndex + 1;
+}
+
+std::string PuzzleCaption(const PrintPuzzle& puzzle, int pageLevel) {
+    std::string caption = "# " + std::to_string(puzzle.Number);
+    if (IsLevel(puzzle.Level) && puzzle.Level != pageLevel)
+        caption += " (" + std::string(LevelName(puzzle.Level)) + ")";
+    return caption;
+}
+
 std::vector<TechniqueCount> TechniquesNeeded(const Digits& puzzle) {
     SolveContext ctx(Side::Workbench);
     ctx.board = BoardFromPuzzle(puzzle);
     std::vector<TechniqueCount> counts;
     WorkbenchRun run;
     run.observer.hit = [&](const Rung& rung) {
-        const std::string name(rung.Name());
+        const std::string name(kTechniqueRows[std::size_t(rung.number)].caption);
         auto it = std::find_if(counts.begin(), counts.end(),
                                [&](const TechniqueCount& t) { return t.name == name; });
         if (it == counts.end())
@@ -169,13 +193,17 @@ std::vector<TechniqueCount> TechniquesNeeded(const Digits& puzzle) {
     return counts;
 }
 
-std::string TeachingText(const std::vector<TechniqueCount>& techniques) {
+std::string TeachingText(const std::vector<TechniqueCount>& techniques, int keep) {
     if (techniques.empty()) return "Techniques: logic alone does not solve this puzzle";
+    const std::size_t named =
+        keep < 0 ? techniques.size() : std::min(techniques.size(), std::size_t(keep));
     std::string text = "Techniques: ";
-    for (std::size_t i = 0; i < techniques.size(); ++i) {
+    for (std::size_t i = 0; i < named; ++i) {
         if (i) text += ", ";
         text += techniques[i].name + " x " + std::to_string(techniques[i].count);
     }
+    if (named < techniques.size())
+        text += (named ? ", + " : "+ ") + std::to_string(techniques.size() - named) + " more";
     return text;
 }
 
@@ -184,14 +212,16 @@ PrintResult RunPrintJob(const PrintSettings& settings, const PrintSnapshot& snap
     const std::vector<PrintSlot> slots = PlanJob(settings, snapshot);
     for (int page = 1; page <= PageCount(settings); ++page) {
         if (onlyPage && page != onlyPage) continue;
-        sink.BeginPage(page);
+        bool begun = false;
         for (const PrintSlot& slot : slots) {
             if (slot.page != page) continue;
             const auto puzzle = PuzzleFor(slot, settings, snapshot, dataFolder);
             if (!puzzle) return PrintResult::ReadFailed;
+            if (!begun) sink.BeginPage(page, PageLevel(settings, snapshot, page));
+            begun = true;
             sink.Puzzle(slot, *puzzle);
         }
-        sink.EndPage(page);
+        if (begun) sink.EndPage(page);
     }
     return PrintResult::Done;
 }

@@ -33,7 +33,7 @@ struct PrintSettings {
     int PrintPages = 0;                // 1 to 10; anything else counts as 1
     bool PrintCurrent = false;         // the on-screen puzzle takes the first place
     bool PrintCurrentState = false;    // ... as it stands now, with its marks
-    bool PrintPencils = true;          // ... with its marks (else the digits alone)
+    bool PrintPencils = true;          // every puzzle with its marks (else a clean grid)
     bool PrintSolutions = true;
     int PrintFrom = 1;
     int PrintLevelIndex = 0;     // level - 1; the list ends with "Outlaw!"
@@ -47,6 +47,9 @@ int PageCount(const PrintSettings& settings);
 std::string LabelTo(const PrintSettings& settings);
 // The names of the level list, the last one "Outlaw!".
 std::array<std::string, 9> PrintLevelList();
+// What the window says at once when "From" lies beyond the `count` puzzles of
+// the chosen level ("Medium holds 300 puzzles"); empty when it lies inside.
+std::string RangeNote(const PrintSettings& settings, long count);
 
 // The puzzle on the screen, handed over as the window opens: the puzzle, its
 // solution, the digits now on the board and the marks that show. Number 0 when
@@ -57,6 +60,7 @@ struct PrintSnapshot {
     Digits Grid{};
     std::array<CandidateMask, 81> Marks{};
     int Number = 0;
+    int Level = 0;  // the level it was opened from
 };
 
 // Page geometry in the printer's units, from the size of an A4 sheet in them.
@@ -101,18 +105,22 @@ struct PrintSlot {
 // when it is asked for and there is one.
 std::vector<PrintSlot> PlanJob(const PrintSettings& settings, const PrintSnapshot& snapshot);
 
-// A technique by name and how often the solution uses it.
+// A technique by its name in the Solving Techniques Manager, and how often the
+// solution uses it.
 struct TechniqueCount {
     std::string name;
     int count = 0;
     bool operator==(const TechniqueCount&) const = default;
 };
 // The techniques the logical solution of `puzzle` takes, in the order of their
-// first use, with the number of times each succeeds. Empty when logic alone
-// can't solve it.
+// first use, with the number of times each succeeds (the six subsets count as
+// one technique, as the manager lists them). Empty when logic alone can't solve
+// it.
 std::vector<TechniqueCount> TechniquesNeeded(const Digits& puzzle);
-// "Naked Single x 30, Hidden Single x 12, ..." or a word that logic alone fails.
-std::string TeachingText(const std::vector<TechniqueCount>& techniques);
+// "Techniques: Naked Single x 30, Hidden Single x 12, ..." or a word that logic
+// alone fails. With `keep` below the list's size only the first `keep` are
+// named, and "+ N more" ends the text.
+std::string TeachingText(const std::vector<TechniqueCount>& techniques, int keep = -1);
 
 // A puzzle as it will be printed.
 struct PrintPuzzle {
@@ -121,13 +129,21 @@ struct PrintPuzzle {
     Digits Solution{};                      // all zero when unknown
     std::array<CandidateMask, 81> Marks{};  // the pencil marks to print
     int Number = 0;
+    int Level = 0;                           // 1..9, what its number counts in
     std::vector<TechniqueCount> Techniques;  // for a teaching print
 };
 
+// The level a page's heading names: the on-screen puzzle's own when it stands
+// alone on the page, else the level chosen in the window.
+int PageLevel(const PrintSettings& settings, const PrintSnapshot& snapshot, int page);
+// The line under a puzzle: "# " and its number, and its level in brackets when
+// that is not the page's ("# 12 (Hard)").
+std::string PuzzleCaption(const PrintPuzzle& puzzle, int pageLevel);
+
 // What goes on the paper for one slot. The on-screen puzzle in its current
-// state keeps its own digits, and its marks when PrintPencils asks for them; any
-// other puzzle is printed with its clues and the marks SetupCandidates computes. Nothing when the
-// record can't be read.
+// state keeps its own digits and marks; any other puzzle is printed with its
+// clues and the marks SetupCandidates computes. Without PrintPencils every grid
+// is printed clean. Nothing when the record can't be read.
 std::optional<PrintPuzzle> PuzzleFor(const PrintSlot& slot, const PrintSettings& settings,
                                      const PrintSnapshot& snapshot,
                                      const std::filesystem::path& dataFolder);
@@ -136,7 +152,8 @@ std::optional<PrintPuzzle> PuzzleFor(const PrintSlot& slot, const PrintSettings&
 class PrintSink {
   public:
     virtual ~PrintSink() = default;
-    virtual void BeginPage(int page) = 0;  // after the first: a new sheet
+    // After the first: a new sheet. Begun only once a puzzle stands ready for it.
+    virtual void BeginPage(int page, int level) = 0;
     virtual void Puzzle(const PrintSlot& slot, const PrintPuzzle& puzzle) = 0;
     virtual void EndPage(int page) = 0;  // the page number goes on
 };
@@ -145,7 +162,8 @@ enum class PrintResult { Done, ReadFailed };
 
 // The job of the print command: for each page the heading, its puzzles and the
 // page number. A record that can't be read ends the job at once; the pages so
-// far stand. `onlyPage` limits the work to one page (the preview).
+// far stand, and no page is begun that no puzzle would stand on. `onlyPage`
+// limits the work to one page (the preview).
 PrintResult RunPrintJob(const PrintSettings& settings, const PrintSnapshot& snapshot,
                         const std::filesystem::path& dataFolder, PrintSink& sink, int onlyPage = 0);
 

@@ -16,6 +16,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "ui/about_window.h"
 #include "ui/board_area.h"
 #include "ui/colors_window.h"
 #include "ui/hint_window.h"
@@ -25,7 +26,6 @@
 #include "ui/print_window.h"
 #include "ui/qt_convert.h"
 #include "ui/release_controls.h"
-#include "ui/revision_window.h"
 #include "ui/sud_tekst.h"
 
 namespace tavi::ui {
@@ -281,7 +281,7 @@ void MainWindow::ShowWorkbench() {
 }
 
 void MainWindow::ShowRevisions() {
-    if (!revisions_) revisions_ = new RevisionWindow(this);
+    if (!revisions_) revisions_ = new AboutWindow(this);
     revisions_->show();
     revisions_->raise();
     revisions_->activateWindow();

@@ -27,7 +27,7 @@ namespace tavi::ui {
 class BoardArea;
 class ClickLabel;
 class HintWindow;
-class RevisionWindow;
+class AboutWindow;
 class SudTekstLine;
 
 class MainWindow : public QMainWindow {
@@ -119,7 +119,7 @@ class MainWindow : public QMainWindow {
     QLabel* labelTijd_ = nullptr;
     SudTekstLine* sudTekst_ = nullptr;
     QTimer* timer_ = nullptr;
-    RevisionWindow* revisions_ = nullptr;
+    AboutWindow* revisions_ = nullptr;  // the About box, with the revision history
     std::optional<PrintSettings> print_;  // the print window's, from its first opening on
     class CheckWindow* workbench_ = nullptr;
     HintWindow* hints_ = nullptr;

@@ -170,7 +170,7 @@ QWidget* MainWindow::BuildFoot() {
 
     auto* version = new ClickLabel(QStringLiteral("Version 1.6"), box);
     version->setObjectName(QStringLiteral("Label2"));
-    version->setToolTip(QStringLiteral("Click for Revision History"));
+    version->setToolTip(QStringLiteral("Click for About and Revision History"));
     version->setCursor(Qt::PointingHandCursor);
     connect(version, &ClickLabel::Released, this, [this](MouseButton button, bool inside) {
         if (button == MouseButton::Left && inside) ShowRevisions();

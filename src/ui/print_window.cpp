@@ -17,6 +17,8 @@
 #include <QVBoxLayout>
 
 #include "grid/levels.h"
+#include "library/library_files.h"
+#include "library/records.h"
 #include "print/print_pages.h"
 #include "ui/qt_convert.h"
 
@@ -79,6 +81,7 @@ PrintSnapshot PrintSnapshotOf(const Game& game) {
         for (int d = 1; d <= 9; ++d)
             if (!board.CurrentGrid[c] && game.MarkVisible(d, c)) s.Marks[c] |= DigitBit(d);
     s.Number = at.OpenRecord;
+    s.Level = at.OpenLevel;
     return s;
 }
 
@@ -106,6 +109,7 @@ PrintWindow::PrintWindow(PrintSettings& settings, PrintSnapshot snapshot,
     auto* print = new QPushButton(QStringLiteral("Print"));
     print->setObjectName(QStringLiteral("Command2"));
     print->setDefault(true);
+    print_ = print;
     auto* close = new QPushButton(QStringLiteral("Close"));
     close->setObjectName(QStringLiteral("Command1"));
     connect(print, &QPushButton::clicked, this, &PrintWindow::Print);
@@ -142,6 +146,12 @@ QWidget* PrintWindow::MakeRange() {
     grid->addWidget(fromLabel, 1, 0);
     grid->addWidget(from_, 1, 1);
     grid->addWidget(to_, 1, 2);
+    // Said at once when "From" lies beyond the level's puzzles.
+    note_ = new QLabel;
+    note_->setObjectName(QStringLiteral("LabelRangeNote"));
+    note_->setStyleSheet(QStringLiteral("color: #b00020"));
+    note_->setWordWrap(true);
+    grid->addWidget(note_, 2, 0, 1, 3);
     connect(level_, &QComboBox::currentIndexChanged, this, [this](int i) {
         if (showing_ || i < 0) return;
         settings_.PrintLevelIndex = i;
@@ -173,14 +183,15 @@ QWidget* PrintWindow::MakeInclude() {
     pencils_ = check("CheckPencils", "Pencilmarks", &PrintSettings::PrintPencils);
     solutions_ = check("CheckSolution", "Solutions", &PrintSettings::PrintSolutions);
     teaching_ = check("CheckTeaching", "Techniques used", &PrintSettings::PrintTeaching);
+    pencils_->setToolTip(QStringLiteral("Clear it for grids without pencil marks"));
     teaching_->setToolTip(
         QStringLiteral("Under each puzzle, the techniques its solution needs and how often"));
     column->addWidget(current_);
     auto* indented = new QVBoxLayout;
     indented->setContentsMargins(22, 0, 0, 0);
     indented->addWidget(currentState_);
-    indented->addWidget(pencils_);
     column->addLayout(indented);
+    column->addWidget(pencils_);
     column->addWidget(solutions_);
     column->addWidget(teaching_);
     current_->setEnabled(snapshot_.Number != 0);
@@ -241,10 +252,16 @@ void PrintWindow::Show() {
     solutions_->setChecked(settings_.PrintSolutions);
     teaching_->setChecked(settings_.PrintTeaching);
     currentState_->setEnabled(settings_.PrintCurrent);
-    pencils_->setEnabled(settings_.PrintCurrent);
     pages_->setValue(settings_.PrintPages);
     perPage_[std::clamp(settings_.PrintPuzzlesPerPageIndex, 0, 2)]->setChecked(true);
     to_->setText(ToQString(LabelTo(settings_)));
+    const long count = WholeRecords(
+        PuzzleFile(dataFolder_, LevelStem(settings_.PrintLevelIndex + 1)), kSudokuRecordSize);
+    const std::string note = RangeNote(settings_, count);
+    note_->setText(ToQString(note));
+    note_->setVisible(!note.empty());
+    // Beyond the library only the on-screen puzzle can still print.
+    print_->setEnabled(note.empty() || (settings_.PrintCurrent && snapshot_.Number != 0));
     preview_->update();
     showing_ = false;
 }

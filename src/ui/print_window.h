@@ -16,6 +16,7 @@ class QCheckBox;
 class QComboBox;
 class QLabel;
 class QPrinter;
+class QPushButton;
 class QRadioButton;
 class QSlider;
 class QSpinBox;
@@ -61,6 +62,8 @@ class PrintWindow : public QDialog {
     QComboBox* level_ = nullptr;
     QSpinBox* from_ = nullptr;
     QLabel* to_ = nullptr;
+    QLabel* note_ = nullptr;
+    QPushButton* print_ = nullptr;
     QCheckBox* current_ = nullptr;
     QCheckBox* currentState_ = nullptr;
     QCheckBox* pencils_ = nullptr;

@@ -7,9 +7,12 @@
 namespace tavi::ui {
 
 QString DeliveredFolder(const QString& programDir) {
-    // Installed: the program in PREFIX/bin, what it brings in PREFIX/share.
-    const QDir shared(QDir(programDir).filePath(QStringLiteral("../share/tavi-sudoku")));
-    if (shared.exists(QStringLiteral("help/index.html"))) return shared.absolutePath();
+    // Installed: the program in PREFIX/games with what it brings in
+    // PREFIX/share/games, or in PREFIX/bin with PREFIX/share.
+    for (const char* place : {"../share/games/tavi-sudoku", "../share/tavi-sudoku"}) {
+        const QDir shared(QDir(programDir).filePath(QString::fromLatin1(place)));
+        if (shared.exists(QStringLiteral("help/index.html"))) return shared.absolutePath();
+    }
     return QDir(programDir).absolutePath();
 }
 

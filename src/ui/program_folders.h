@@ -10,8 +10,8 @@
 namespace tavi::ui {
 
 // Where the delivered files of a program in `programDir` lie: PREFIX/share/
-// tavi-sudoku for a program installed in PREFIX/bin, else beside the program
-// (the build folder).
+// games/tavi-sudoku for a program installed in PREFIX/games, PREFIX/share/
+// tavi-sudoku for one in PREFIX/bin, else beside the program (the build folder).
 QString DeliveredFolder(const QString& programDir);
 
 // Makes the data folder when it isn't there; a failure shows later, when the

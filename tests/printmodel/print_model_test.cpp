@@ -11,6 +11,7 @@
 #include "grid/levels.h"
 #include "library/library_files.h"
 #include "library/library_test_support.h"
+#include "settings/technique_manager.h"
 #include "support/puzzles.h"
 
 namespace tavi {
@@ -90,7 +91,9 @@ class PrintJobTest : public ::testing::Test {
     struct Recorder : PrintSink {
         std::vector<std::string> events;
         std::vector<PrintPuzzle> puzzles;
-        void BeginPage(int page) override { events.push_back("begin " + std::to_string(page)); }
+        void BeginPage(int page, int level) override {
+            events.push_back("begin " + std::to_string(page) + " " + std::string(LevelName(level)));
+        }
         void Puzzle(const PrintSlot& slot, const PrintPuzzle& p) override {
             events.push_back("# " + std::to_string(slot.number));
             puzzles.push_back(p);
@@ -107,11 +110,78 @@ TEST_F(PrintJobTest, ReadsEachPuzzleWithItsMarksAndStopsAtTheFirstMissingRecord)
     s.PrintLevelIndex = 1;
     Recorder r;
     EXPECT_EQ(RunPrintJob(s, {}, folder, r), PrintResult::ReadFailed);
-    // Record 4 does not exist: the job ends on page 2, after what was printed.
-    EXPECT_EQ(r.events, (std::vector<std::string>{"begin 1", "# 2", "# 3", "end 1", "begin 2"}));
+    // Record 4 does not exist: the job ends after page 1, and no sheet is begun
+    // for page 2, where nothing would stand.
+    EXPECT_EQ(r.events, (std::vector<std::string>{"begin 1 Medium", "# 2", "# 3", "end 1"}));
     const auto& p = testing::GeneratedPuzzles(3, 5)[1];
     EXPECT_EQ(std::tie(r.puzzles[0].Grid, r.puzzles[0].Solution, r.puzzles[0].Marks),
               std::tuple(p.puzzle, p.solution, BoardFromPuzzle(p.puzzle).Candidates));
+    // A range that starts beyond the library begins no page at all.
+    s.PrintFrom = 4;
+    Recorder none;
+    EXPECT_EQ(RunPrintJob(s, {}, folder, none), PrintResult::ReadFailed);
+    EXPECT_TRUE(none.events.empty());
+    EXPECT_EQ(RangeNote(s, 3), "Medium holds 3 puzzles");
+    EXPECT_EQ(RangeNote(s, 0), "There are no Medium puzzles");
+    s.PrintFrom = 3;
+    EXPECT_EQ(RangeNote(s, 3), "");
+}
+
+TEST_F(PrintJobTest, PencilmarksOffPrintsEveryPuzzleAsACleanGrid) {
+    const auto& p = testing::GeneratedPuzzles(3, 5)[0];
+    PrintSnapshot snap;
+    snap.Puzzle = snap.Grid = p.puzzle;
+    snap.Solution = p.solution;
+    snap.Marks[0] = 0b11;
+    snap.Number = 9;
+    snap.Level = 2;
+    for (const bool current : {false, true})
+        for (const bool state : {false, true})
+            for (const bool pencils : {false, true}) {
+                PrintSettings s = Settings(1, 1, 1, current);
+                s.PrintLevelIndex = 1;
+                s.PrintCurrentState = state;
+                s.PrintPencils = pencils;
+                Recorder r;
+                ASSERT_EQ(RunPrintJob(s, snap, folder, r), PrintResult::Done);
+                ASSERT_EQ(r.puzzles.size(), 2u);
+                for (const PrintPuzzle& printed : r.puzzles) {
+                    const bool anyMark = std::any_of(printed.Marks.begin(), printed.Marks.end(),
+                                                     [](CandidateMask m) { return m != 0; });
+                    EXPECT_EQ(anyMark, pencils) << current << state << printed.Number;
+                    for (int c = 0; c < 81; ++c) {
+                        // A mark never stands on a digit, and with marks every
+                        // library puzzle carries those of its clues.
+                        if (printed.Grid[c]) {
+                            EXPECT_EQ(printed.Marks[c], 0);
+                        }
+                        if (pencils && !(current && state && printed.Number == 9)) {
+                            EXPECT_EQ(printed.Marks[c],
+                                      BoardFromPuzzle(printed.Puzzle).Candidates[c]);
+                        }
+                    }
+                }
+            }
+}
+
+TEST_F(PrintJobTest, TheOnScreenPuzzlePrintsUnderItsOwnLevel) {
+    PrintSnapshot snap;
+    snap.Puzzle = snap.Grid = testing::GeneratedPuzzles(3, 5)[0].puzzle;
+    snap.Number = 17;
+    snap.Level = 3;  // Hard, while the window has Medium chosen
+    PrintSettings s = Settings(0, 2, 1, true);
+    s.PrintLevelIndex = 1;
+    Recorder alone;
+    RunPrintJob(s, snap, folder, alone);
+    EXPECT_EQ(alone.events, (std::vector<std::string>{"begin 1 Hard", "# 17", "end 1",
+                                                      "begin 2 Medium", "# 1", "end 2"}));
+    EXPECT_EQ(PuzzleCaption(alone.puzzles[0], PageLevel(s, snap, 1)), "# 17");
+    s.PrintPuzzlesPerPageIndex = 1;  // shared with Medium puzzles: the caption tells
+    Recorder shared;
+    RunPrintJob(s, snap, folder, shared);
+    EXPECT_EQ(shared.events.front(), "begin 1 Medium");
+    EXPECT_EQ(PuzzleCaption(shared.puzzles[0], PageLevel(s, snap, 1)), "# 17 (Hard)");
+    EXPECT_EQ(PuzzleCaption(shared.puzzles[1], PageLevel(s, snap, 1)), "# 1");
 }
 
 TEST_F(PrintJobTest, TheOnScreenPuzzleInItsCurrentStateKeepsItsDigitsAndMarks) {
@@ -137,6 +207,7 @@ TEST_F(PrintJobTest, TheOnScreenPuzzleInItsCurrentStateKeepsItsDigitsAndMarks) {
     EXPECT_EQ(bare.puzzles[0].Marks, (std::array<CandidateMask, 81>{}));
     // Without the current state: the clues and the marks they leave.
     s.PrintCurrentState = false;
+    s.PrintPencils = true;
     Recorder clues;
     RunPrintJob(s, snap, folder, clues);
     EXPECT_EQ(std::pair(clues.puzzles[0].Grid, clues.puzzles[0].Marks),
@@ -162,8 +233,15 @@ TEST(TeachingPrint, TheTechniquesOfTheSolutionInOrderOfFirstUseWithTheirCounts) 
     for (int c = 0; c < 81; ++c)
         marks += std::popcount(unsigned(start.Candidates[c]));
     EXPECT_LE(steps, start.EmptyCount() + marks);
+    // Named as the Solving Techniques Manager names them.
+    for (const auto& t : used)
+        EXPECT_TRUE(std::any_of(kTechniqueRows.begin(), kTechniqueRows.end(),
+                                [&](const TechniqueRow& row) { return row.caption == t.name; }))
+            << t.name;
     EXPECT_EQ(TeachingText({{"Naked Single", 3}, {"Hidden Single", 1}}),
               "Techniques: Naked Single x 3, Hidden Single x 1");
+    EXPECT_EQ(TeachingText({{"Naked Single", 3}, {"Hidden Single", 1}, {"X-Wing", 2}}, 1),
+              "Techniques: Naked Single x 3, + 2 more");
     Digits clash = p.puzzle;
     clash[0] = clash[1] = 5;
     EXPECT_TRUE(TechniquesNeeded(clash).empty());

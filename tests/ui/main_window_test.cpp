@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QRadioButton>
+#include <QTextBrowser>
 
 #include "ui/hint_window.h"
 #include "window_fixture.h"
@@ -194,9 +195,14 @@ TEST_F(MainWindowTest, TheFootLabelsOpenTheSiteAndTheRevisionHistory) {
     auto* version = Find<ClickLabel>("Label2");
     EXPECT_EQ(version->text(), "Version 1.6");
     QTest::mouseClick(version, Qt::LeftButton);
-    auto* revisions = window->findChild<QDialog*>("FormRevision");
-    ASSERT_NE(revisions, nullptr);
-    EXPECT_TRUE(revisions->isVisible());
+    // The About box: name, version, licence, and the revision history.
+    auto* about = window->findChild<QDialog*>("FormAbout");
+    ASSERT_NE(about, nullptr);
+    EXPECT_TRUE(about->isVisible());
+    EXPECT_EQ(about->findChild<QLabel*>("LabelVersion")->text(), "Version 1.6");
+    EXPECT_TRUE(about->findChild<QLabel*>("LabelLicence")->text().contains("GNU General"));
+    EXPECT_TRUE(
+        about->findChild<QTextBrowser*>("TextRevision")->toPlainText().contains("Version 1.0"));
 }
 
 TEST_F(MainWindowTest, TheOptionsWindowChangesTheOptionsAndTheBoardFollows) {

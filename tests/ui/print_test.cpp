@@ -3,9 +3,14 @@
 #include <gtest/gtest.h>
 
 #include <QCheckBox>
+#include <QFontDatabase>
+#include <QFontInfo>
+#include <QFontMetrics>
+#include <QImage>
 #include <QLabel>
 #include <QPrinter>
 #include <QProcess>
+#include <QPushButton>
 #include <QRadioButton>
 #include <QRegularExpression>
 #include <QSpinBox>
@@ -17,6 +22,8 @@
 #include "grid/candidates.h"
 #include "grid/levels.h"
 #include "library/library_files.h"
+#include "print/paper_type.h"
+#include "settings/technique_manager.h"
 #include "support/puzzles.h"
 #include "ui/print_window.h"
 
@@ -124,7 +131,10 @@ TEST_F(PrintTest, TheOnScreenPuzzleEnablesItsChoicesAndTakesAPlaceFromTheRange) 
     auto* current = window.findChild<QCheckBox*>("CheckCurrent");
     auto* state = window.findChild<QCheckBox*>("CheckCurrentState");
     auto* to = window.findChild<QLabel*>("LabelTo");
+    EXPECT_TRUE(window.findChild<QLabel*>("LabelRangeNote")->isHidden());
     EXPECT_FALSE(state->isEnabled());
+    // Pencil marks are a choice for library puzzles too: a cleared box prints clean grids.
+    EXPECT_TRUE(window.findChild<QCheckBox*>("CheckPencils")->isEnabled());
     EXPECT_EQ(to->text(), "to 4");
     current->setChecked(true);
     EXPECT_TRUE(state->isEnabled());
@@ -135,9 +145,91 @@ TEST_F(PrintTest, TheOnScreenPuzzleEnablesItsChoicesAndTakesAPlaceFromTheRange) 
     EXPECT_EQ(to->text(), "to 5");
     EXPECT_EQ(settings.PrintFrom, 5);
 
+    // "From" beyond the three puzzles of the library is said at once; only the
+    // on-screen puzzle could still print.
+    auto* note = window.findChild<QLabel*>("LabelRangeNote");
+    auto* print = window.findChild<QPushButton*>("Command2");
+    EXPECT_EQ(note->text(), "Medium holds 3 puzzles");
+    EXPECT_FALSE(note->isHidden());
+    EXPECT_TRUE(print->isEnabled());
+    current->setChecked(false);
+    EXPECT_FALSE(print->isEnabled());
+    window.findChild<QSpinBox*>("TextFrom")->setValue(3);
+    EXPECT_TRUE(note->isHidden());
+    EXPECT_TRUE(print->isEnabled());
+
     PrintWindow nothingOnScreen(settings, {}, Folder());
     EXPECT_FALSE(nothingOnScreen.findChild<QCheckBox*>("CheckCurrent")->isEnabled());
     EXPECT_FALSE(settings.PrintCurrent);
+}
+
+TEST_F(PrintTest, DigitsAndHeadingsAreSetInTheMetricTwinsOfTimesAndArial) {
+    const QString tool = QStandardPaths::findExecutable(QStringLiteral("pdffonts"));
+    if (tool.isEmpty()) GTEST_SKIP() << "pdffonts is not installed";
+    const QStringList families = QFontDatabase::families();
+    if (!families.contains("Liberation Serif") || !families.contains("Liberation Sans"))
+        GTEST_SKIP() << "the Liberation fonts are not installed";
+    // Where the faces themselves are installed fontconfig takes them: as good.
+    if (families.contains("Times New Roman") || families.contains("Arial"))
+        GTEST_SKIP() << "Times New Roman or Arial itself is installed";
+    EXPECT_EQ(QFontInfo(PaperSerifFont(40)).family(), "Liberation Serif");
+    EXPECT_EQ(QFontInfo(PaperSansFont(40)).family(), "Liberation Sans");
+    settings.PrintPuzzlesPerPageIndex = 2;
+    settings.PrintPages = 1;
+    settings.PrintTeaching = true;
+    settings.PrintFrom = 1;
+    PrintSnapshot snapshot;
+    snapshot.Number = 1;
+    snapshot.Level = 3;
+    snapshot.Puzzle = snapshot.Grid = testing::GeneratedPuzzles(3, 11)[0].puzzle;
+    settings.PrintCurrent = true;
+    PrintWindow window(settings, snapshot, Folder());
+    bool ok = false;
+    const QString pdf = PrintToPdf(window, &ok);
+    ASSERT_TRUE(ok);
+    QProcess run;
+    run.start(tool, {pdf});
+    ASSERT_TRUE(run.waitForFinished(30000));
+    const QStringList lines =
+        QString::fromUtf8(run.readAllStandardOutput()).split('\n', Qt::SkipEmptyParts).mid(2);
+    QStringList names;
+    for (const QString& line : lines)
+        names << line.section(' ', 0, 0).section('+', -1).section('-', 0, 0);
+    names.removeDuplicates();
+    names.sort();
+    EXPECT_EQ(names, (QStringList{"LiberationSans", "LiberationSerif"}))
+        << names.join(' ').toStdString();
+}
+
+TEST(TeachingFit, TheLongestTechniqueListFitsItsBoxAtEveryPageSizeAndDensity) {
+    std::vector<TechniqueCount> all;
+    for (int t = 3; t < int(kTechniqueRows.size()); ++t)
+        all.push_back({std::string(kTechniqueRows[std::size_t(t)].caption), 99});
+    QImage device(10, 10, QImage::Format_RGB32);
+    for (const auto& [w, h] : {std::pair(2100, 2970), std::pair(9921, 14031)}) {
+        const PageGeometry g = GeometryOf(w, h);
+        const auto points = [&](double pt) { return int(pt * 25.4 / 72.0 * g.PrintUnit); };
+        for (int perPage : {1, 2, 4})
+            for (std::size_t n : {std::size_t(1), std::size_t(6), std::size_t(12), all.size()}) {
+                const std::vector<TechniqueCount> list(all.begin(), all.begin() + long(n));
+                const Rect r = PuzzlePlaces(g, perPage)[0].teaching;
+                const QRect box(r.x, r.y, r.width, r.height);
+                const FittedText fitted =
+                    FitTeachingText(list, box, points(8), points(5.5), &device);
+                const QRect needed = QFontMetrics(fitted.font, &device)
+                                         .boundingRect(box, kTeachingFlags, fitted.text);
+                EXPECT_LE(needed.width(), box.width()) << w << " " << perPage << " " << n;
+                EXPECT_LE(needed.height(), box.height()) << w << " " << perPage << " " << n;
+                EXPECT_GE(fitted.font.pixelSize(), points(5.5));
+                // What is left out is the end of the list, and the text says so.
+                const QString whole = QString::fromStdString(TeachingText(list));
+                if (fitted.text != whole) {
+                    EXPECT_TRUE(fitted.text.endsWith(" more")) << fitted.text.toStdString();
+                    const QString kept = fitted.text.left(fitted.text.lastIndexOf(", + "));
+                    EXPECT_TRUE(whole.startsWith(kept)) << fitted.text.toStdString();
+                }
+            }
+    }
 }
 
 }  // namespace

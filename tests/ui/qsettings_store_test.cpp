@@ -98,6 +98,13 @@ TEST(ProgramFolders, AnInstalledProgramFindsWhatItBringsUnderShare) {
     ASSERT_TRUE(page.open(QIODevice::WriteOnly));
     page.close();
     EXPECT_EQ(DeliveredFolder(root.filePath("bin")), root.filePath("share/tavi-sudoku"));
+    // Installed as a game: PREFIX/games with PREFIX/share/games.
+    root.mkpath("games");
+    root.mkpath("share/games/tavi-sudoku/help");
+    QFile gamePage(root.filePath("share/games/tavi-sudoku/help/index.html"));
+    ASSERT_TRUE(gamePage.open(QIODevice::WriteOnly));
+    gamePage.close();
+    EXPECT_EQ(DeliveredFolder(root.filePath("games")), root.filePath("share/games/tavi-sudoku"));
 }
 
 }  // namespace

@@ -1,14 +1,16 @@
 // Pictures of the game window as a person meets it on a small desktop: the
 // whole screen with the game window and the small hint window where they open,
 // the technique manager and the options window on that screen, dimmed marks
-// on hint colours, the revision history and the box of a new best time. Run it
-// with a screen of 1366 x 768 ("offscreen:configfile=FILE" in QT_QPA_PLATFORM),
-// once as it is and once with QT_SCALE_FACTOR=2. Written into TAVI_SHOTS_DIR.
+// on hint colours, the revision history, the About box and the box of a new
+// best time. Run it with a screen of 1366 x 768 ("offscreen:configfile=FILE" in
+// QT_QPA_PLATFORM), once as it is and once with QT_SCALE_FACTOR=2. Written into
+// TAVI_SHOTS_DIR.
 #include <QDir>
 #include <QMessageBox>
 #include <QPainter>
 #include <QScreen>
 
+#include "ui/about_window.h"
 #include "ui/check_window.h"
 #include "ui/colors_window.h"
 #include "ui/hint_window.h"
@@ -122,6 +124,9 @@ TEST_F(DeskShots, DialogsOnTheScreen) {
     RevisionWindow revisions(&w);
     revisions.show();
     Shot(revisions, "revision");
+    AboutWindow about(&w);
+    about.show();
+    Shot(about, "about");
 }
 
 TEST_F(DeskShots, BestTimeBox) {

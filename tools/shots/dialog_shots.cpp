@@ -1,9 +1,11 @@
 // Pictures of the print window (its preview with one, two and four puzzles to a
-// page, and the on-screen puzzle in its current state), a PDF of a job, and the
-// colours window, for a person to look at. Written into TAVI_SHOTS_DIR.
+// page, the on-screen puzzle in its current state, and "From" beyond the
+// library), a PDF of a job, and the colours window, for a person to look at.
+// Written into TAVI_SHOTS_DIR.
 #include <QDir>
 #include <QPrinter>
 #include <QRadioButton>
+#include <QSpinBox>
 
 #include "ui/colors_window.h"
 #include "ui/print_window.h"
@@ -44,6 +46,11 @@ TEST_F(DialogShots, PrintWindow) {
     settings.PrintCurrent = settings.PrintCurrentState = true;
     print.findChild<QRadioButton*>(QStringLiteral("OptionAantal_0"))->setChecked(true);
     Shot(print, QStringLiteral("print-current"));
+    settings.PrintCurrent = false;
+    print.findChild<QSpinBox*>(QStringLiteral("TextFrom"))->setValue(999);
+    Shot(print, QStringLiteral("print-beyond"));
+    settings.PrintCurrent = true;
+    print.findChild<QSpinBox*>(QStringLiteral("TextFrom"))->setValue(1);
     const QString dir = qEnvironmentVariable("TAVI_SHOTS_DIR");
     if (dir.isEmpty()) return;
     // The fixture's library holds three puzzles a level: the on-screen one and
