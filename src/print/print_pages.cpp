@@ -29,12 +29,9 @@ class PagePainter : public PrintSink {
           settings_(settings),
           places_(PuzzlePlaces(geometry, PuzzlesPerPage(settings.PrintPuzzlesPerPageIndex))) {}
 
-    void BeginPage(int page, int level) override {
+    void BeginPage(int page) override {
         (void)page;
-        pageLevel_ = level;
         if (printer_) {
-            // The sheet is opened with the first puzzle that stands on it, so a
-            // job whose first read fails leaves no empty sheet behind.
             if (!p_.isActive()) {
                 if (!p_.begin(printer_)) {
                     failed_ = true;
@@ -51,7 +48,7 @@ class PagePainter : public PrintSink {
         const QRect heading = ToQRect(HeadingRect(g_));
         p_.drawText(heading, Qt::AlignLeft | Qt::AlignVCenter,
                     QString::fromLatin1(kPrintHeading.data(), int(kPrintHeading.size())));
-        const std::string_view name = LevelName(level);
+        const std::string_view name = LevelName(settings_.PrintLevelIndex + 1);
         p_.drawText(heading, Qt::AlignRight | Qt::AlignVCenter,
                     QString::fromLatin1(name.data(), int(name.size())));
         const int rule = std::max(1, int(g_.PrintUnit * 0.3));
@@ -74,7 +71,7 @@ class PagePainter : public PrintSink {
         p_.setFont(PaperSansFont(Points(12)));
         p_.setPen(Qt::black);
         p_.drawText(ToQRect(place.caption), Qt::AlignLeft | Qt::AlignVCenter,
-                    QString::fromStdString(PuzzleCaption(puzzle, pageLevel_)));
+                    QStringLiteral("# %1").arg(puzzle.Number));
         if (settings_.PrintTeaching) {
             const QRect box = ToQRect(place.teaching);
             const FittedText fitted =
@@ -121,7 +118,6 @@ class PagePainter : public PrintSink {
     PageGeometry g_;
     PrintSettings settings_;
     std::vector<PuzzlePlace> places_;
-    int pageLevel_ = 0;
     bool failed_ = false;
 };
 

@@ -126,7 +126,6 @@ std::optional<PrintPuzzle> PuzzleWithoutTechniques(const PrintSlot& slot,
     out.Number = slot.number;
     Board board;
     if (slot.onScreen) {
-        out.Level = snapshot.Level ? snapshot.Level : settings.PrintLevelIndex + 1;
         out.Puzzle = snapshot.Puzzle;
         out.Solution = snapshot.Solution;
         if (settings.PrintCurrentState) {
@@ -137,7 +136,6 @@ std::optional<PrintPuzzle> PuzzleWithoutTechniques(const PrintSlot& slot,
         board.Puzzle = snapshot.Puzzle;
     } else {
         const int level = settings.PrintLevelIndex + 1;
-        out.Level = level;
         SudokuRecord record;
         if (!IsLevel(level) || slot.number < 1 ||
             !ReadSudokuRecord(PuzzleFile(dataFolder, LevelStem(level)), slot.number, record))
@@ -147,7 +145,7 @@ std::optional<PrintPuzzle> PuzzleWithoutTechniques(const PrintSlot& slot,
     }
     SetupCandidates(board);
     out.Grid = board.CurrentGrid;
-    if (settings.PrintPencils) out.Marks = board.Candidates;
+    out.Marks = board.Candidates;
     return out;
 }
 
@@ -159,20 +157,6 @@ std::optional<PrintPuzzle> PuzzleFor(const PrintSlot& slot, const PrintSettings&
     auto out = PuzzleWithoutTechniques(slot, settings, snapshot, dataFolder);
     if (out && settings.PrintTeaching) out->Techniques = TechniquesNeeded(out->Puzzle);
     return out;
-}
-
-int PageLevel(const PrintSettings& settings, const PrintSnapshot& snapshot, int page) {
-    const bool aloneOnScreen = page == 1 && settings.PrintCurrent && snapshot.Number != 0 &&
-                               snapshot.Level != 0 &&
-                               PuzzlesPerPage(settings.PrintPuzzlesPerPageIndex) == 1;
-    return aloneOnScreen ? snapshot.Level : settings.PrintLevelIndex + 1;
-}
-
-std::string PuzzleCaption(const PrintPuzzle& puzzle, int pageLevel) {
-    std::string caption = "# " + std::to_string(puzzle.Number);
-    if (IsLevel(puzzle.Level) && puzzle.Level != pageLevel)
-        caption += " (" + std::string(LevelName(puzzle.Level)) + ")";
-    return caption;
 }
 
 std::vector<TechniqueCount> TechniquesNeeded(const Digits& puzzle) {
@@ -212,16 +196,14 @@ PrintResult RunPrintJob(const PrintSettings& settings, const PrintSnapshot& snap
     const std::vector<PrintSlot> slots = PlanJob(settings, snapshot);
     for (int page = 1; page <= PageCount(settings); ++page) {
         if (onlyPage && page != onlyPage) continue;
-        bool begun = false;
+        sink.BeginPage(page);
         for (const PrintSlot& slot : slots) {
             if (slot.page != page) continue;
             const auto puzzle = PuzzleFor(slot, settings, snapshot, dataFolder);
             if (!puzzle) return PrintResult::ReadFailed;
-            if (!begun) sink.BeginPage(page, PageLevel(settings, snapshot, page));
-            begun = true;
             sink.Puzzle(slot, *puzzle);
         }
-        if (begun) sink.EndPage(page);
+        sink.EndPage(page);
     }
     return PrintResult::Done;
 }

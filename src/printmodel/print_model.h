@@ -33,7 +33,7 @@ struct PrintSettings {
     int PrintPages = 0;                // 1 to 10; anything else counts as 1
     bool PrintCurrent = false;         // the on-screen puzzle takes the first place
     bool PrintCurrentState = false;    // ... as it stands now, with its marks
-    bool PrintPencils = true;          // every puzzle with its marks (else a clean grid)
+    bool PrintPencils = true;          // ... with its marks (else the digits alone)
     bool PrintSolutions = true;
     int PrintFrom = 1;
     int PrintLevelIndex = 0;     // level - 1; the list ends with "Outlaw!"
@@ -60,7 +60,6 @@ struct PrintSnapshot {
     Digits Grid{};
     std::array<CandidateMask, 81> Marks{};
     int Number = 0;
-    int Level = 0;  // the level it was opened from
 };
 
 // Page geometry in the printer's units, from the size of an A4 sheet in them.
@@ -129,21 +128,13 @@ struct PrintPuzzle {
     Digits Solution{};                      // all zero when unknown
     std::array<CandidateMask, 81> Marks{};  // the pencil marks to print
     int Number = 0;
-    int Level = 0;                           // 1..9, what its number counts in
     std::vector<TechniqueCount> Techniques;  // for a teaching print
 };
 
-// The level a page's heading names: the on-screen puzzle's own when it stands
-// alone on the page, else the level chosen in the window.
-int PageLevel(const PrintSettings& settings, const PrintSnapshot& snapshot, int page);
-// The line under a puzzle: "# " and its number, and its level in brackets when
-// that is not the page's ("# 12 (Hard)").
-std::string PuzzleCaption(const PrintPuzzle& puzzle, int pageLevel);
-
 // What goes on the paper for one slot. The on-screen puzzle in its current
-// state keeps its own digits and marks; any other puzzle is printed with its
-// clues and the marks SetupCandidates computes. Without PrintPencils every grid
-// is printed clean. Nothing when the record can't be read.
+// state keeps its own digits, and its marks when PrintPencils asks for them; any
+// other puzzle is printed with its clues and the marks SetupCandidates computes.
+// Nothing when the record can't be read.
 std::optional<PrintPuzzle> PuzzleFor(const PrintSlot& slot, const PrintSettings& settings,
                                      const PrintSnapshot& snapshot,
                                      const std::filesystem::path& dataFolder);
@@ -152,8 +143,7 @@ std::optional<PrintPuzzle> PuzzleFor(const PrintSlot& slot, const PrintSettings&
 class PrintSink {
   public:
     virtual ~PrintSink() = default;
-    // After the first: a new sheet. Begun only once a puzzle stands ready for it.
-    virtual void BeginPage(int page, int level) = 0;
+    virtual void BeginPage(int page) = 0;  // after the first: a new sheet
     virtual void Puzzle(const PrintSlot& slot, const PrintPuzzle& puzzle) = 0;
     virtual void EndPage(int page) = 0;  // the page number goes on
 };
@@ -162,8 +152,7 @@ enum class PrintResult { Done, ReadFailed };
 
 // The job of the print command: for each page the heading, its puzzles and the
 // page number. A record that can't be read ends the job at once; the pages so
-// far stand, and no page is begun that no puzzle would stand on. `onlyPage`
-// limits the work to one page (the preview).
+// far stand. `onlyPage` limits the work to one page (the preview).
 PrintResult RunPrintJob(const PrintSettings& settings, const PrintSnapshot& snapshot,
                         const std::filesystem::path& dataFolder, PrintSink& sink, int onlyPage = 0);
 

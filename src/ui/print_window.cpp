@@ -81,7 +81,6 @@ PrintSnapshot PrintSnapshotOf(const Game& game) {
         for (int d = 1; d <= 9; ++d)
             if (!board.CurrentGrid[c] && game.MarkVisible(d, c)) s.Marks[c] |= DigitBit(d);
     s.Number = at.OpenRecord;
-    s.Level = at.OpenLevel;
     return s;
 }
 
@@ -109,7 +108,6 @@ PrintWindow::PrintWindow(PrintSettings& settings, PrintSnapshot snapshot,
     auto* print = new QPushButton(QStringLiteral("Print"));
     print->setObjectName(QStringLiteral("Command2"));
     print->setDefault(true);
-    print_ = print;
     auto* close = new QPushButton(QStringLiteral("Close"));
     close->setObjectName(QStringLiteral("Command1"));
     connect(print, &QPushButton::clicked, this, &PrintWindow::Print);
@@ -183,7 +181,7 @@ QWidget* PrintWindow::MakeInclude() {
     pencils_ = check("CheckPencils", "Pencilmarks", &PrintSettings::PrintPencils);
     solutions_ = check("CheckSolution", "Solutions", &PrintSettings::PrintSolutions);
     teaching_ = check("CheckTeaching", "Techniques used", &PrintSettings::PrintTeaching);
-    pencils_->setToolTip(QStringLiteral("Clear it for grids without pencil marks"));
+    pencils_->setToolTip(QStringLiteral("Clear it to print the on-screen puzzle without its marks"));
     teaching_->setToolTip(
         QStringLiteral("Under each puzzle, the techniques its solution needs and how often"));
     column->addWidget(current_);
@@ -252,6 +250,7 @@ void PrintWindow::Show() {
     solutions_->setChecked(settings_.PrintSolutions);
     teaching_->setChecked(settings_.PrintTeaching);
     currentState_->setEnabled(settings_.PrintCurrent);
+    pencils_->setEnabled(settings_.PrintCurrent);
     pages_->setValue(settings_.PrintPages);
     perPage_[std::clamp(settings_.PrintPuzzlesPerPageIndex, 0, 2)]->setChecked(true);
     to_->setText(ToQString(LabelTo(settings_)));
@@ -260,8 +259,6 @@ void PrintWindow::Show() {
     const std::string note = RangeNote(settings_, count);
     note_->setText(ToQString(note));
     note_->setVisible(!note.empty());
-    // Beyond the library only the on-screen puzzle can still print.
-    print_->setEnabled(note.empty() || (settings_.PrintCurrent && snapshot_.Number != 0));
     preview_->update();
     showing_ = false;
 }

@@ -63,7 +63,6 @@ class PrintWindow : public QDialog {
     QSpinBox* from_ = nullptr;
     QLabel* to_ = nullptr;
     QLabel* note_ = nullptr;
-    QPushButton* print_ = nullptr;
     QCheckBox* current_ = nullptr;
     QCheckBox* currentState_ = nullptr;
     QCheckBox* pencils_ = nullptr;

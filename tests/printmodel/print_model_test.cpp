@@ -91,9 +91,7 @@ class PrintJobTest : public ::testing::Test {
     struct Recorder : PrintSink {
         std::vector<std::string> events;
         std::vector<PrintPuzzle> puzzles;
-        void BeginPage(int page, int level) override {
-            events.push_back("begin " + std::to_string(page) + " " + std::string(LevelName(level)));
-        }
+        void BeginPage(int page) override { events.push_back("begin " + std::to_string(page)); }
         void Puzzle(const PrintSlot& slot, const PrintPuzzle& p) override {
             events.push_back("# " + std::to_string(slot.number));
             puzzles.push_back(p);
@@ -110,31 +108,30 @@ TEST_F(PrintJobTest, ReadsEachPuzzleWithItsMarksAndStopsAtTheFirstMissingRecord)
     s.PrintLevelIndex = 1;
     Recorder r;
     EXPECT_EQ(RunPrintJob(s, {}, folder, r), PrintResult::ReadFailed);
-    // Record 4 does not exist: the job ends after page 1, and no sheet is begun
-    // for page 2, where nothing would stand.
-    EXPECT_EQ(r.events, (std::vector<std::string>{"begin 1 Medium", "# 2", "# 3", "end 1"}));
+    // Record 4 does not exist: the job ends on page 2, after what was printed.
+    EXPECT_EQ(r.events, (std::vector<std::string>{"begin 1", "# 2", "# 3", "end 1", "begin 2"}));
     const auto& p = testing::GeneratedPuzzles(3, 5)[1];
     EXPECT_EQ(std::tie(r.puzzles[0].Grid, r.puzzles[0].Solution, r.puzzles[0].Marks),
               std::tuple(p.puzzle, p.solution, BoardFromPuzzle(p.puzzle).Candidates));
-    // A range that starts beyond the library begins no page at all.
+    // A range that starts beyond the library ends on its first read, and the
+    // window says so before the job is started.
     s.PrintFrom = 4;
     Recorder none;
     EXPECT_EQ(RunPrintJob(s, {}, folder, none), PrintResult::ReadFailed);
-    EXPECT_TRUE(none.events.empty());
+    EXPECT_EQ(none.events, (std::vector<std::string>{"begin 1"}));
     EXPECT_EQ(RangeNote(s, 3), "Medium holds 3 puzzles");
     EXPECT_EQ(RangeNote(s, 0), "There are no Medium puzzles");
     s.PrintFrom = 3;
     EXPECT_EQ(RangeNote(s, 3), "");
 }
 
-TEST_F(PrintJobTest, PencilmarksOffPrintsEveryPuzzleAsACleanGrid) {
+TEST_F(PrintJobTest, PencilmarksChoosesOnlyForTheOnScreenPuzzleInItsCurrentState) {
     const auto& p = testing::GeneratedPuzzles(3, 5)[0];
     PrintSnapshot snap;
     snap.Puzzle = snap.Grid = p.puzzle;
     snap.Solution = p.solution;
     snap.Marks[0] = 0b11;
     snap.Number = 9;
-    snap.Level = 2;
     for (const bool current : {false, true})
         for (const bool state : {false, true})
             for (const bool pencils : {false, true}) {
@@ -146,42 +143,15 @@ TEST_F(PrintJobTest, PencilmarksOffPrintsEveryPuzzleAsACleanGrid) {
                 ASSERT_EQ(RunPrintJob(s, snap, folder, r), PrintResult::Done);
                 ASSERT_EQ(r.puzzles.size(), 2u);
                 for (const PrintPuzzle& printed : r.puzzles) {
-                    const bool anyMark = std::any_of(printed.Marks.begin(), printed.Marks.end(),
-                                                     [](CandidateMask m) { return m != 0; });
-                    EXPECT_EQ(anyMark, pencils) << current << state << printed.Number;
-                    for (int c = 0; c < 81; ++c) {
-                        // A mark never stands on a digit, and with marks every
-                        // library puzzle carries those of its clues.
-                        if (printed.Grid[c]) {
-                            EXPECT_EQ(printed.Marks[c], 0);
-                        }
-                        if (pencils && !(current && state && printed.Number == 9)) {
-                            EXPECT_EQ(printed.Marks[c],
-                                      BoardFromPuzzle(printed.Puzzle).Candidates[c]);
-                        }
-                    }
+                    // Every other grid carries the marks its clues leave.
+                    const bool asItStands = current && state && printed.Number == 9;
+                    const std::array<CandidateMask, 81> expected =
+                        !asItStands ? BoardFromPuzzle(printed.Puzzle).Candidates
+                        : pencils   ? snap.Marks
+                                    : std::array<CandidateMask, 81>{};
+                    EXPECT_EQ(printed.Marks, expected) << current << state << pencils;
                 }
             }
-}
-
-TEST_F(PrintJobTest, TheOnScreenPuzzlePrintsUnderItsOwnLevel) {
-    PrintSnapshot snap;
-    snap.Puzzle = snap.Grid = testing::GeneratedPuzzles(3, 5)[0].puzzle;
-    snap.Number = 17;
-    snap.Level = 3;  // Hard, while the window has Medium chosen
-    PrintSettings s = Settings(0, 2, 1, true);
-    s.PrintLevelIndex = 1;
-    Recorder alone;
-    RunPrintJob(s, snap, folder, alone);
-    EXPECT_EQ(alone.events, (std::vector<std::string>{"begin 1 Hard", "# 17", "end 1",
-                                                      "begin 2 Medium", "# 1", "end 2"}));
-    EXPECT_EQ(PuzzleCaption(alone.puzzles[0], PageLevel(s, snap, 1)), "# 17");
-    s.PrintPuzzlesPerPageIndex = 1;  // shared with Medium puzzles: the caption tells
-    Recorder shared;
-    RunPrintJob(s, snap, folder, shared);
-    EXPECT_EQ(shared.events.front(), "begin 1 Medium");
-    EXPECT_EQ(PuzzleCaption(shared.puzzles[0], PageLevel(s, snap, 1)), "# 17 (Hard)");
-    EXPECT_EQ(PuzzleCaption(shared.puzzles[1], PageLevel(s, snap, 1)), "# 1");
 }
 
 TEST_F(PrintJobTest, TheOnScreenPuzzleInItsCurrentStateKeepsItsDigitsAndMarks) {

@@ -133,8 +133,7 @@ TEST_F(PrintTest, TheOnScreenPuzzleEnablesItsChoicesAndTakesAPlaceFromTheRange) 
     auto* to = window.findChild<QLabel*>("LabelTo");
     EXPECT_TRUE(window.findChild<QLabel*>("LabelRangeNote")->isHidden());
     EXPECT_FALSE(state->isEnabled());
-    // Pencil marks are a choice for library puzzles too: a cleared box prints clean grids.
-    EXPECT_TRUE(window.findChild<QCheckBox*>("CheckPencils")->isEnabled());
+    EXPECT_FALSE(window.findChild<QCheckBox*>("CheckPencils")->isEnabled());
     EXPECT_EQ(to->text(), "to 4");
     current->setChecked(true);
     EXPECT_TRUE(state->isEnabled());
@@ -145,18 +144,14 @@ TEST_F(PrintTest, TheOnScreenPuzzleEnablesItsChoicesAndTakesAPlaceFromTheRange) 
     EXPECT_EQ(to->text(), "to 5");
     EXPECT_EQ(settings.PrintFrom, 5);
 
-    // "From" beyond the three puzzles of the library is said at once; only the
-    // on-screen puzzle could still print.
+    // "From" beyond the three puzzles of the library is said at once.
     auto* note = window.findChild<QLabel*>("LabelRangeNote");
-    auto* print = window.findChild<QPushButton*>("Command2");
     EXPECT_EQ(note->text(), "Medium holds 3 puzzles");
     EXPECT_FALSE(note->isHidden());
-    EXPECT_TRUE(print->isEnabled());
     current->setChecked(false);
-    EXPECT_FALSE(print->isEnabled());
+    EXPECT_FALSE(window.findChild<QCheckBox*>("CheckPencils")->isEnabled());
     window.findChild<QSpinBox*>("TextFrom")->setValue(3);
     EXPECT_TRUE(note->isHidden());
-    EXPECT_TRUE(print->isEnabled());
 
     PrintWindow nothingOnScreen(settings, {}, Folder());
     EXPECT_FALSE(nothingOnScreen.findChild<QCheckBox*>("CheckCurrent")->isEnabled());
@@ -180,7 +175,6 @@ TEST_F(PrintTest, DigitsAndHeadingsAreSetInTheMetricTwinsOfTimesAndArial) {
     settings.PrintFrom = 1;
     PrintSnapshot snapshot;
     snapshot.Number = 1;
-    snapshot.Level = 3;
     snapshot.Puzzle = snapshot.Grid = testing::GeneratedPuzzles(3, 11)[0].puzzle;
     settings.PrintCurrent = true;
     PrintWindow window(settings, snapshot, Folder());
