@@ -51,9 +51,10 @@ int Hint(std::istream& in, std::ostream& out, std::ostream& err, bool paint = fa
 // Runs technique `technique` once on each board line (see FormatBoardLine) on the
 // workbench side: the givens, a tab, and the changes ("B3-7 A1=5") or "none".
 // With `hint` the game side looks instead, and the hint's sentence follows after
-// another tab. A malformed line is reported with its number; the status is then 2.
+// another tab, and with `paint` its colours, joined by "; ", after one more. A
+// malformed line is reported with its number; the status is then 2.
 int RungCommand(int technique, std::istream& in, std::ostream& out, std::ostream& err,
-                bool hint = false, std::string_view source = "standard input");
+                bool hint = false, bool paint = false, std::string_view source = "standard input");
 
 // For each puzzle, the board line of every state at which the rating run had to
 // go past the fixed head of the ladder (rungs 3 to 7 had nothing): the boards on

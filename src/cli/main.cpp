@@ -34,9 +34,10 @@ constexpr const char* kUsage =
     "  states [--all]     the boards on which a rating run needs more than the\n"
     "                     fixed head of the ladder (--all: every board of the\n"
     "                     run), one board line each\n"
-    "  rung N [--hint]    technique N once on each board line (81 givens, 81\n"
+    "  rung N [--hint [--paint]]\n"
+    "                     technique N once on each board line (81 givens, 81\n"
     "                     digits, 729 candidates); --hint looks on the game side\n"
-    "                     and adds the sentence\n"
+    "                     and adds the sentence, --paint then the hint's colours\n"
     "\n"
     "  generate --count N [--start S] [--threads T]\n"
     "        N minimal puzzles with one solution each, one per line; T threads\n"
@@ -129,7 +130,7 @@ int main(int argc, char** argv) {
             all = true;
         else if (args[i] == "--hint" && command == "rung")
             hint = true;
-        else if (args[i] == "--paint" && command == "hint")
+        else if (args[i] == "--paint" && (command == "hint" || command == "rung"))
             paint = true;
         else if (args[i].rfind("--", 0) == 0)
             return Usage("unknown option " + args[i] + " for " + command);
@@ -163,6 +164,6 @@ int main(int argc, char** argv) {
     if (command == "signature") return tavi::cli::Signature(in, std::cout, std::cerr, source);
     if (command == "states") return tavi::cli::States(in, std::cout, std::cerr, all, source);
     if (command == "rung")
-        return tavi::cli::RungCommand(technique, in, std::cout, std::cerr, hint, source);
+        return tavi::cli::RungCommand(technique, in, std::cout, std::cerr, hint, paint, source);
     return Usage("unknown command " + command);
 }

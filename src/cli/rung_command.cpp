@@ -5,6 +5,7 @@
 #include "cli/commands.h"
 #include "cli/puzzle_lines.h"
 #include "grid/candidates.h"
+#include "hints/hint_paint.h"
 #include "hints/hint_search.h"
 #include "hints/schrijf_hint.h"
 #include "solver/ladder.h"
@@ -12,7 +13,7 @@
 namespace tavi::cli {
 
 int RungCommand(int technique, std::istream& in, std::ostream& out, std::ostream& err, bool hint,
-                std::string_view source) {
+                bool paint, std::string_view source) {
     int bad = 0, lineNumber = 0;
     std::string line;
     while (std::getline(in, line)) {
@@ -37,6 +38,7 @@ int RungCommand(int technique, std::istream& in, std::ostream& out, std::ostream
         out << FormatDigits(board->Puzzle) << '\t'
             << (hit ? FormatConclusions(ctx.hint.Conclusions) : "none");
         if (hint) out << '\t' << (hit ? SchrijfHint(ctx.hint, *board) : "");
+        if (hint && paint) out << '\t' << (hit ? DescribePaints(PaintHint(ctx.hint, *board)) : "");
         out << '\n';
     }
     return bad ? kExitBadInput : kExitOk;

@@ -72,7 +72,9 @@ void Game::ShowTechniqueHint() {
 }
 
 bool Game::SueDeCoqSpotted() {
+    // The sentence and the colours go on screen before the question about them.
     ShowTechniqueHint();
+    Breathe();
     return services_.prompter.Ask("Sue-De-Coq",
                                   "If you can spot a Sue-De-Coq, press 'OK' else press 'Cancel'",
                                   Buttons::OkCancel) == Answer::Ok;

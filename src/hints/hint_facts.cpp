@@ -13,31 +13,6 @@ bool Contains(std::span<const int> cells, int cell) {
     return std::find(cells.begin(), cells.end(), cell) != cells.end();
 }
 
-// The cells, ascending, outside `exclude` that see every cell of `holders` and
-// hold `digit`. Nothing when there are no holders to see.
-std::vector<int> SeeingAllHolders(const Board& board, int digit, std::span<const int> holders,
-                                  std::span<const int> exclude) {
-    std::vector<int> out;
-    if (holders.empty()) return out;
-    for (int c : SeenByAll(holders))
-        if (board.Has(digit, c) && !Contains(exclude, c)) out.push_back(c);
-    return out;
-}
-
-std::vector<int> HoldersOf(const Board& board, int digit, std::span<const int> cells) {
-    std::vector<int> out;
-    for (int c : cells)
-        if (board.Has(digit, c)) out.push_back(c);
-    return out;
-}
-
-CandidateMask MaskOf(const Board& board, std::span<const int> cells) {
-    CandidateMask m = 0;
-    for (int c : cells)
-        m |= board.Candidates[c];
-    return m;
-}
-
 void AddRemoval(std::vector<DigitRemoval>& removals, int digit, const std::vector<int>& cells) {
     if (cells.empty()) return;
     auto it = std::find_if(removals.begin(), removals.end(),
@@ -117,7 +92,7 @@ HouseKind RectangleType3House(const HintRecord& hint) {
     return HouseKind::Box;
 }
 
-AlsPair AlsPairOf(const HintRecord& hint, const Board& board) {
+AlsPair AlsPairOf(const HintRecord& hint) {
     AlsPair pair;
     if (hint.HintKind == 32) {
         pair.first = {hint.HintCell};
@@ -129,35 +104,12 @@ AlsPair AlsPairOf(const HintRecord& hint, const Board& board) {
     auto valid = [](const std::vector<int>& v) { return std::all_of(v.begin(), v.end(), Valid); };
     if (!valid(pair.first) || !valid(pair.second)) return pair;
     pair.doublyLinked = hint.HintRow != 0;
-
-    std::vector<int> both = pair.first;
-    both.insert(both.end(), pair.second.begin(), pair.second.end());
-    const CandidateMask m1 = MaskOf(board, pair.first), m2 = MaskOf(board, pair.second);
-    const int x = hint.HintNumber, z = hint.HintVariant;
-    auto acrossBoth = [&](int k) {
-        AddRemoval(pair.removals, k, SeeingAllHolders(board, k, HoldersOf(board, k, both), both));
-    };
-    auto withinSet = [&](int k, const std::vector<int>& set) {
-        AddRemoval(pair.removals, k, SeeingAllHolders(board, k, HoldersOf(board, k, set), both));
-    };
-    for (int k = 1; k <= 9; ++k) {
-        if (!pair.doublyLinked) {
-            // Any digit the sets share, other than the restricted one, goes from
-            // every cell that sees all its holders in both.
-            if (k != x && HasDigit(m1, k) && HasDigit(m2, k)) acrossBoth(k);
-            continue;
-        }
-        // Doubly linked: each set is locked, so each of its other digits goes from
-        // the cells that see all its holders in that set.
-        if (k == x || k == z) {
-            acrossBoth(k);
-            continue;
-        }
-        if (HasDigit(m1, k)) withinSet(k, pair.first);
-        if (HasDigit(m2, k)) withinSet(k, pair.second);
-    }
-    std::sort(pair.removals.begin(), pair.removals.end(),
-              [](const DigitRemoval& a, const DigitRemoval& b) { return a.digit < b.digit; });
+    // The removals are the hit's own conclusions: a singly linked pair takes only
+    // the shared digit z, and a doubly linked one may take a digit of one set from
+    // the cells of the other.
+    for (int d = 1; d <= 9; ++d)
+        for (const Conclusion& c : hint.Conclusions)
+            if (!c.placed && c.digit == d) AddRemoval(pair.removals, d, {int(c.cell)});
     return pair;
 }
 

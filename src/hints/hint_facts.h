@@ -1,7 +1,8 @@
 // What a hint's sentence and its colours both work out again from the record and
 // the board, so that the two always tell the same story. Several kinds store less
-// than they say: the ALS kinds keep no removals, MultiFish keeps only its digits,
-// a finned X-Wing no fin. The board they are read from is the board the hint was
+// than they say: the ALS kinds keep no removals (they are read from the hit's
+// conclusions, which are what the step does), MultiFish keeps only its digits, a
+// finned X-Wing no fin. The board they are read from is the board the hint was
 // found on; a hint changes nothing, so it still stands when the hint is written.
 //
 // The layouts this file settles for kinds whose record is not spelt out field by
@@ -69,13 +70,13 @@ struct DigitRemoval {
     std::vector<int> cells;
 };
 
-// Kinds 32 and 33: the two sets and what they remove, by digit ascending.
+// Kinds 32 and 33: the two sets and what the hit removes, by digit ascending.
 struct AlsPair {
     std::vector<int> first, second;  // kind 32: the bi-value cell, then the set
     bool doublyLinked = false;
     std::vector<DigitRemoval> removals;
 };
-AlsPair AlsPairOf(const HintRecord& hint, const Board& board);
+AlsPair AlsPairOf(const HintRecord& hint);
 
 // Kind 34: a candidate in the code of the record.
 struct MedusaCandidate {

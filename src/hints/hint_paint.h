@@ -64,5 +64,7 @@ std::vector<HintPaint> PaintHint(const HintRecord& hint, const Board& board);
 std::string_view RoleName(HintRole role);
 // One paint in words: "erase", "cell A1 base cell", "digit 5 of A1 attacked candidates".
 std::string DescribePaint(const HintPaint& paint);
+// A whole paint list on one line, its paints joined by "; ".
+std::string DescribePaints(const std::vector<HintPaint>& paints);
 
 }  // namespace tavi

@@ -83,4 +83,11 @@ std::string DescribePaint(const HintPaint& paint) {
     return {};
 }
 
+std::string DescribePaints(const std::vector<HintPaint>& paints) {
+    std::string s;
+    for (const HintPaint& paint : paints)
+        s += (s.empty() ? "" : "; ") + DescribePaint(paint);
+    return s;
+}
+
 }  // namespace tavi

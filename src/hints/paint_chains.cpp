@@ -14,15 +14,17 @@ bool Contains(const std::vector<int>& cells, int c) {
 
 void SimpleColors(HintPainter& p, const HintRecord& h) {
     const int n = h.HintNumber;
-    const auto first = ListPart(h.HintCells, 1, h.HintCellCount);
-    const auto second = ListPart(h.HintValues, 1, h.HintValueCount);
+    auto first = ListPart(h.HintCells, 1, h.HintCellCount);
+    auto second = ListPart(h.HintValues, 1, h.HintValueCount);
     if (h.HintKind == 12) {
         for (int c : first) {
             p.ZetHintVak(c, kChainCell);
             p.ZetHintNummer(c, n, kBaseCandidates);
         }
     } else {
-        // A wrap: the whole first colour is false.
+        // A wrap: the colour of the two cells that see each other is false, and
+        // it may be either list; the other colour stays.
+        if (Contains(second, h.HintCell)) std::swap(first, second);
         for (int c : first)
             p.ZetAttackedCell(c, n);
     }
@@ -81,6 +83,12 @@ void MultiColors(HintPainter& p, const HintRecord& h) {
         }
         for (int e : ListPart(h.HintValues, 1, h.HintValueCount))
             if (e >= 0) p.ZetHintNummer(e % 81, n, e / 81 < 2 ? kChainCandidates : kBaseCandidates);
+        // The opposites of the false colours are placed: shown as a placement is.
+        for (const Conclusion& c : h.Conclusions)
+            if (c.placed) {
+                p.ZetHintVak(c.cell, kBaseCell);
+                p.ZetHintNummer(c.cell, c.digit, kBaseCandidates);
+            }
         return;
     }
     for (int e : entries)
@@ -109,36 +117,30 @@ void Loop(HintPainter& p, const HintRecord& h, DigitAt digitAt) {
     }
     switch (h.HintVariant) {
         case 3:  // the last entry sees both ends of the chain and loses its digit
-            p.ZetAttackedCell(h.HintCells[count], digitAt(count));
             break;
         case 2:  // the first cell must hold its digit
             p.ZetHintVak(h.HintCells[1], kBaseCell);
             p.ZetHintNummer(h.HintCells[1], digitAt(1), kBaseCandidates);
             break;
         case 1:
-            // Every weak link, entries k and k + 1 for even k: inside one cell the
-            // cell's other digits go; between two cells the digit goes from the
-            // rest of each house they share.
+            // The houses of the weak links between two cells, off the loop.
             for (int k = 2; k < count; k += 2) {
                 const int a = h.HintCells[k], b = h.HintCells[k + 1];
-                const int digit = digitAt(k);
-                if (a == b) {
-                    for (int d = 1; d <= 9; ++d)
-                        if (d != digit && d != digitAt(k + 1)) p.ZetAttackedCell(a, d);
-                    continue;
-                }
+                if (a == b) continue;
                 const int units[] = {a / 9, 9 + a % 9, 18 + Global::BoxOfCell[a]};
                 const int others[] = {b / 9, 9 + b % 9, 18 + Global::BoxOfCell[b]};
                 for (int u = 0; u < 3; ++u) {
                     if (units[u] != others[u]) continue;
                     for (int c : UnitCells[units[u]])
                         if (!Contains(loop, c)) p.ZetHintVak(c, kPatternCell);
-                    for (int c : UnitCells[units[u]])
-                        if (!Contains(loop, c)) p.ZetAttackedCell(c, digit);
                 }
             }
             break;
     }
+    // Last, every candidate the loop takes away, wherever it stands: in the
+    // houses of the weak links, in a cell of a weak link inside a cell, and on the
+    // loop itself.
+    AttackRemovals(p, h);
 }
 
 }  // namespace

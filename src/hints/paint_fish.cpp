@@ -86,6 +86,9 @@ void MultiValueXWing(HintPainter& p, const HintRecord& h) {
         p.ZetHintNummer(c, y, kAttackingCandidates);
 }
 
+// Kind 9. The target would rule out the near end of the conjugate pair and so
+// force the far end; the far end closes one crossing line of the box, the target
+// the other.
 void EmptyRectangle(HintPainter& p, const HintRecord& h) {
     const int n = h.HintNumber, target = h.HintCell, far = h.HintCells[1], box = h.HintVariant;
     if (!ValidCell(target) || !ValidCell(far) || !ValidCell(box)) return;
@@ -95,19 +98,20 @@ void EmptyRectangle(HintPainter& p, const HintRecord& h) {
     p.ZetHintNummer(target, n, kAttackedCandidates);
     p.ZetHintVak(far, kChainCell);
     p.ZetHintNummer(far, n, kChainCandidates);
-    for (int c : UnitCells[18 + Global::BoxOfCell[box]])
+    const auto& boxCells = UnitCells[18 + Global::BoxOfCell[box]];
+    for (int c : boxCells)
         if (p.Holds(n, c)) {
             p.ZetHintVak(c, kAttackingCell);
             p.ZetHintNummer(c, n, kAttackingCandidates);
         }
-    // The near end of the strong link: where the far cell's line meets the
-    // crossing line of the box. The far cell shares its row with the target when
-    // the link runs in a column, and its column when the link runs in a row.
-    const int nearRow = RowOf(far) == RowOf(target) ? h.HintRow : RowOf(far);
-    const int nearColumn = RowOf(far) == RowOf(target) ? ColumnOf(far) : h.HintColumn;
-    if (nearRow < 0 || nearRow > 8 || nearColumn < 0 || nearColumn > 8) return;
-    p.ZetHintVak(9 * nearRow + nearColumn, kBaseCell);
-    p.ZetHintNummer(9 * nearRow + nearColumn, n, kBaseCandidates);
+    // The box's three cells on the crossing line of the far end: the line the
+    // forced value empties.
+    const bool onRow = RowOf(far) == h.HintRow;
+    for (int c : boxCells)
+        if (onRow ? RowOf(c) == h.HintRow : ColumnOf(c) == h.HintColumn) {
+            p.ZetHintVak(c, kBaseCell);
+            p.ZetHintNummer(c, n, kBaseCandidates);
+        }
 }
 
 void FinnedXWing(HintPainter& p, const HintRecord& h) {

@@ -8,7 +8,7 @@ namespace tavi::hints {
 namespace {
 
 void Als(HintPainter& p, const HintRecord& h) {
-    const AlsPair pair = AlsPairOf(h, p.board());
+    const AlsPair pair = AlsPairOf(h);
     for (int c : pair.first)
         p.ZetHintVak(c, kBaseCell);
     for (int c : pair.second)

@@ -69,6 +69,30 @@ std::string LoopSteps(const HintRecord& h, int first, int last, bool digits) {
     return s;
 }
 
+// The removals of a closed loop that fall on the loop itself: cells for a nice
+// loop (one digit), "cell/digit" nodes for an AIC. Rare, but the loop's sentence
+// says what the cycle keeps, so these must be told.
+std::vector<std::string> RemovedNodes(const HintRecord& h, bool digits) {
+    std::vector<std::string> nodes;
+    for (const Conclusion& c : h.Conclusions) {
+        bool onLoop = false;
+        for (int i = 1; i <= h.HintCellCount && i <= HintRecord::kListCapacity; ++i)
+            onLoop |= At(h.HintCells, i) == c.cell && (!digits || At(h.HintValues, i) == c.digit);
+        if (!onLoop || c.placed) continue;
+        nodes.push_back(CellText(c.cell) + (digits ? "/" + Number(c.digit) : ""));
+    }
+    return nodes;
+}
+
+// "", or the nodes between the two pieces, joined by ", ".
+std::string OwnNodes(const std::vector<std::string>& nodes, const char* before, const char* after) {
+    if (nodes.empty()) return {};
+    std::string s = before;
+    for (size_t i = 0; i < nodes.size(); ++i)
+        s += (i ? ", " : "") + nodes[i];
+    return s + after;
+}
+
 std::string NiceLoop(const HintRecord& h) {
     const std::string n = Number(h.HintNumber);
     const std::string first = CellText(At(h.HintCells, 1));
@@ -91,7 +115,9 @@ std::string NiceLoop(const HintRecord& h) {
                    "." +
                    " All cells holding the candidate under examination, not belonging to the "
                    "X-Cycle, and sharing the same houses of the weak links, will loose that "
-                   "candidate.";
+                   "candidate." +
+                   OwnNodes(RemovedNodes(h, false), " Cell(s) ",
+                            " of the X-Cycle itself will loose that candidate as well.");
         default: return Head(28);
     }
 }
@@ -118,7 +144,9 @@ std::string Aic(const HintRecord& h) {
                    " and back to cell " + first + "." +
                    " Candidate(s) not participating to any weak link inside a cell, and for any "
                    "weak link between 2 cells, that same candidate in other cells sharing that "
-                   "same house, can be removed.";
+                   "same house, can be removed." +
+                   OwnNodes(RemovedNodes(h, true), " Candidate(s) ",
+                            " of the chain itself can be removed as well.");
         default: return Head(31);
     }
 }

@@ -18,8 +18,8 @@ std::string Cells(const std::vector<int>& cells, std::string_view join) {
     return s;
 }
 
-std::string Als(const HintRecord& h, const Board& board) {
-    const AlsPair pair = AlsPairOf(h, board);
+std::string Als(const HintRecord& h) {
+    const AlsPair pair = AlsPairOf(h);
     std::string s = Head(h.HintKind, h.HintRow != 0);
     if (h.HintKind == 32)
         s += "Bi-Value cell=" + CellText(h.HintCell) + " ; ALS cells=" + Cells(pair.second, "/");
@@ -178,7 +178,7 @@ std::string MultiFish(const HintRecord& h, const Board& board) {
 std::string SetSentence(const HintRecord& h, const Board& board) {
     switch (h.HintKind) {
         case 32:
-        case 33: return Als(h, board);
+        case 33: return Als(h);
         case 34: return Medusa(h, board);
         case 35:
             return Head(35) + "Whatever candidate is true for cell " + CellText(h.HintCell) +

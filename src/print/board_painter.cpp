@@ -59,6 +59,26 @@ QRect MarkBox(const BoardGeometry& g, int digit, int cell, int marginPercent) {
                  m);
 }
 
+QColor Mix(const QColor& from, const QColor& to, double t) {
+    return QColor::fromRgbF(float(from.redF() + (to.redF() - from.redF()) * t),
+                            float(from.greenF() + (to.greenF() - from.greenF()) * t),
+                            float(from.blueF() + (to.blueF() - from.blueF()) * t));
+}
+
+int Distance(const QColor& a, const QColor& b) {
+    const int dr = a.red() - b.red(), dg = a.green() - b.green(), db = a.blue() - b.blue();
+    return int(std::sqrt(double(dr * dr + dg * dg + db * db)));
+}
+
+// The ring around a painted mark: the mark's own colour taken darker or lighter,
+// whichever stands farther from the cell under it. A mark painted in its cell's
+// own colour (the default attacking candidates on a base cell, both yellow) still
+// shows as a chip of its role.
+QColor RingFor(const QColor& mark, const QColor& cell) {
+    const QColor dark = Mix(mark, Qt::black, 0.45), light = Mix(mark, Qt::white, 0.6);
+    return Distance(dark, cell) >= Distance(light, cell) ? dark : light;
+}
+
 void PaintBackgrounds(QPainter& p, const BoardGeometry& g, const BoardPicture& s,
                       const BoardLook& look) {
     p.fillRect(g.GridRect(), look.base);
@@ -66,11 +86,16 @@ void PaintBackgrounds(QPainter& p, const BoardGeometry& g, const BoardPicture& s
     for (int c = 0; c < 81; ++c) {
         if (s.cellPaint[c]) p.fillRect(g.CellRect(c), ColorOf(*s.cellPaint[c]));
         if (s.digits[c]) continue;
-        // A mark's own paint lies over the cell's.
-        for (int d = 1; d <= 9; ++d)
-            if (s.MarkShown(d, c) && s.markPaint[c][d - 1])
-                p.fillRect(g.MarkRect(d, c).adjusted(inset, inset, -inset, -inset),
-                           ColorOf(*s.markPaint[c][d - 1]));
+        const QColor cell = s.cellPaint[c] ? ColorOf(*s.cellPaint[c]) : look.base;
+        // A mark's own paint lies over the cell's, framed by its ring.
+        for (int d = 1; d <= 9; ++d) {
+            if (!s.MarkShown(d, c) || !s.markPaint[c][d - 1]) continue;
+            const QRect chip = g.MarkRect(d, c).adjusted(inset, inset, -inset, -inset);
+            const QColor mark = ColorOf(*s.markPaint[c][d - 1]);
+            const int ring = std::max(1, chip.width() / 10);
+            p.fillRect(chip, RingFor(mark, cell));
+            p.fillRect(chip.adjusted(ring, ring, -ring, -ring), mark);
+        }
     }
 }
 
@@ -172,12 +197,6 @@ double Luminance(const QColor& c) {
         return v <= 0.04045 ? v / 12.92 : std::pow((v + 0.055) / 1.055, 2.4);
     };
     return 0.2126 * linear(c.redF()) + 0.7152 * linear(c.greenF()) + 0.0722 * linear(c.blueF());
-}
-
-QColor Mix(const QColor& from, const QColor& to, double t) {
-    return QColor::fromRgbF(float(from.redF() + (to.redF() - from.redF()) * t),
-                            float(from.greenF() + (to.greenF() - from.greenF()) * t),
-                            float(from.blueF() + (to.blueF() - from.blueF()) * t));
 }
 
 }  // namespace

@@ -213,6 +213,17 @@ TEST_F(Hints, ASueDeCoqIsShownAtOnceAndAskedAbout) {
         options.techniques.OnOff[t] = t == 22;
     const std::string question = "If you can spot a Sue-De-Coq, press 'OK' else press 'Cancel'";
 
+    // When the question comes, the window has been told the sentence and the colours.
+    std::string told;
+    bool paintTold = false;
+    g.SetEvents([&](Changes c) {
+        if (c.bits & kChangeTexts) told = g.TextHint();
+        if (c.bits & kChangePaint) paintTold = true;
+    });
+    prompter.onShow = [&](const ScriptedPrompter::Shown&) {
+        EXPECT_TRUE(told.starts_with("SUE-DE-COQ: ")) << told;
+        EXPECT_TRUE(paintTold);
+    };
     prompter.shown.clear();
     prompter.answers = {Answer::Ok};
     g.CommandHint();

@@ -104,20 +104,27 @@ TEST(PaintHint, AnXYWingAttacksWhatBothBranchesSee) {
 TEST(PaintHint, LoopsAndRectanglesSwapTheRolesOfCellAndDigit) {
     const Board board = OpenBoard();
     // A1 - A5 = E5 - E1 - back to A1 on digit 2; the weak link A5 - E5 shares column 5.
-    const PaintedBoard cycle(
-        PaintHint(Record(28).variant(1).number(2).cells({0, 4, 40, 36, 0}), board));
+    // The weak links A5 - E5 and E1 - A1 run in columns 5 and 1: the rest of each
+    // loses the digit, and so does A5 itself, were it the hit's conclusion: a
+    // removal shows as one whatever else the cell is.
+    Record loop = Record(28).variant(1).number(2).cells({0, 4, 40, 36, 0});
+    for (int c : {9, 13, 18, 22, 27, 31, 45, 49, 54, 58, 63, 67, 72, 76})
+        loop.removed(c, 2);
+    const PaintedBoard cycle(PaintHint(loop, board));
     for (int c : {0, 4, 40, 36}) {
         EXPECT_EQ(cycle.cell[c], kAttackingCandidates) << CellName(c);
         EXPECT_EQ(cycle.digit[c][2], kAttackingCell) << CellName(c);
     }
-    // The weak links A5 - E5 and E1 - A1 run in columns 5 and 1: the rest of each
-    // loses the digit.
     EXPECT_EQ(cycle.CellsIn(kAttackedCell),
               Cells({9, 13, 18, 22, 27, 31, 45, 49, 54, 58, 63, 67, 72, 76}));
     EXPECT_EQ(cycle.DigitsIn(kAttackedCandidates).size(), 14u);
+    EXPECT_EQ(cycle.CellsIn(kPatternCell).size(), 2u * 9 - 4 - 14);
+    const PaintedBoard onLoop(PaintHint(Record(loop).removed(4, 2), board));
+    EXPECT_EQ(onLoop.digit[4][2], kAttackedCandidates) << "A5 loses its digit";
 
-    const PaintedBoard weak(
-        PaintHint(Record(31).variant(3).cells({0, 4, 4, 40, 36}).values({3, 3, 6, 6, 3}), board));
+    const PaintedBoard weak(PaintHint(
+        Record(31).variant(3).cells({0, 4, 4, 40, 36}).values({3, 3, 6, 6, 3}).removed(36, 3),
+        board));
     EXPECT_EQ(weak.digit[4][3], kAttackingCell);
     EXPECT_EQ(weak.digit[4][6], kAttackingCell);
     EXPECT_EQ(weak.cell[36], kAttackedCell) << "the far end loses its digit";

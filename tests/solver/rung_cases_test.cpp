@@ -1,13 +1,19 @@
 // Every technique case of tests/data/rung_cases.txt: the board, the technique, the
-// changes it makes on the workbench side, and the sentence its hint writes on the
-// game side. A technique's cases are data lines there, not a test of their own.
+// changes it makes on the workbench side, and the sentence and the colours its hint
+// writes on the game side. A technique's cases are data lines there, not a test of
+// their own. Every hint of those lines, and every hint on the board states of the
+// hard puzzles, tells and paints exactly what its hit concludes.
 #include <gtest/gtest.h>
 
 #include <fstream>
+#include <iostream>
+#include <map>
 #include <sstream>
 
 #include "grid/candidates.h"
+#include "hints/hint_paint.h"
 #include "hints/hint_search.h"
+#include "hints/hint_truth.h"
 #include "hints/schrijf_hint.h"
 #include "solver/brute_force.h"
 #include "solver/ladder.h"
@@ -19,7 +25,7 @@ struct RungCase {
     int line;
     Board board;
     int technique;
-    std::string changes, sentence;
+    std::string changes, sentence, paint;
 };
 
 std::vector<RungCase> ReadCases() {
@@ -34,12 +40,13 @@ std::vector<RungCase> ReadCases() {
         std::istringstream split(text);
         for (std::string f; std::getline(split, f, '\t');)
             fields.push_back(f);
-        fields.resize(4);
+        fields.resize(5);
         std::string why;
         const auto board = ParseBoardLine(fields[0], &why);
         EXPECT_TRUE(board) << "line " << number << ": " << why;
         if (board)
-            cases.push_back({number, *board, std::atoi(fields[1].c_str()), fields[2], fields[3]});
+            cases.push_back(
+                {number, *board, std::atoi(fields[1].c_str()), fields[2], fields[3], fields[4]});
     }
     return cases;
 }
@@ -74,8 +81,10 @@ TEST(RungCases, EachTechniqueFindsWhatItsLinesSayAndSaysIt) {
         }
         EXPECT_EQ(look.board.Candidates, k.board.Candidates) << "a hint changes nothing";
         EXPECT_EQ(hinted ? SchrijfHint(look.hint, k.board) : "", k.sentence);
+        EXPECT_EQ(hinted ? DescribePaints(PaintHint(look.hint, k.board)) : "", k.paint);
         if (hinted) {
             EXPECT_TRUE(hinted->Fills(look.hint.HintKind)) << "kind " << look.hint.HintKind;
+            EXPECT_EQ(testing::TruthFaults(look.hint, k.board), "");
         }
 
         // Whatever a line expects, no technique may contradict a puzzle's one solution.
@@ -86,6 +95,60 @@ TEST(RungCases, EachTechniqueFindsWhatItsLinesSayAndSaysIt) {
                     << " contradicts the solution";
         }
     }
+}
+
+std::vector<Digits> HardPuzzles() {
+    std::ifstream file(std::string(TAVI_TEST_DATA_DIR) + "/hard_puzzles.txt");
+    std::vector<Digits> out;
+    for (std::string line; std::getline(file, line);)
+        if (const auto puzzle =
+                line.empty() || line[0] == '#' ? std::nullopt : ParseDigits(line.substr(0, 81)))
+            out.push_back(*puzzle);
+    return out;
+}
+
+// At every state of the hard puzzles where the fixed head of the ladder has
+// nothing left, every ordered rung that finds a hint on the game side must tell
+// and paint exactly what it concludes.
+TEST(RungCases, EveryHintOnTheHardBoardsTellsAndPaintsWhatItConcludes) {
+    const auto puzzles = HardPuzzles();
+    ASSERT_GE(puzzles.size(), 300u) << "tests/data/hard_puzzles.txt";
+    std::vector<const Rung*> ordered;
+    for (const Rung& r : LadderRungs())
+        if (r.number >= kFirstOrderedTechnique && r.number != kBifurcationTechnique)
+            ordered.push_back(&r);
+    std::map<int, int> hintsOfKind;
+    for (size_t k = 0; k < puzzles.size(); ++k) {
+        SolveContext ctx(Side::Workbench);
+        ctx.board = BoardFromPuzzle(puzzles[k]);
+        bool tried = false;
+        int faults = 0;
+        WorkbenchRun run;
+        run.observer.before = [&](const Rung& rung) {
+            if (tried || rung.number < kFirstOrderedTechnique) return;
+            tried = true;
+            for (const Rung* r : ordered) {
+                SolveContext look(Side::Workbench);
+                look.board = ctx.board;
+                ModeScope looking(look, HintMode(look.Mode(), *r));
+                if (!r->run(look).found) continue;
+                ++hintsOfKind[look.hint.HintKind];
+                const std::string fault = testing::TruthFaults(look.hint, look.board);
+                if (fault.empty() || ++faults > 3) continue;
+                ADD_FAILURE() << "hard puzzle " << k + 1 << ", " << r->Name() << ", kind "
+                              << look.hint.HintKind << " on\n"
+                              << FormatBoardLine(look.board) << "\n"
+                              << SchrijfHint(look.hint, look.board) << "\n"
+                              << fault;
+            }
+        };
+        run.observer.hit = [&](const Rung&) { tried = false; };
+        SolveSudoku(ctx, run);
+    }
+    std::cout << "hints per kind:";
+    for (const auto& [kind, n] : hintsOfKind)
+        std::cout << ' ' << kind << ':' << n;
+    std::cout << '\n';
 }
 
 }  // namespace

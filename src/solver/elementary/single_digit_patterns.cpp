@@ -97,7 +97,9 @@ int Crossings(const Board& b, int digit, int leftTop, int (&rows)[2], int (&colu
 // For each digit and box: the box's candidates lie on a crossing row R and
 // column C. A conjugate pair in a column k outside the box, one end on R and the
 // other on row m outside the box's band, takes the digit from (m, C): were it
-// there, R and C would both be closed to the box. The same across, with rows.
+// there, it would rule out (m, k) and so force the far end (R, k), and R and C
+// would both be closed to the box. The same across, with rows. The hint names
+// the far end, the cell the target would force.
 bool EmptyRectangle(SolveContext& ctx) {
     const Board& b = ctx.board;
     int rowCounts[10][9] = {}, columnCounts[10][9] = {}, boxCounts[10][9] = {};
@@ -126,7 +128,7 @@ bool EmptyRectangle(SolveContext& ctx) {
                     while (m == R || !b.Has(digit, 9 * m + col))
                         ++m;
                     if (m / 3 == top / 3) continue;
-                    if (VerwijderKnop(ctx, digit, 9 * m + C)) target = 9 * m + C, far = 9 * m + col;
+                    if (VerwijderKnop(ctx, digit, 9 * m + C)) target = 9 * m + C, far = 9 * R + col;
                 }
                 for (int row = 0; row < 9 && target < 0; ++row) {
                     if (row / 3 == top / 3 || !b.Has(digit, 9 * row + C)) continue;
@@ -135,7 +137,7 @@ bool EmptyRectangle(SolveContext& ctx) {
                     while (m == C || !b.Has(digit, 9 * row + m))
                         ++m;
                     if (m / 3 == left / 3) continue;
-                    if (VerwijderKnop(ctx, digit, 9 * R + m)) target = 9 * R + m, far = 9 * row + m;
+                    if (VerwijderKnop(ctx, digit, 9 * R + m)) target = 9 * R + m, far = 9 * row + C;
                 }
                 if (target < 0) continue;
                 if (ctx.HintOnly()) {
