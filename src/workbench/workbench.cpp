@@ -4,6 +4,7 @@
 #include "library/library_files.h"
 #include "library/library_pair.h"
 #include "library/pair_guard.h"
+#include "library/move_journal.h"
 #include "library/pair_rewrite.h"
 #include "solver/brute_force.h"
 #include "solver/ladder.h"
@@ -57,6 +58,7 @@ std::optional<long> Workbench::AskNumber(const std::string& title, const std::st
 }
 
 void Workbench::ReportFileError(const std::string& why) {
+    ++fileErrors_;
     prompter_.Message(kFileErrorTitle, why.empty() ? std::string(kWriteErrorText) : why);
 }
 
@@ -90,11 +92,19 @@ void Workbench::Command1(int level) {
 bool Workbench::OpenSudoku() {
     const auto stem = LevelStem(workLevel_);
     const long n = currentNumber_[workLevel_];
-    // A record that can't be read shows what the fields hold: nothing.
+    // A record that can't be read shows what the fields hold: nothing. It is
+    // never solved, moved or written: `damaged_` says which record and why.
     record_ = SudokuRecord{};
     log_ = SudokuLogRecord{};
-    const bool read = ReadSudokuRecord(PuzzleFile(dataFolder_, stem), n, record_);
-    ReadSudokuLogRecord(LogFile(dataFolder_, stem), n, log_);
+    damaged_.clear();
+    std::string why;
+    bool read = ReadSudokuRecord(PuzzleFile(dataFolder_, stem), n, record_, &why);
+    if (read) read = ReadSudokuLogRecord(LogFile(dataFolder_, stem), n, log_, &why);
+    if (!read) {
+        record_ = SudokuRecord{};
+        log_ = SudokuLogRecord{};
+        damaged_ = why.empty() ? "Record " + std::to_string(n) + " could not be read." : why;
+    }
     Board& b = ctx_.board;
     b = Board{};
     b.Puzzle = record_.Puzzle;
@@ -212,15 +222,25 @@ void Workbench::TakeSolution(bool solved) {
     showSolverBoard_ = false;
 }
 
-bool Workbench::MoveTo(int level) {
+bool Workbench::MoveTo(MoveJournal& journal, int level) {
     long number = 0;
     std::string why;
-    if (!AppendToPair(dataFolder_, LevelStem(level), record_, log_, &number, &why)) {
+    if (!journal.Move(currentNumber_[workLevel_], LevelStem(level), record_, log_, &number,
+                      &why)) {
         ReportFileError(why);
         return false;
     }
     currentNumber_[level] = number;
     return true;
+}
+
+bool Workbench::FinishMoves(MoveJournal& journal) {
+    if (journal.Moved().empty()) return true;
+    std::string why;
+    const bool ok = journal.Finish(&why);
+    if (!ok) ReportFileError(why);
+    ShowAfterRewrite();
+    return ok;
 }
 
 bool Workbench::WriteInPlace() {
@@ -238,19 +258,29 @@ bool Workbench::Compact(const std::vector<bool>& drop) {
         dataFolder_, LevelStem(workLevel_),
         [&](long n) { return n > long(drop.size()) || !drop[size_t(n - 1)]; }, &why);
     if (!ok) ReportFileError(why);
+    ShowAfterRewrite();
+    return ok;
+}
+
+void Workbench::ShowAfterRewrite() {
     recordCount_ = WholeRecords(PuzzleFile(dataFolder_, LevelStem(workLevel_)), kSudokuRecordSize);
     if (recordCount_ < 1) {
         DisableAll();
-        return ok;
+        return;
     }
     if (currentNumber_[workLevel_] > recordCount_) currentNumber_[workLevel_] = recordCount_;
     SetNavigation();
     OpenSudoku();
-    return ok;
 }
 
 void Workbench::CommandSolve(bool right, bool inside) {
     if (batchRunning_ || !commands_.Solve) return;
+    if (right && !inside) return;
+    if (!damaged_.empty()) {
+        prompter_.Message(kFileErrorTitle,
+                          damaged_ + " It is not solved, moved or written until it is put right.");
+        return Changed();
+    }
     if (right) {
         if (!inside) return;
         Board& b = ctx_.board;
@@ -281,10 +311,9 @@ void Workbench::CommandSolve(bool right, bool inside) {
     TakeSolution(solved);
     if (rating == workLevel_) {
         WriteInPlace();
-    } else if (MoveTo(rating)) {
-        std::vector<bool> drop(size_t(recordCount_), false);
-        drop[size_t(currentNumber_[workLevel_] - 1)] = true;
-        Compact(drop);
+    } else {
+        MoveJournal journal(dataFolder_, LevelStem(workLevel_));
+        if (MoveTo(journal, rating)) FinishMoves(journal);
     }
     if (!solved)
         prompter_.Message(kReportTitle,
@@ -319,10 +348,10 @@ void Workbench::CommandAbort() {
 void Workbench::CheckRange(long from, long to, bool brute) {
     if (from < 1 || to < from) return;
     const std::string plural = LevelPlural(workLevel_);
-    std::vector<bool> moved(size_t(recordCount_), false);
     RunCounters count;
     hardest_ = {};
     unreadable_ = 0;
+    std::vector<std::string> unreadable;
     progress_ = WorkbenchProgress{};
     progress_.Shown = true;
     progress_.Label4 = (brute ? "Solving :" : "Checking :") + std::string(" ") + plural;
@@ -331,6 +360,10 @@ void Workbench::CheckRange(long from, long to, bool brute) {
     batchRunning_ = true;
     abortRequested_ = false;
     long total = recordCount_;
+    // Every move of the run is noted, so that a kill can't leave a puzzle in two
+    // libraries; the moved records leave this one at the end, in one rewrite.
+    std::optional<MoveJournal> journal;
+    if (!brute) journal.emplace(dataFolder_, LevelStem(workLevel_));
 
     for (long i = from; i <= to; ++i) {
         progress_.LabelImportProgress =
@@ -341,6 +374,7 @@ void Workbench::CheckRange(long from, long to, bool brute) {
         currentNumber_[workLevel_] = i;
         if (!OpenSudoku()) {
             ++unreadable_;
+            if (unreadable.size() < kNamedRecords) unreadable.push_back(damaged_);
         } else if (brute) {
             Board& b = ctx_.board;
             bool contradiction = false;
@@ -356,9 +390,8 @@ void Workbench::CheckRange(long from, long to, bool brute) {
                 if (rating == workLevel_) {
                     ++count.unchanged;
                     WriteInPlace();
-                } else if (MoveTo(rating)) {
+                } else if (MoveTo(*journal, rating)) {
                     ++(solved ? count.moved : count.outlaw);
-                    moved[size_t(i - 1)] = true;
                 }
             }
         }
@@ -373,25 +406,35 @@ void Workbench::CheckRange(long from, long to, bool brute) {
     showSolverBoard_ = false;
     if (brute) {
         OpenSudoku();
+        if (unreadable_ > 0)
+            prompter_.Message(kFileErrorTitle, UnreadableText(unreadable, unreadable_));
         return Changed();
     }
 
     const CheckReport report = ReportFor(count.moved, count.outlaw, count.unchanged, total);
     // Only what left the library goes from it: an aborted run never takes with it
     // records it did not reach, whatever the report's case.
-    bool anyMoved = false;
-    for (bool m : moved)
-        anyMoved = anyMoved || m;
-    if (anyMoved) {
-        Compact(moved);
+    if (!journal->Moved().empty()) {
+        FinishMoves(*journal);
     } else {
+        journal->Finish();
         currentNumber_[workLevel_] = std::min(currentNumber_[workLevel_], recordCount_);
         OpenSudoku();
     }
     std::string text = report.text;
-    if (unreadable_ > 0) text += " " + std::to_string(unreadable_) + " records could not be read.";
+    if (unreadable_ > 0) text += "\n" + UnreadableText(unreadable, unreadable_);
     prompter_.Message(report.title, text);
     Changed();
+}
+
+std::string UnreadableText(const std::vector<std::string>& named, long count) {
+    std::string text = std::to_string(count) + " records could not be read and were left as " +
+                       "they stand:";
+    for (const std::string& each : named)
+        text += "\n" + each;
+    if (count > long(named.size()))
+        text += "\nand " + std::to_string(count - long(named.size())) + " more.";
+    return text;
 }
 
 // --- Deleting -----------------------------------------------------------------------

@@ -22,6 +22,8 @@
 
 namespace tavi {
 
+class MoveJournal;
+
 // Which commands answer.
 struct WorkbenchCommands {
     bool Solve = false, CheckAll = false, CheckSome = false, Delete = false;
@@ -90,6 +92,11 @@ class Workbench {
     // not be read.
     const HardestCounts& Hardest() const { return hardest_; }
     long Unreadable() const { return unreadable_; }
+    // The shown record when it could not be read ("Record 5 of Sudoku_Easy.sds is
+    // damaged: ..."), else empty. Such a record is never solved, moved or written.
+    const std::string& Damaged() const { return damaged_; }
+    // The file errors reported since the workbench was made.
+    long FileErrors() const { return fileErrors_; }
 
   private:
     struct RunCounters {
@@ -108,8 +115,13 @@ class Workbench {
     // The solution a record keeps: the board's when solved, else the one puzzle's
     // own solution when it has exactly one (the record's as it stood otherwise).
     void TakeSolution(bool solved);
-    // Appends the open record to the library of `level`.
-    bool MoveTo(int level);
+    // Appends the open record to the library of `level`, through the run's journal.
+    bool MoveTo(MoveJournal& journal, int level);
+    // Takes the journal's moved records out of the open library.
+    bool FinishMoves(MoveJournal& journal);
+    // After the open library was rewritten: the count, and a record that still
+    // exists, or the commands disabled when none is left.
+    void ShowAfterRewrite();
     // Rewrites the open library without the records `drop` names; then shows a
     // record that still exists, or disables the commands when none is left.
     bool Compact(const std::vector<bool>& drop);
@@ -136,7 +148,16 @@ class Workbench {
     bool abortRequested_ = false;
     HardestCounts hardest_{};
     long unreadable_ = 0;
+    std::string damaged_;
+    long fileErrors_ = 0;
 };
+
+// How many damaged records a report names; the rest are counted.
+inline constexpr std::size_t kNamedRecords = 10;
+
+// "3 records could not be read and were left as they stand:" and the first of
+// them by file, number and why, one a line, then "and N more."
+std::string UnreadableText(const std::vector<std::string>& named, long count);
 
 // "Easy sudokus" and its like.
 std::string LevelPlural(int level);

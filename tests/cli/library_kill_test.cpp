@@ -8,6 +8,7 @@
 #include <unistd.h>
 
 #include <functional>
+#include <map>
 #include <random>
 #include <sstream>
 
@@ -19,6 +20,8 @@
 #include "library/pair_guard.h"
 #include "library/pair_rewrite.h"
 #include "library/record_journal.h"
+#include "grid/candidates.h"
+#include "solver/ladder.h"
 
 namespace tavi {
 namespace {
@@ -57,11 +60,11 @@ bool LeftSomething(const fs::path& folder, std::string_view stem) {
 // depends on the machine's load, so it is reported, not asked for.
 void KillRuns(const std::function<void()>& reset, const std::function<void()>& writer,
               const std::function<void()>& check, const fs::path& folder, std::string_view stem,
-              int longestPauseMicros) {
+              int longestPauseMicros, int kills = kKills) {
     std::mt19937 rng(7);
     int interrupted = 0;
     RecordOf(0);  // the puzzles are made once, before the children share them
-    for (int k = 0; k < kKills && !::testing::Test::HasFatalFailure(); ++k) {
+    for (int k = 0; k < kills && !::testing::Test::HasFatalFailure(); ++k) {
         reset();
         int started[2];
         if (pipe(started) != 0) {
@@ -244,6 +247,63 @@ TEST(KillTest, ExportLosesNoOutlawRecord) {
         ASSERT_EQ(FileBytes(PuzzleFile(dir.path(), kExportedStem)), BytesOf(moved));
     };
     KillRuns(reset, writer, check, dir.path(), outlaw, 6000);
+}
+
+// Check All over a folder, killed at any instant: after the next open of the
+// libraries every puzzle stands exactly once, with its own log, and a run to the
+// end then puts each at the level of its rating, still once.
+TEST(KillTest, CheckLeavesEveryPuzzleExactlyOnce) {
+    TempDir dir(testing::FastScratch());
+    constexpr int kPuzzles = 48;
+    const auto& puzzles = testing::GeneratedPuzzles(kPuzzles);
+    std::map<std::string, int> which;  // puzzle bytes -> its index
+    std::vector<int> rating(kPuzzles);
+    for (int i = 0; i < kPuzzles; ++i) {
+        which[std::string(puzzles[i].puzzle.begin(), puzzles[i].puzzle.end())] = i;
+        SolveContext ctx(Side::Workbench);
+        ctx.board = BoardFromPuzzle(puzzles[i].puzzle);
+        rating[i] = SolveSudoku(ctx, WorkbenchRun{}) ? ctx.SolvingLevel : kOutlaw;
+    }
+    // Most puzzles start in Hard, some in Easy and in Outlaw; log i says which
+    // puzzle it belongs to.
+    const auto startLevel = [](int i) { return i % 9 == 0 ? 1 : i % 9 == 1 ? kOutlaw : 3; };
+    const auto reset = [&] {
+        for (const auto& entry : fs::directory_iterator(dir.path()))
+            fs::remove(entry.path());
+        for (int i = 0; i < kPuzzles; ++i)
+            ASSERT_TRUE(AppendToPair(dir.path(), LevelStem(startLevel(i)),
+                                     {puzzles[i].puzzle, {}, 0, 0}, BusyLog(i)));
+    };
+    const auto writer = [&] {
+        std::ostringstream out, err;
+        cli::LibraryCheckCommand(dir.path(), 0, out, err);
+    };
+    // Every puzzle once, with its log; with `settled`, at the level of its rating.
+    const auto count = [&](bool settled) {
+        std::vector<int> seen(kPuzzles, 0);
+        for (int level = 1; level <= kLevelCount; ++level) {
+            const long n = OpenPair(dir.path(), LevelStem(level));
+            for (long k = 1; k <= n; ++k) {
+                const auto [s, l] = testing::PairAt(dir.path(), LevelStem(level), k);
+                const auto found = which.find(std::string(s.Puzzle.begin(), s.Puzzle.end()));
+                ASSERT_NE(found, which.end()) << "a puzzle from nowhere";
+                const int i = found->second;
+                ++seen[i];
+                ASSERT_EQ(l, BusyLog(i)) << "the log went its own way";
+                if (settled) ASSERT_EQ(level, rating[i]) << i;
+            }
+        }
+        for (int i = 0; i < kPuzzles; ++i)
+            ASSERT_EQ(seen[i], 1) << "puzzle " << i << (settled ? " after the next run" : "");
+    };
+    int kills = 0;
+    const auto check = [&] {
+        count(false);
+        if (::testing::Test::HasFatalFailure() || ++kills % 6 != 0) return;
+        writer();
+        count(true);
+    };
+    KillRuns(reset, writer, check, dir.path(), LevelStem(3), 20000, 120);
 }
 
 }  // namespace

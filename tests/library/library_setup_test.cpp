@@ -42,7 +42,11 @@ TEST(MaakSudLog, MakesOneEmptyLogRecordPerPuzzle) {
         MakeLevelFiles(lib.data.path(), LevelStem(level), level + 1, false);
     // An old log with progress in it is kept and only brought in step: its two
     // records stay, the third puzzle gets an empty one.
-    const std::vector<char> saved(1449 * 2, 5);
+    std::vector<char> saved;
+    for (int i = 1; i <= 2; ++i) {
+        const auto bytes = ToBytes(testing::BusyLog(i));
+        saved.insert(saved.end(), bytes.begin(), bytes.end());
+    }
     WriteBytes(LogFile(lib.data.path(), LevelStem(2)), saved);
     RecordingNotifier notifier;
 
@@ -51,6 +55,10 @@ TEST(MaakSudLog, MakesOneEmptyLogRecordPerPuzzle) {
     ASSERT_EQ(notifier.messages.size(), 2u);
     EXPECT_NE(notifier.messages[1].second.find("3 records were kept, 1 of them with an empty log"),
               std::string::npos);
+    // The log as it was is kept beside it, and the message names the copy.
+    EXPECT_NE(notifier.messages[1].second.find("kept as Sudoku_Medium.sdl.before-repair"),
+              std::string::npos);
+    EXPECT_EQ(FileBytes(lib.data / "Sudoku_Medium.sdl.before-repair"), saved);
     auto kept = FileBytes(LogFile(lib.data.path(), LevelStem(2)));
     ASSERT_EQ(kept.size(), 1449u * 3);
     EXPECT_TRUE(std::equal(saved.begin(), saved.end(), kept.begin()));
