@@ -53,15 +53,20 @@ int States(std::istream& in, std::ostream& out, std::ostream& err, bool all,
         written = true;
     };
     run.observer.hit = [&](const Rung&) { written = false; };
+    int invalid = 0;
     const int bad = ForEachPuzzle(
         in, err,
         [&](const PuzzleLine& p) {
+            if (ReportClash(p, source, err)) {
+                ++invalid;
+                return;
+            }
             ctx.board = BoardFromPuzzle(p.digits);
             written = false;
             SolveSudoku(ctx, run);
         },
         source);
-    return bad ? kExitBadInput : kExitOk;
+    return bad ? kExitBadInput : invalid ? kExitSomeInvalid : kExitOk;
 }
 
 }  // namespace tavi::cli

@@ -5,6 +5,7 @@
 #include "library/library_pair.h"
 #include "library/pair_guard.h"
 #include "library/move_journal.h"
+#include "library/record_checks.h"
 #include "library/pair_rewrite.h"
 #include "solver/brute_force.h"
 #include "solver/ladder.h"
@@ -67,9 +68,13 @@ void Workbench::ReportFileError(const std::string& why) {
 void Workbench::Command1(int level) {
     if (batchRunning_ || !IsLevel(level)) return;
     const auto stem = LevelStem(level);
-    std::string repaired;
-    OpenPair(dataFolder_, stem, &repaired);
-    if (!repaired.empty()) prompter_.Message(kFileErrorTitle, repaired);
+    std::string said;
+    bool refused = false;
+    OpenPair(dataFolder_, stem, &said, &refused);
+    if (refused)
+        ReportFileError(said);
+    else if (!said.empty())
+        prompter_.Message(kPairRepairedTitle, said);
     const auto sds = PuzzleFile(dataFolder_, stem);
     const long count = WholeRecords(sds, kSudokuRecordSize);
     if (count < 1) {
@@ -450,39 +455,66 @@ void Workbench::CommandDelete() {
 void Workbench::CommandRemoveDuplicates() {
     if (batchRunning_ || !commands_.RemoveDuplicates) return;
     const auto stem = LevelStem(workLevel_);
-    std::vector<SudokuRecord> records;
-    ReadSudokuFile(PuzzleFile(dataFolder_, stem), records);
+    const auto sds = PuzzleFile(dataFolder_, stem);
+    std::string repaired;
+    const long count = std::max(OpenPair(dataFolder_, stem, &repaired), 0L);
+    if (!repaired.empty()) prompter_.Message(kFileErrorTitle, repaired);
     const std::string plural = LevelPlural(workLevel_);
     progress_ = WorkbenchProgress{};
     progress_.Shown = true;
     progress_.Label6 = "Sudoku Scanning Progress";
     progress_.Label4 = "Scanning for duplicates : " + plural;
-    progress_.Bar1Max = long(records.size());
+    progress_.Bar1Max = count;
     batchRunning_ = true;
     abortRequested_ = false;
 
-    std::vector<Digits> puzzles;
-    for (const auto& r : records)
-        puzzles.push_back(r.Puzzle);
-    const auto flags = DuplicateFlags(puzzles);
-    long duplicates = 0;
-    for (bool f : flags)
-        duplicates += f;
-    progress_.Bar1 = progress_.Bar1Max;
-    Breathe();
+    // Record by record: a damaged record is passed over (it stays, and is no
+    // duplicate of anything), and the ones after it are still compared.
+    std::ifstream in(sds, std::ios::binary), back(sds, std::ios::binary);
+    PuzzleIndex index([&](std::uint64_t n) -> std::optional<Digits> {
+        SudokuRecordBytes bytes;
+        back.seekg(std::streamoff(n - 1) * std::streamoff(kSudokuRecordSize));
+        if (!back.read(reinterpret_cast<char*>(bytes.data()), std::streamsize(bytes.size())))
+            return std::nullopt;
+        return SudokuRecordFromBytes(bytes).Puzzle;
+    });
+    std::vector<bool> flags(size_t(count), false);
+    long duplicates = 0, damaged = 0;
+    SudokuRecordBytes bytes;
+    for (long n = 1; n <= count && !abortRequested_; ++n) {
+        if (!in.read(reinterpret_cast<char*>(bytes.data()), std::streamsize(bytes.size()))) break;
+        const SudokuRecord r = SudokuRecordFromBytes(bytes);
+        if (!CheckSudokuRecord(r).empty()) {
+            ++damaged;
+        } else if (!index.Insert(r.Puzzle, std::uint64_t(n))) {
+            flags[size_t(n - 1)] = true;
+            ++duplicates;
+        }
+        if (n % 1024 == 0 || n == count) {
+            progress_.Bar1 = n;
+            progress_.LabelImportProgress = "Checking Sudoku : " + std::to_string(n) + " of " +
+                                            std::to_string(count) + " from " + plural;
+            Breathe();
+        }
+    }
     const bool aborted = abortRequested_;
     batchRunning_ = false;
     progress_.Shown = false;
     if (aborted) return Changed();
+    const std::string passed =
+        damaged ? " " + std::to_string(damaged) +
+                      " damaged records were passed over and left as they stand."
+                : "";
     if (duplicates == 0) {
-        prompter_.Message(kScanTitle, "No duplicate sudokus found.");
+        prompter_.Message(kScanTitle, "No duplicate sudokus found." + passed);
         return Changed();
     }
     progress_.Label5 = "Removing duplicates (if any), and rebuilding file :";
     currentNumber_[workLevel_] = 1;
     const bool ok = Compact(flags);
     if (ok)
-        prompter_.Message(kScanTitle, std::to_string(duplicates) + " duplicate sudokus removed.");
+        prompter_.Message(kScanTitle,
+                          std::to_string(duplicates) + " duplicate sudokus removed." + passed);
     Changed();
 }
 

@@ -93,7 +93,7 @@ TEST(CliSolve, SaysUniqueNoneOrMultiple) {
         {Text(clueLess), Text(clueLess) + "\tmultiple\t-"},
         {Text(DeadCell()), Text(DeadCell()) + "\tnone\t-"},
         {Text(Digits{}), Text(Digits{}) + "\tmultiple\t-"},
-        {Text(clash), Text(clash) + "\tnone\t-"},
+        {Text(clash), Text(clash) + "\tinvalid\t-"},
     };
     std::string input, expected;
     for (const Case& k : cases) {
@@ -101,9 +101,10 @@ TEST(CliSolve, SaysUniqueNoneOrMultiple) {
         expected += k.expected + "\n";
     }
     const Output o = RunSolve(input);
-    EXPECT_EQ(o.status, 0);
+    EXPECT_EQ(o.status, 1);  // the clashing givens
     EXPECT_EQ(o.out, expected);
-    EXPECT_EQ(o.err, "");
+    EXPECT_EQ(o.err, "standard input, line 6: invalid puzzle: two givens in one row, column or "
+                     "box hold the same digit\n");
 
     // More lines than one block holds, over two threads: the same answers in the
     // same order.
@@ -115,7 +116,7 @@ TEST(CliSolve, SaysUniqueNoneOrMultiple) {
     const Output threaded = RunCommand(
         [](auto& in, auto& out, auto& err) { return Solve(in, out, err, "standard input", 2); },
         many);
-    EXPECT_EQ(threaded.status, 0);
+    EXPECT_EQ(threaded.status, 1);
     EXPECT_TRUE(threaded.out == manyExpected);
 }
 

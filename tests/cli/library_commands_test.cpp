@@ -85,7 +85,9 @@ TEST(CliLibrary, BuildWritesNineRatedFilesAndReportsTheCounts) {
             EXPECT_EQ(s.count, 1);
             EXPECT_EQ(r, (SudokuRecord{r.Puzzle, s.first, 0, 0}));
         }
-        EXPECT_FALSE(fs::exists(LogFile(dir.path(), LevelStem(level))));
+        // With its log of empty records: the folder checks and plays at once.
+        EXPECT_EQ(fs::file_size(LogFile(dir.path(), LevelStem(level))),
+                  records.size() * kSudokuLogRecordSize);
     }
     // Easy puzzles come often enough to fill their two places at once.
     EXPECT_EQ(lines[0], "Easy\t2");
@@ -119,12 +121,16 @@ TEST(CliLibrary, ImportAppendsWithSolutionsAndSkipsBadLinesByNumber) {
                                                   {puzzles[1].puzzle, puzzles[1].solution, 0, 0}}));
     EXPECT_EQ(WholeRecords(LogFile(dir.path(), LevelStem(4)), kSudokuLogRecordSize), 2);
 
-    // A second import goes after the first; a level without its log gets one.
+    // A second import, options in another order, refuses what the level holds;
+    // a level without its log gets one, and new puzzles go after the others.
     fs::remove(LogFile(dir.path(), LevelStem(4)));
+    std::ofstream(text, std::ios::app) << FormatDigits(puzzles[2].puzzle) << "\n";  // 7
     o = RunCommand(LibraryCommand,
-                   {"library", "import", text.string(), "--level", "4", "--dir", d});
-    EXPECT_EQ(o.out, "added 2 puzzles to Sudoku_Crazy.sds as records 3 to 4\n");
-    EXPECT_EQ(WholeRecords(LogFile(dir.path(), LevelStem(4)), kSudokuLogRecordSize), 4);
+                   {"library", "import", "--dir", d, text.string(), "--level", "4"});
+    EXPECT_EQ(o.out, "added 1 puzzles to Sudoku_Crazy.sds as records 3 to 3\n");
+    for (const char* said : {"line 1: already in the level", "line 6: already in the level"})
+        EXPECT_NE(o.err.find(said), std::string::npos) << o.err;
+    EXPECT_EQ(WholeRecords(LogFile(dir.path(), LevelStem(4)), kSudokuLogRecordSize), 3);
 
     EXPECT_EQ(RunCommand(LibraryCommand,
                          {"library", "import", text.string(), "--level", "10", "--dir", d})
