@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <random>
+
 #include "grid/candidates.h"
 #include "grid/levels.h"
 #include "library/library_test_support.h"
@@ -203,6 +205,101 @@ TEST(OpenPair, EveryStateAKillCanLeaveOpensAsTheOldPairOrTheNew) {
     ASSERT_TRUE(ReadSudokuLogRecord(sdl, 1, read));
     EXPECT_EQ(read, BusyLog(2));
     EXPECT_FALSE(fs::exists(NoteFile(sdl)));
+}
+
+// Pairs of every shape a kill, a mistake or a foreign tool can leave: sound
+// records cut or stretched, a file missing, the two files swapped, noise. After
+// the open, a pair is in step or was refused untouched, and no byte the user had
+// is gone: a file is as it was, or it lost only the torn end of an append, or a
+// copy of it as it was lies beside it.
+TEST(OpenPair, RepairsNeverLoseAByteAndNeverMakeRecordsOfTheWrongKind) {
+    TempDir dir(testing::FastScratch());
+    const std::string_view stem = "Sudoku_Hard.sd";
+    const fs::path sds = PuzzleFile(dir.path(), stem), sdl = LogFile(dir.path(), stem);
+    std::mt19937 rng(26);
+    const auto records = [&](auto make, int count, std::size_t size) {
+        std::vector<char> bytes;
+        for (int i = 0; i < count; ++i) {
+            const auto r = ToBytes(make(i));
+            bytes.insert(bytes.end(), r.begin(), r.end());
+        }
+        bytes.resize(std::min(bytes.size(), bytes.size() - rng() % size));  // a torn end
+        return bytes;
+    };
+    for (int i = 0; i < 300; ++i) {
+        for (const auto& entry : fs::directory_iterator(dir.path()))
+            fs::remove(entry.path());
+        const int puzzles = int(rng() % 6), logs = int(rng() % 8);
+        auto a = records([](int k) { return RecordOf(k); }, puzzles, i % 3 ? 1 : 200);
+        auto b = records([](int k) { return BusyLog(k); }, logs, i % 4 ? 1 : 1500);
+        const int shape = int(rng() % 6);
+        if (shape == 0) std::swap(a, b);
+        if (shape == 1)
+            for (auto& x : a)
+                x = char(rng());
+        if (shape != 2) WriteBytes(sds, a);
+        if (shape != 3) WriteBytes(sdl, b);
+        const bool hadSds = shape != 2, hadSdl = shape != 3;
+
+        bool refused = false;
+        std::string said;
+        const long count = OpenPair(dir.path(), stem, &said, &refused);
+        // Every byte is still somewhere: in the file, or in a copy beside it.
+        std::vector<std::vector<char>> copies;
+        for (const auto& entry : fs::directory_iterator(dir.path()))
+            if (entry.path() != sds && entry.path() != sdl)
+                copies.push_back(FileBytes(entry.path()));
+        const auto kept = [&](const std::vector<char>& before, const fs::path& file,
+                              std::size_t tornEnd) {
+            const auto now = FileBytes(file);
+            if (now == before) return true;
+            for (const auto& c : copies)
+                if (c == before) return true;
+            // Only the end of an append that was stopped: less than one record.
+            return now.size() <= before.size() && before.size() - now.size() <= tornEnd &&
+                   std::equal(now.begin(), now.end(), before.begin());
+        };
+        if (hadSds) ASSERT_TRUE(kept(a, sds, kSudokuRecordSize)) << i << " " << said;
+        if (hadSdl) ASSERT_TRUE(kept(b, sdl, 2 * kSudokuLogRecordSize)) << i << " " << said;
+        if (refused) {
+            ASSERT_EQ(count, -1);
+            if (hadSds) ASSERT_EQ(FileBytes(sds), a) << "a refused pair is left as it is";
+            if (hadSdl) ASSERT_EQ(FileBytes(sdl), b);
+            continue;
+        }
+        if (count < 0) continue;
+        ASSERT_EQ(fs::file_size(sdl), std::uintmax_t(count) * kSudokuLogRecordSize) << i;
+        ASSERT_EQ(fs::file_size(sds), std::uintmax_t(count) * kSudokuRecordSize) << i;
+        // A swapped pair never becomes library records.
+        if (shape == 0 && count > 0) ADD_FAILURE() << i << ": the swapped pair opened: " << said;
+    }
+}
+
+// A log file without its puzzle file is moved aside and the level starts empty;
+// a puzzle file far beyond any library is refused before anything is written.
+TEST(OpenPair, ALoneLogGoesAsideAndAnOversizedPuzzleFileIsRefused) {
+    TempDir dir;
+    const std::string_view stem = "Sudoku_Hard.sd";
+    const fs::path sds = PuzzleFile(dir.path(), stem), sdl = LogFile(dir.path(), stem);
+    WriteBytes(sdl, std::vector<char>(2 * kSudokuLogRecordSize, 0));
+    std::string said;
+    EXPECT_EQ(OpenPair(dir.path(), stem, &said), -1);
+    EXPECT_FALSE(fs::exists(sdl));
+    EXPECT_EQ(FileBytes(dir / "Sudoku_Hard.sdl.without-puzzles").size(),
+              2 * kSudokuLogRecordSize);
+    EXPECT_NE(said.find("kept as Sudoku_Hard.sdl.without-puzzles"), std::string::npos) << said;
+    ASSERT_TRUE(AppendToPair(dir.path(), stem, RecordOf(1), {}));  // the level starts afresh
+    EXPECT_EQ(OpenPair(dir.path(), stem), 1);
+
+    // A sparse puzzle file of more than a million records, and no log.
+    fs::remove(sdl);
+    fs::resize_file(sds, std::uintmax_t(kMaxLibraryRecords + 1) * kSudokuRecordSize);
+    bool refused = false;
+    EXPECT_EQ(OpenPair(dir.path(), stem, &said, &refused), -1);
+    EXPECT_TRUE(refused);
+    EXPECT_NE(said.find("is no library"), std::string::npos) << said;
+    EXPECT_FALSE(fs::exists(sdl));
+    EXPECT_FALSE(AppendToPair(dir.path(), stem, RecordOf(1), {}));
 }
 
 }  // namespace
