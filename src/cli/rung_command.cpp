@@ -7,6 +7,7 @@
 #include "grid/candidates.h"
 #include "hints/hint_search.h"
 #include "hints/schrijf_hint.h"
+#include "library/text_lines.h"
 #include "solver/ladder.h"
 
 namespace tavi::cli {
@@ -15,8 +16,16 @@ int RungCommand(int technique, std::istream& in, std::ostream& out, std::ostream
                 std::string_view source) {
     int bad = 0, lineNumber = 0;
     std::string line;
-    while (std::getline(in, line)) {
+    for (LineRead read; (read = ReadBoundedLine(in, line)) != LineRead::End;) {
         ++lineNumber;
+        if (read == LineRead::TooLong) {
+            // A board line is under a thousand characters; this one is passed over unread.
+            SkipRestOfLine(in);
+            err << Where(source, lineNumber) << "no board line: longer than " << kLineLimit
+                << " characters\n";
+            ++bad;
+            continue;
+        }
         if (line.find_first_not_of(" \t\r") == std::string::npos || line[0] == '#') continue;
         std::string why;
         const auto board = ParseBoardLine(line, &why);
