@@ -60,6 +60,12 @@ std::optional<long> Workbench::AskNumber(const std::string& title, const std::st
 
 void Workbench::ReportFileError(const std::string& why) {
     ++fileErrors_;
+    // A run says its file errors once, in its report, not in a box per record.
+    if (batchRunning_) {
+        if (runErrors_.size() < kNamedRecords) runErrors_.push_back(why);
+        ++runErrorCount_;
+        return;
+    }
     prompter_.Message(kFileErrorTitle, why.empty() ? std::string(kWriteErrorText) : why);
 }
 
@@ -357,6 +363,8 @@ void Workbench::CheckRange(long from, long to, bool brute) {
     hardest_ = {};
     unreadable_ = 0;
     std::vector<std::string> unreadable;
+    runErrors_.clear();
+    runErrorCount_ = 0;
     progress_ = WorkbenchProgress{};
     progress_.Shown = true;
     progress_.Label4 = (brute ? "Solving :" : "Checking :") + std::string(" ") + plural;
@@ -397,6 +405,8 @@ void Workbench::CheckRange(long from, long to, bool brute) {
                     WriteInPlace();
                 } else if (MoveTo(*journal, rating)) {
                     ++(solved ? count.moved : count.outlaw);
+                } else {
+                    ++count.unmoved;
                 }
             }
         }
@@ -409,10 +419,13 @@ void Workbench::CheckRange(long from, long to, bool brute) {
     batchRunning_ = false;
     progress_.Shown = false;
     showSolverBoard_ = false;
+    const std::string errors = RunErrorsText();
     if (brute) {
         OpenSudoku();
-        if (unreadable_ > 0)
-            prompter_.Message(kFileErrorTitle, UnreadableText(unreadable, unreadable_));
+        if (unreadable_ > 0 || !errors.empty())
+            prompter_.Message(kFileErrorTitle,
+                              (unreadable_ ? UnreadableText(unreadable, unreadable_) : "") +
+                                  (unreadable_ && !errors.empty() ? "\n" : "") + errors);
         return Changed();
     }
 
@@ -427,9 +440,23 @@ void Workbench::CheckRange(long from, long to, bool brute) {
         OpenSudoku();
     }
     std::string text = report.text;
+    if (count.unmoved > 0)
+        text += "\n" + std::to_string(count.unmoved) +
+                " sudokus could not be moved to their level and stay where they were.";
     if (unreadable_ > 0) text += "\n" + UnreadableText(unreadable, unreadable_);
+    if (!errors.empty()) text += "\n" + errors;
     prompter_.Message(report.title, text);
     Changed();
+}
+
+std::string Workbench::RunErrorsText() const {
+    if (runErrorCount_ == 0) return {};
+    std::string text = std::to_string(runErrorCount_) + " file errors:";
+    for (const std::string& each : runErrors_)
+        text += "\n" + each;
+    if (runErrorCount_ > long(runErrors_.size()))
+        text += "\nand " + std::to_string(runErrorCount_ - long(runErrors_.size())) + " more.";
+    return text;
 }
 
 std::string UnreadableText(const std::vector<std::string>& named, long count) {

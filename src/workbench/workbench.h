@@ -101,6 +101,7 @@ class Workbench {
   private:
     struct RunCounters {
         long moved = 0, outlaw = 0, unchanged = 0;
+        long unmoved = 0;  // rated for another level, but the move failed
     };
 
     bool OpenSudoku();
@@ -127,7 +128,9 @@ class Workbench {
     bool Compact(const std::vector<bool>& drop);
     bool WriteInPlace();
     void CheckRange(long from, long to, bool brute);
+    // A box at once, or during a run a line of its report (RunErrorsText).
     void ReportFileError(const std::string& why);
+    std::string RunErrorsText() const;
 
     Prompter& prompter_;
     std::filesystem::path dataFolder_;
@@ -150,6 +153,8 @@ class Workbench {
     long unreadable_ = 0;
     std::string damaged_;
     long fileErrors_ = 0;
+    std::vector<std::string> runErrors_;  // the first of a run's file errors
+    long runErrorCount_ = 0;
 };
 
 // How many damaged records a report names; the rest are counted.

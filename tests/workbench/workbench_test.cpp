@@ -315,6 +315,29 @@ TEST_F(WorkbenchTest, RemoveDuplicatesPassesOverDamagedRecords) {
     }
 }
 
+// Moves that fail (here Easy's log is a folder) are said once, in the report,
+// with how many puzzles stay where they were; nothing is lost.
+TEST_F(WorkbenchTest, FailedMovesAreCountedInTheReportNotBoxedOneByOne) {
+    for (int i = 0; i < 5; ++i)
+        Add(3, easy[i]);
+    Add(3, Broken(0));
+    Add(1, easy[9]);
+    fs::remove(LogFile(root, LevelStem(1)));
+    fs::create_directory(LogFile(root, LevelStem(1)));
+    Open(3);
+    prompter.shown.clear();
+    bench.CommandCheckAll();
+    ASSERT_EQ(prompter.shown.size(), 1u) << prompter.shown[0].text;
+    const std::string report = prompter.shown[0].text;
+    EXPECT_NE(report.find("\n5 sudokus could not be moved to their level and stay where they "
+                          "were.\n5 file errors:\n"),
+              std::string::npos)
+        << report;
+    EXPECT_EQ(Count(3), 5) << "the Outlaw puzzle moved, the Easy ones stayed";
+    EXPECT_EQ(Count(9), 1);
+    EXPECT_EQ(bench.FileErrors(), 5);
+}
+
 // Check All empties Easy; at the next start the delivered Easy file is not
 // copied back, and the moves of a later check into Easy make the pair anew.
 TEST_F(WorkbenchTest, AnEmptiedLevelStaysEmptyAndTakesMovesIn) {
