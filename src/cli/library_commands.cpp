@@ -254,11 +254,6 @@ int ImportLibrary(std::istream& in, int level, const fs::path& dir, std::ostream
                   std::ostream& err, std::string_view source) {
     if (!IsLevel(level)) return Problem(err, "the level must be 1 to 9");
     const std::string_view stem = LevelStem(level);
-    std::string made;
-    if (!EnsureLogFile(dir, stem, &made))
-        return Problem(err, "can't make " + LogFile(dir, stem).string());
-    if (!made.empty()) err << made << '\n';
-
     std::string repaired;
     bool refused = false;
     const long count = OpenPair(dir, stem, &repaired, &refused);

@@ -8,6 +8,7 @@
 
 #include "grid/levels.h"
 #include "library/library_pair.h"
+#include "library/pair_guard.h"
 #include "library/text_lines.h"
 
 namespace tavi {
@@ -115,17 +116,6 @@ void CopyLibraryFiles(const LibraryFolders& folders) {
     if (delivered.size() != before) WriteDeliveredStems(folders.DataFolder, delivered);
 }
 
-bool EnsureLogFile(const fs::path& folder, std::string_view stem, std::string* made) {
-    const fs::path sdl = LogFile(folder, stem);
-    std::error_code ec;
-    if (fs::exists(sdl, ec) || ec) return !ec;
-    if (!FileExists(PuzzleFile(folder, stem))) return true;  // a new pair starts whole
-    const long count = WholeRecords(PuzzleFile(folder, stem), kSudokuRecordSize);
-    if (!MakeEmptyLog(sdl, count)) return false;
-    if (made) *made = sdl.string() + " was made with " + std::to_string(count) + " empty records";
-    return true;
-}
-
 bool MaakSudLog(const LibraryFolders& folders, Notifier& notifier) {
     notifier.Message(kFirstRunTitle, kFirstRunText);
     for (int level = 1; level <= kLevelCount; ++level) {
@@ -142,10 +132,16 @@ bool MaakSudLog(const LibraryFolders& folders, Notifier& notifier) {
                              std::string(kCouldNotOpenSource) + source.string());
             return false;
         }
-        // A log that is there holds the user's games: it is only brought in step.
-        if (!EnsureLogFile(folders.DataFolder, stem) ||
-            CheckedPair(folders.DataFolder, stem, &notifier) < 0)
-            return false;
+        // A log that is there holds the user's games: it is only brought in step;
+        // a missing one is made when the puzzle file reads as one.
+        // Making the logs is the first run's work and needs no word of its own.
+        const bool hadLog = FileExists(LogFile(folders.DataFolder, stem));
+        std::string said;
+        bool refused = false;
+        const long opened = OpenPair(folders.DataFolder, stem, &said, &refused);
+        if (!said.empty() && (refused || hadLog))
+            notifier.Message(refused ? kFileErrorTitle : kPairRepairedTitle, said);
+        if (opened < 0) return false;
     }
     return true;
 }

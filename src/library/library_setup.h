@@ -36,11 +36,6 @@ bool WasDelivered(const std::filesystem::path& dataFolder, std::string_view stem
 // leaves no half file under the name.
 bool MakeEmptyLog(const std::filesystem::path& sdl, long count);
 
-// Makes the `.sdl` file of a pair that has none, one empty record per puzzle. A
-// log file that is there is never touched. `made` says what was made.
-bool EnsureLogFile(const std::filesystem::path& folder, std::string_view stem,
-                   std::string* made = nullptr);
-
 // Makes the `.sdl` files that are missing, one empty log record per puzzle, and
 // brings the ones that are there in step with their puzzle files: an existing
 // log is never rewritten or emptied, so a first run taken by mistake loses
