@@ -3,10 +3,10 @@
 #include "grid/candidates.h"
 #include "library/library_files.h"
 #include "library/library_pair.h"
-#include "library/pair_guard.h"
 #include "library/move_journal.h"
-#include "library/record_checks.h"
+#include "library/pair_guard.h"
 #include "library/pair_rewrite.h"
+#include "library/record_checks.h"
 #include "solver/brute_force.h"
 #include "solver/ladder.h"
 #include "solver/solutions.h"
@@ -293,7 +293,6 @@ void Workbench::CommandSolve(bool right, bool inside) {
         return Changed();
     }
     if (right) {
-        if (!inside) return;
         Board& b = ctx_.board;
         b.Puzzle = record_.Puzzle;
         bool contradiction = false;
