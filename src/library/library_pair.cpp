@@ -1,6 +1,7 @@
 #include "library/library_pair.h"
 
 #include <algorithm>
+#include <fstream>
 #include <system_error>
 
 #include "grid/levels.h"
@@ -22,14 +23,20 @@ void Say(std::string* why, std::string text) {
 bool AppendBoth(const fs::path& sds, const fs::path& sdl, long number, const SudokuRecord& sudoku,
                 const SudokuLogRecord& log, std::string* why) {
     std::error_code ec;
+    // A new pair starts with an empty puzzle file, so that a kill after the log
+    // record leaves a pair (taken back on open), never a log on its own.
+    const bool newPair = !FileExists(sds);
+    if (newPair && !std::ofstream(sds, std::ios::binary | std::ios::app)) {
+        Say(why, "Can't write " + sds.string() + ".");
+        return false;
+    }
     const bool hadLog = FileExists(sdl);
     const std::uintmax_t logLength = hadLog ? fs::file_size(sdl, ec) : 0;
-    if (!WriteSudokuLogRecord(sdl, number, log, why)) return false;
-    if (WriteSudokuRecord(sds, number, sudoku, why)) return true;
-    if (hadLog)
-        fs::resize_file(sdl, logLength, ec);
-    else
-        fs::remove(sdl, ec);
+    bool ok = WriteSudokuLogRecord(sdl, number, log, why);
+    if (ok && WriteSudokuRecord(sds, number, sudoku, why)) return true;
+    if (ok && hadLog) fs::resize_file(sdl, logLength, ec);
+    if (!hadLog) fs::remove(sdl, ec);
+    if (newPair) fs::remove(sds, ec);
     return false;
 }
 

@@ -170,6 +170,17 @@ TEST(OpenPair, EveryStateAKillCanLeaveOpensAsTheOldPairOrTheNew) {
         ASSERT_EQ(FileBytes(sdl), oldSdl);
     }
 
+    // The first add to a new level, stopped after its log record: the pair is
+    // taken back to no records, and no log is left on its own.
+    {
+        TempDir fresh;
+        ASSERT_TRUE(AppendToPair(fresh.path(), stem, RecordOf(1), BusyLog(1)));
+        fs::resize_file(PuzzleFile(fresh.path(), stem), 0);
+        EXPECT_EQ(OpenPair(fresh.path(), stem), 0);
+        EXPECT_EQ(fs::file_size(LogFile(fresh.path(), stem)), 0u);
+        EXPECT_EQ(std::distance(fs::directory_iterator(fresh.path()), fs::directory_iterator()), 2);
+    }
+
     // A rewrite to one record (the first), stopped at each step.
     const std::vector<char> newSds(oldSds.begin(), oldSds.begin() + kSudokuRecordSize);
     const std::vector<char> newSdl(oldSdl.begin(), oldSdl.begin() + kSudokuLogRecordSize);
