@@ -94,8 +94,8 @@ int LibraryImportCommand(const std::filesystem::path& file, const std::filesyste
                 << " more lines like these\n";
     }
     out << report.Text() << '\n';
-    const bool refused = report.noSolution.count || report.severalSolutions.count ||
-                         report.duplicates.count;
+    const bool refused =
+        report.noSolution.count || report.severalSolutions.count || report.duplicates.count;
     if (report.malformed.count || report.unwritten.count) return kExitBadInput;
     return refused ? kExitSomeInvalid : kExitOk;
 }

@@ -17,10 +17,10 @@
 #include "library/library_setup.h"
 #include "library/pair_guard.h"
 #include "library/record_checks.h"
-#include "workbench/duplicates.h"
 #include "solver/generator.h"
 #include "solver/ladder.h"
 #include "solver/solutions.h"
+#include "workbench/duplicates.h"
 
 namespace tavi::cli {
 
@@ -289,7 +289,7 @@ int ImportLibrary(std::istream& in, int level, const fs::path& dir, std::ostream
             if (solutions.count != 1 || repeat) {
                 if (++skipped <= int(kNamedLines))
                     err << Where(source, p.lineNumber)
-                        << (repeat                ? "already in the level"
+                        << (repeat                 ? "already in the level"
                             : solutions.count == 0 ? "no solution"
                                                    : "more than one solution")
                         << ", skipped\n";

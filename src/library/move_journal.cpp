@@ -132,8 +132,7 @@ void FinishDeadMoves(const fs::path& folder, std::string_view stem) {
         std::fclose(in);
     }
     bool done = true;
-    if (!landed.empty())
-        done = KeepInPair(folder, stem, [&](long n) { return !landed.count(n); });
+    if (!landed.empty()) done = KeepInPair(folder, stem, [&](long n) { return !landed.count(n); });
     // The rewrite's commit took the journal with it; with nothing to take out, it
     // goes now.
     if (done) fs::remove(journal, ec);
@@ -199,7 +198,9 @@ bool MoveJournal::Finish(std::string* why) {
         return true;
     }
     const std::unordered_set<long> moved(moved_.begin(), moved_.end());
-    if (!KeepInPair(folder_, stem_, [&](long n) { return !moved.count(n); }, why)) return false;
+    if (!KeepInPair(
+            folder_, stem_, [&](long n) { return !moved.count(n); }, why))
+        return false;
     fs::remove(journal, ec);  // already gone with the rewrite's commit
     moved_.clear();
     return true;

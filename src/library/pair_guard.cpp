@@ -170,8 +170,9 @@ long OpenPair(const fs::path& folder, std::string_view stem, std::string* messag
     }
     if (!hasSdl) {
         if (!ReadsAsItsKind<kSudokuRecordSize>(sds, puzzles, PuzzleKind)) {
-            say(Name(sds) + " does not read as a puzzle file, so no log file was made for it. "
-                            "Nothing was changed.");
+            say(Name(sds) +
+                " does not read as a puzzle file, so no log file was made for it. "
+                "Nothing was changed.");
             return refuse();
         }
         if (!MakeEmptyLog(sdl, long(puzzles))) {
@@ -191,9 +192,8 @@ long OpenPair(const fs::path& folder, std::string_view stem, std::string* messag
     // at most one log record more) is taken back; anything else is repaired with
     // a copy of each file kept as it was, and a pair whose files do not read as
     // their kinds is never made into library records.
-    const bool stoppedAppend =
-        sdlLength >= puzzles * kSudokuLogRecordSize &&
-        sdlLength <= (puzzles + 1) * kSudokuLogRecordSize;
+    const bool stoppedAppend = sdlLength >= puzzles * kSudokuLogRecordSize &&
+                               sdlLength <= (puzzles + 1) * kSudokuLogRecordSize;
     if (!stoppedAppend) {
         if (!ReadsAsItsKind<kSudokuRecordSize>(sds, puzzles, PuzzleKind) ||
             !ReadsAsItsKind<kSudokuLogRecordSize>(sdl, logs, LogKind)) {

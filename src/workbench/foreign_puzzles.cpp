@@ -51,7 +51,6 @@ bool ReadCandidates(std::string_view text, Digits& digits) {
     return true;
 }
 
-
 bool IsBinaryText(std::string_view text) {
     for (const char ch : text) {
         const auto u = static_cast<unsigned char>(ch);

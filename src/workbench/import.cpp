@@ -7,8 +7,8 @@
 #include "library/library_files.h"
 #include "library/library_pair.h"
 #include "library/pair_guard.h"
-#include "solver/solutions.h"
 #include "solver/ladder.h"
+#include "solver/solutions.h"
 #include "workbench/duplicates.h"
 
 namespace tavi {
@@ -16,7 +16,9 @@ namespace tavi {
 namespace {
 
 // Where a puzzle of the library stands, as one number for the index.
-std::uint64_t Place(int level, long number) { return std::uint64_t(level) << 32 | std::uint64_t(number); }
+std::uint64_t Place(int level, long number) {
+    return std::uint64_t(level) << 32 | std::uint64_t(number);
+}
 
 }  // namespace
 
@@ -34,7 +36,8 @@ std::string LineCount::Lines() const {
     for (int line : first)
         lines += (lines.empty() ? "" : ", ") + std::to_string(line);
     std::string text = std::string(" (line") + (count > 1 ? "s " : " ") + lines;
-    if (count > long(first.size())) text += " and " + std::to_string(count - long(first.size())) + " more";
+    if (count > long(first.size()))
+        text += " and " + std::to_string(count - long(first.size())) + " more";
     return text + ")";
 }
 

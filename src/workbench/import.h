@@ -21,7 +21,7 @@ namespace tavi {
 struct LineCount {
     static constexpr std::size_t kNamed = 20;
     long count = 0;
-    std::vector<int> first;  // at most kNamed line numbers
+    std::vector<int> first;        // at most kNamed line numbers
     std::vector<std::string> why;  // the reason of each of the first, when there is one
 
     void Note(int line, std::string reason = {});

@@ -236,8 +236,7 @@ void Workbench::TakeSolution(bool solved) {
 bool Workbench::MoveTo(MoveJournal& journal, int level) {
     long number = 0;
     std::string why;
-    if (!journal.Move(currentNumber_[workLevel_], LevelStem(level), record_, log_, &number,
-                      &why)) {
+    if (!journal.Move(currentNumber_[workLevel_], LevelStem(level), record_, log_, &number, &why)) {
         ReportFileError(why);
         return false;
     }
@@ -459,8 +458,8 @@ std::string Workbench::RunErrorsText() const {
 }
 
 std::string UnreadableText(const std::vector<std::string>& named, long count) {
-    std::string text = std::to_string(count) + " records could not be read and were left as " +
-                       "they stand:";
+    std::string text =
+        std::to_string(count) + " records could not be read and were left as " + "they stand:";
     for (const std::string& each : named)
         text += "\n" + each;
     if (count > long(named.size()))
@@ -527,10 +526,10 @@ void Workbench::CommandRemoveDuplicates() {
     batchRunning_ = false;
     progress_.Shown = false;
     if (aborted) return Changed();
-    const std::string passed =
-        damaged ? " " + std::to_string(damaged) +
-                      " damaged records were passed over and left as they stand."
-                : "";
+    const std::string passed = damaged
+                                   ? " " + std::to_string(damaged) +
+                                         " damaged records were passed over and left as they stand."
+                                   : "";
     if (duplicates == 0) {
         prompter_.Message(kScanTitle, "No duplicate sudokus found." + passed);
         return Changed();

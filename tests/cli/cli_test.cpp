@@ -103,8 +103,9 @@ TEST(CliSolve, SaysUniqueNoneOrMultiple) {
     const Output o = RunSolve(input);
     EXPECT_EQ(o.status, 1);  // the clashing givens
     EXPECT_EQ(o.out, expected);
-    EXPECT_EQ(o.err, "standard input, line 6: invalid puzzle: two givens in one row, column or "
-                     "box hold the same digit\n");
+    EXPECT_EQ(o.err,
+              "standard input, line 6: invalid puzzle: two givens in one row, column or "
+              "box hold the same digit\n");
 
     // More lines than one block holds, over two threads: the same answers in the
     // same order.

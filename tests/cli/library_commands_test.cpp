@@ -243,8 +243,8 @@ TEST(CliLibrary, OversizedInputsAreRefusedOrReportedInBrief) {
             out << "junk line " << i << "\n";
         out << std::string(100000, '7') << "\n";  // one line far too long
     }
-    o = RunCommand(LibraryCommand, {"library", "import", "--dir", dir.path().string(),
-                                    junk.string()});
+    o = RunCommand(LibraryCommand,
+                   {"library", "import", "--dir", dir.path().string(), junk.string()});
     EXPECT_EQ(o.status, 2);
     EXPECT_LT(o.out.size() + o.err.size(), 4000u);
     EXPECT_NE(o.out.find("5001 malformed (lines 1, 2, 3"), std::string::npos) << o.out;

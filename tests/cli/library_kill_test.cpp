@@ -14,6 +14,7 @@
 
 #include "cli/library_commands.h"
 #include "game/library_position.h"
+#include "grid/candidates.h"
 #include "grid/levels.h"
 #include "library/library_pair.h"
 #include "library/library_test_support.h"
@@ -21,7 +22,6 @@
 #include "library/pair_guard.h"
 #include "library/pair_rewrite.h"
 #include "library/record_journal.h"
-#include "grid/candidates.h"
 #include "solver/ladder.h"
 
 namespace tavi {

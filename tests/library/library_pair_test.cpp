@@ -296,8 +296,7 @@ TEST(OpenPair, ALoneLogGoesAsideAndAnOversizedPuzzleFileIsRefused) {
     std::string said;
     EXPECT_EQ(OpenPair(dir.path(), stem, &said), -1);
     EXPECT_FALSE(fs::exists(sdl));
-    EXPECT_EQ(FileBytes(dir / "Sudoku_Hard.sdl.without-puzzles").size(),
-              2 * kSudokuLogRecordSize);
+    EXPECT_EQ(FileBytes(dir / "Sudoku_Hard.sdl.without-puzzles").size(), 2 * kSudokuLogRecordSize);
     EXPECT_NE(said.find("kept as Sudoku_Hard.sdl.without-puzzles"), std::string::npos) << said;
     ASSERT_TRUE(AppendToPair(dir.path(), stem, RecordOf(1), {}));  // the level starts afresh
     EXPECT_EQ(OpenPair(dir.path(), stem), 1);

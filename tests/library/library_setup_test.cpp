@@ -54,7 +54,8 @@ TEST(CopyLibraryFiles, ALevelThatHadFilesIsNeverFilledAgain) {
     for (int start = 0; start < 2; ++start) {
         CopyLibraryFiles(lib.folders);
         for (int level = 1; level <= 9; ++level) {
-            EXPECT_EQ(FileExists(PuzzleFile(lib.data.path(), LevelStem(level))), level > 2) << level;
+            EXPECT_EQ(FileExists(PuzzleFile(lib.data.path(), LevelStem(level))), level > 2)
+                << level;
             EXPECT_TRUE(WasDelivered(lib.data.path(), LevelStem(level))) << level;
         }
     }

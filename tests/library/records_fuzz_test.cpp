@@ -7,8 +7,8 @@
 #include <random>
 
 #include "library/library_pair.h"
-#include "library/move_journal.h"
 #include "library/library_test_support.h"
+#include "library/move_journal.h"
 #include "library/pair_guard.h"
 #include "library/record_checks.h"
 #include "library/record_journal.h"
