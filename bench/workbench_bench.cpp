@@ -8,6 +8,9 @@
 
 #include "grid/levels.h"
 #include "library/library_files.h"
+#include "library/library_pair.h"
+#include "library/move_journal.h"
+#include "library/pair_rewrite.h"
 #include "workbench/workbench.h"
 
 namespace tavi {
@@ -79,6 +82,34 @@ void BM_RemoveDuplicates_50000(benchmark::State& state) {
     }
 }
 BENCHMARK(BM_RemoveDuplicates_50000)->Unit(benchmark::kMillisecond)->Iterations(1);
+
+// What the move journal costs: 6,700 records (the moves of the check above)
+// appended to another level, plainly (0) or as journalled moves (1) with the
+// rewrite of the old pair at the end.
+void BM_Moves_6700(benchmark::State& state) {
+    const bool journalled = state.range(0) == 1;
+    for (auto _ : state) {
+        state.PauseTiming();
+        const fs::path folder = MakeLibrary(6700);
+        std::vector<SudokuRecord> records;
+        ReadSudokuFile(PuzzleFile(folder, LevelStem(3)), records);
+        state.ResumeTiming();
+        if (journalled) {
+            MoveJournal journal(folder, LevelStem(3));
+            for (long n = 1; n <= long(records.size()); ++n)
+                journal.Move(n, LevelStem(1), records[size_t(n - 1)], {});
+            journal.Finish();
+        } else {
+            for (long n = 1; n <= long(records.size()); ++n)
+                AppendToPair(folder, LevelStem(1), records[size_t(n - 1)], {});
+            KeepInPair(folder, LevelStem(3), [](long) { return false; });
+        }
+        state.PauseTiming();
+        fs::remove_all(folder);
+        state.ResumeTiming();
+    }
+}
+BENCHMARK(BM_Moves_6700)->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond)->Iterations(3);
 
 }  // namespace
 }  // namespace tavi

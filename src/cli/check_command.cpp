@@ -40,17 +40,21 @@ int LibraryCheckCommand(const std::filesystem::path& folder, int onlyLevel, std:
     std::error_code ec;
     if (!std::filesystem::is_directory(folder, ec)) {
         err << "tavi-sudoku-cli: " << folder.string() << " is no folder\n";
-        return 2;
+        return kExitBadInput;
     }
     LinePrompter prompter(out);
     Workbench bench(prompter, folder);
     HardestCounts hardest{};
+    long unreadable = 0;
     for (int level = 1; level <= kLevelCount; ++level) {
         if (onlyLevel && level != onlyLevel) continue;
-        if (WholeRecords(PuzzleFile(folder, LevelStem(level)), kSudokuRecordSize) < 1) continue;
+        const auto stem = LevelStem(level);
+        if (!FileExists(PuzzleFile(folder, stem)) && !FileExists(LogFile(folder, stem))) continue;
         out << LevelPlural(level) << '\n';
         bench.Command1(level);
+        if (bench.WorkLevel() != level) continue;  // no record, or a pair refused
         bench.CommandCheckAll();
+        unreadable += bench.Unreadable();
         for (int t = 0; t < kTechniqueCount; ++t)
             hardest[t] += bench.Hardest()[t];
     }
@@ -59,7 +63,14 @@ int LibraryCheckCommand(const std::filesystem::path& folder, int onlyLevel, std:
         if (hardest[t])
             out << (t == 7 ? std::string_view("Subsets") : RungsOf(t)[0].Name()) << '\t'
                 << hardest[t] << '\n';
-    return 0;
+    // A file that could not be written or read, or a damaged record: the work
+    // is not done.
+    if (bench.FileErrors() || unreadable) {
+        err << "tavi-sudoku-cli: " << folder.string() << ": " << bench.FileErrors()
+            << " file errors, " << unreadable << " records that could not be read\n";
+        return kExitBadInput;
+    }
+    return kExitOk;
 }
 
 int LibraryImportCommand(const std::filesystem::path& file, const std::filesystem::path& folder,
@@ -75,12 +86,18 @@ int LibraryImportCommand(const std::filesystem::path& file, const std::filesyste
     }
     std::ifstream in(file, std::ios::binary);
     const ImportReport report = ImportPuzzles(folder, in);
-    for (const ForeignProblem& p : report.malformed)
-        err << file.string() << ", line " << p.line << ": " << p.why << '\n';
+    for (const LineCount* lines : {&report.malformed, &report.unwritten}) {
+        for (std::size_t i = 0; i < lines->first.size(); ++i)
+            err << Where(file.string(), lines->first[i]) << lines->why[i] << '\n';
+        if (lines->count > long(lines->first.size()))
+            err << file.string() << ": and " << lines->count - long(lines->first.size())
+                << " more lines like these\n";
+    }
     out << report.Text() << '\n';
     const bool refused =
-        report.noSolution || report.severalSolutions || report.duplicates || report.unwritten;
-    return !report.malformed.empty() ? kExitBadInput : refused ? kExitSomeInvalid : kExitOk;
+        report.noSolution.count || report.severalSolutions.count || report.duplicates.count;
+    if (report.malformed.count || report.unwritten.count) return kExitBadInput;
+    return refused ? kExitSomeInvalid : kExitOk;
 }
 
 }  // namespace tavi::cli

@@ -82,16 +82,24 @@ int Solve(std::istream& in, std::ostream& out, std::ostream& err, std::string_vi
         std::string text;
         Digits digits{};
         SolutionCount answer;
+        bool clash = false;
     };
     std::vector<Line> block(kBlock);
     std::vector<int> workers(std::size_t(std::max(1, threads)));
     std::size_t filled = 0;
+    int invalid = 0;
     const auto answer = [&] {
         ForEachInParallel(long(filled), workers, [&](long k, int&) {
-            block[std::size_t(k)].answer = Solutions(block[std::size_t(k)].digits, 2);
+            Line& line = block[std::size_t(k)];
+            line.answer = line.clash ? SolutionCount{} : Solutions(line.digits, 2);
         });
         for (std::size_t k = 0; k < filled; ++k) {
             const SolutionCount& a = block[k].answer;
+            if (block[k].clash) {
+                out << block[k].text << "\tinvalid\t-\n";
+                block[k].clash = false;
+                continue;
+            }
             out << block[k].text << '\t'
                 << (a.count == 0   ? "none"
                     : a.count == 1 ? "unique"
@@ -103,13 +111,18 @@ int Solve(std::istream& in, std::ostream& out, std::ostream& err, std::string_vi
     const int bad = ForEachPuzzle(
         in, err,
         [&](const PuzzleLine& p) {
+            if (ReportClash(p, source, err)) {
+                // Kept in its place among the answers, which come in input order.
+                ++invalid;
+                block[filled].clash = true;
+            }
             block[filled].text.assign(p.text);
             block[filled].digits = p.digits;
             if (++filled == kBlock) answer();
         },
         source);
     answer();
-    return Status(bad, 0);
+    return Status(bad, invalid);
 }
 
 int Steps(std::istream& in, std::ostream& out, std::ostream& err, bool explain,
@@ -188,13 +201,18 @@ int Signature(std::istream& in, std::ostream& out, std::ostream& err, std::strin
 int Hint(std::istream& in, std::ostream& out, std::ostream& err, bool paint,
          std::string_view source) {
     const TechniqueTables defaults;
+    int invalid = 0;
     const int bad = ForEachPuzzle(
         in, err,
         [&](const PuzzleLine& p) {
+            if (ReportClash(p, source, err)) {
+                ++invalid;
+                out << p.text << "\tinvalid\tclashing givens\n";
+                return;
+            }
             SolveContext ctx(Side::Game);
             ctx.board = BoardFromPuzzle(p.digits);
-            const bool clash = GivensClash(p.digits);
-            const Rung* hit = clash ? nullptr : FindHint(ctx, defaults);
+            const Rung* hit = FindHint(ctx, defaults);
             out << p.text << '\t'
                 << (hit ? SchrijfHint(ctx.hint, ctx.board) : std::string(kNoLogicalHints)) << '\n';
             if (paint && hit)
@@ -202,7 +220,7 @@ int Hint(std::istream& in, std::ostream& out, std::ostream& err, bool paint,
                     out << '\t' << DescribePaint(each) << '\n';
         },
         source);
-    return Status(bad, 0);
+    return Status(bad, invalid);
 }
 
 }  // namespace tavi::cli

@@ -16,9 +16,11 @@
 #include "library/library_pair.h"
 #include "library/library_setup.h"
 #include "library/pair_guard.h"
+#include "library/record_checks.h"
 #include "solver/generator.h"
 #include "solver/ladder.h"
 #include "solver/solutions.h"
+#include "workbench/duplicates.h"
 
 namespace tavi::cli {
 
@@ -194,8 +196,14 @@ int BuildLibrary(const BuildOptions& options, std::ostream& out, std::ostream& e
     int status = 0;
     for (int level = 1; level <= kLevelCount; ++level) {
         std::string why;
-        if (!WriteSudokuFile(PuzzleFile(options.out, LevelStem(level)), levels[level], &why)) {
+        // Each puzzle file with its log of empty records, so the folder is a
+        // library that checks and plays at once.
+        const std::string_view stem = LevelStem(level);
+        if (!WriteSudokuFile(PuzzleFile(options.out, stem), levels[level], &why)) {
             err << "tavi-sudoku-cli: " << why << '\n';
+            status = kUsageError;
+        } else if (!MakeEmptyLog(LogFile(options.out, stem), long(levels[level].size()))) {
+            err << "tavi-sudoku-cli: can't write " << LogFile(options.out, stem).string() << '\n';
             status = kUsageError;
         }
         out << LevelName(level) << '\t' << levels[level].size() << '\n';
@@ -207,33 +215,67 @@ int BuildLibrary(const BuildOptions& options, std::ostream& out, std::ostream& e
 int ExportLibrary(const fs::path& sdsFile, std::ostream& out, std::ostream& err) {
     if (const std::string problem = InputFileProblem(sdsFile); !problem.empty())
         return Problem(err, problem);
-    std::vector<SudokuRecord> records;
-    std::vector<std::string> damaged;
-    std::size_t trailing = 0;
-    std::string why;
-    if (!ReadSudokuFile(sdsFile, records, &trailing, &why, &damaged)) return Problem(err, why);
-    for (const SudokuRecord& r : records)
+    std::error_code ec;
+    const std::uintmax_t length = fs::file_size(sdsFile, ec);
+    if (ec) return Problem(err, sdsFile.string() + ": can't be read");
+    const std::uintmax_t whole = length / kSudokuRecordSize;
+    if (whole > std::uintmax_t(kMaxLibraryRecords))
+        return Problem(err, sdsFile.string() + " is no library: its " + std::to_string(length) +
+                                " bytes would be more than " + std::to_string(kMaxLibraryRecords) +
+                                " records");
+    // Record by record: nothing of the file is held beyond the one record.
+    std::ifstream in(sdsFile, std::ios::binary);
+    SudokuRecordBytes bytes;
+    long damaged = 0;
+    for (std::uintmax_t n = 1; n <= whole; ++n) {
+        if (!in.read(reinterpret_cast<char*>(bytes.data()), std::streamsize(bytes.size())))
+            return Problem(err, sdsFile.string() + ": read error at record " + std::to_string(n));
+        const SudokuRecord r = SudokuRecordFromBytes(bytes);
+        if (const std::string wrong = CheckSudokuRecord(r); !wrong.empty()) {
+            if (++damaged <= long(kNamedLines))
+                err << sdsFile.string() << ": " << DamagedRecord(sdsFile, long(n), wrong)
+                    << " It was left out.\n";
+            continue;
+        }
         out << FormatDigits(r.Puzzle) << '\t' << FormatDigits(r.Solution) << '\t' << BestTime(r)
             << '\n';
-    for (const std::string& each : damaged)
-        err << sdsFile.string() << ": " << each << " It was left out.\n";
+    }
+    if (damaged > long(kNamedLines))
+        err << sdsFile.string() << ": and " << damaged - long(kNamedLines)
+            << " more damaged records were left out\n";
+    const std::uintmax_t trailing = length % kSudokuRecordSize;
     if (trailing)
         err << sdsFile.string() << " is damaged: " << trailing
             << " bytes after the last whole record were left out\n";
-    return trailing || !damaged.empty() ? kExitBadInput : kExitOk;
+    return trailing || damaged ? kExitBadInput : kExitOk;
 }
 
 int ImportLibrary(std::istream& in, int level, const fs::path& dir, std::ostream& out,
                   std::ostream& err, std::string_view source) {
     if (!IsLevel(level)) return Problem(err, "the level must be 1 to 9");
     const std::string_view stem = LevelStem(level);
-    std::string made;
-    if (!EnsureLogFile(dir, stem, &made))
-        return Problem(err, "can't make " + LogFile(dir, stem).string());
-    if (!made.empty()) err << made << '\n';
-
     std::string repaired;
-    if (OpenPair(dir, stem, &repaired) >= 0 && !repaired.empty()) err << repaired << '\n';
+    bool refused = false;
+    const long count = OpenPair(dir, stem, &repaired, &refused);
+    if (!repaired.empty()) err << repaired << '\n';
+    if (refused) return kUsageError;
+
+    // The puzzles the level holds, to refuse them a second time.
+    const fs::path sds = PuzzleFile(dir, stem);
+    PuzzleIndex known([&](std::uint64_t n) -> std::optional<Digits> {
+        SudokuRecordBytes bytes;
+        if (!ReadRecordBytes(sds, long(n), bytes)) return std::nullopt;
+        return SudokuRecordFromBytes(bytes).Puzzle;
+    });
+    {
+        std::ifstream in(sds, std::ios::binary);
+        SudokuRecordBytes bytes;
+        for (long n = 1; n <= count; ++n) {
+            if (!in.read(reinterpret_cast<char*>(bytes.data()), std::streamsize(bytes.size())))
+                break;
+            known.Add(SudokuRecordFromBytes(bytes).Puzzle, std::uint64_t(n));
+        }
+    }
 
     long added = 0, first = 0;
     int skipped = 0;
@@ -243,11 +285,14 @@ int ImportLibrary(std::istream& in, int level, const fs::path& dir, std::ostream
         [&](const PuzzleLine& p) {
             if (failed) return;
             const SolutionCount solutions = Solutions(p.digits, 2);
-            if (solutions.count != 1) {
-                err << Where(source, p.lineNumber)
-                    << (solutions.count == 0 ? "no solution" : "more than one solution")
-                    << ", skipped\n";
-                ++skipped;
+            const bool repeat = solutions.count == 1 && known.Contains(p.digits);
+            if (solutions.count != 1 || repeat) {
+                if (++skipped <= int(kNamedLines))
+                    err << Where(source, p.lineNumber)
+                        << (repeat                 ? "already in the level"
+                            : solutions.count == 0 ? "no solution"
+                                                   : "more than one solution")
+                        << ", skipped\n";
                 return;
             }
             const SudokuRecord record{p.digits, solutions.first, 0, 0};
@@ -258,9 +303,12 @@ int ImportLibrary(std::istream& in, int level, const fs::path& dir, std::ostream
                 failed = true;
                 return;
             }
+            known.Add(p.digits, std::uint64_t(number));
             if (!added++) first = number;
         },
         source);
+    if (skipped > int(kNamedLines))
+        err << source << ": and " << skipped - int(kNamedLines) << " more puzzles skipped\n";
     if (added)
         out << "added " << added << " puzzles to " << PuzzleFileName(stem) << " as records "
             << first << " to " << first + added - 1 << '\n';
@@ -311,18 +359,30 @@ int LibraryCommand(const std::vector<std::string>& args, std::ostream& out, std:
         if (a.positional.size() != 1) return Problem(err, "library export needs one FILE.sds");
         return ExportLibrary(a.positional[0], out, err);
     }
+    if (action == "check") {
+        const Arguments a = Parse(args, 2, {"level"});
+        if (!a.problem.empty()) return Problem(err, a.problem);
+        const auto level = Number(a.Get("level"), 1);
+        if (a.positional.size() != 1 || (a.Get("level") && (!level || *level > kLevelCount)))
+            return Problem(err, "library check needs DIR, and --level L with L from 1 to 9");
+        return LibraryCheckCommand(a.positional[0], a.Get("level") ? int(*level) : 0, out, err);
+    }
     if (action == "import") {
         const Arguments a = Parse(args, 2, {"level", "dir"});
         if (!a.problem.empty()) return Problem(err, a.problem);
+        if (a.positional.size() != 1 || !a.Get("dir"))
+            return Problem(err, "library import needs TEXTFILE and --dir DIR");
+        // Without a level the workbench's reader files each puzzle by its own level.
+        if (!a.Get("level")) return LibraryImportCommand(a.positional[0], *a.Get("dir"), out, err);
         const auto level = Number(a.Get("level"), 1);
-        if (a.positional.size() != 1 || !level || *level > kLevelCount || !a.Get("dir"))
-            return Problem(err, "library import needs TEXTFILE, --level 1..9 and --dir DIR");
+        if (!level || *level > kLevelCount)
+            return Problem(err, "library import needs --level 1..9");
         if (const std::string problem = InputFileProblem(a.positional[0]); !problem.empty())
             return Problem(err, problem);
         std::ifstream in(a.positional[0], std::ios::binary);
         return ImportLibrary(in, int(*level), *a.Get("dir"), out, err, a.positional[0]);
     }
-    return Problem(err, "library needs build, export or import");
+    return Problem(err, "library needs build, check, export or import");
 }
 
 }  // namespace tavi::cli

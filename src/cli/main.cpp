@@ -87,17 +87,6 @@ int main(int argc, char** argv) {
     }
 
     if (command == "generate") return tavi::cli::GenerateCommand(args, std::cout, std::cerr);
-    if (command == "library" && args.size() >= 3 && args[1] == "check") {
-        int level = 0;
-        if (args.size() == 5 && args[3] == "--level") level = std::atoi(args[4].c_str());
-        if ((args.size() != 3 && args.size() != 5) || (args.size() == 5 && !tavi::IsLevel(level)))
-            return Usage("library check DIR [--level L] with L from 1 to 9");
-        return tavi::cli::LibraryCheckCommand(args[2], level, std::cout, std::cerr);
-    }
-    // library import without a level: the workbench's reader files each puzzle by
-    // its own level.
-    if (command == "library" && args.size() == 5 && args[1] == "import" && args[3] == "--dir")
-        return tavi::cli::LibraryImportCommand(args[2], args[4], std::cout, std::cerr);
     if (command == "library") return tavi::cli::LibraryCommand(args, std::cout, std::cerr);
 
     int technique = 0;

@@ -5,6 +5,7 @@
 #include <system_error>
 
 #include "grid/candidates.h"
+#include "library/text_lines.h"
 
 namespace tavi::cli {
 
@@ -31,24 +32,36 @@ int ForEachPuzzle(std::istream& in, std::ostream& err,
                   const std::function<void(const PuzzleLine&)>& each, std::string_view source) {
     std::string line;
     int lineNumber = 0, bad = 0;
-    while (std::getline(in, line)) {
+    // The first bad lines are named, the others counted.
+    const auto report = [&](const std::string& why) {
+        if (++bad <= int(kNamedLines)) err << Where(source, lineNumber) << why << '\n';
+    };
+    for (LineRead read; (read = ReadBoundedLine(in, line)) != LineRead::End;) {
         ++lineNumber;
         if (!line.empty() && line.back() == '\r') line.pop_back();
         if (IsBinary(line)) {
             err << Where(source, lineNumber) << "binary data, not puzzle lines; reading stops\n";
             return bad + 1;
         }
+        if (read == LineRead::TooLong) {
+            // Never held whole: its rest is passed over unread.
+            SkipRestOfLine(in);
+            report("no puzzle line: longer than " + std::to_string(kLineLimit) +
+                   " characters, passed over unread");
+            continue;
+        }
         if (line.empty() || line[0] == '#') continue;
         if (line.find_first_not_of(" \t") == std::string::npos) continue;
         std::string why;
         const auto digits = ParseDigits(line, &why);
         if (!digits) {
-            err << Where(source, lineNumber) << "not a puzzle: " << why << '\n';
-            ++bad;
+            report("not a puzzle: " + why);
             continue;
         }
         each({lineNumber, std::string_view(line).substr(0, 81), *digits});
     }
+    if (bad > int(kNamedLines))
+        err << source << ": and " << bad - int(kNamedLines) << " more lines that are no puzzle\n";
     if (in.bad()) {
         err << std::string(source) << ": read error after line " << lineNumber << '\n';
         ++bad;

@@ -23,6 +23,10 @@ inline constexpr int kExitBadInput = 2;     // bad usage, a file that can't be r
 
 inline constexpr std::string_view kStandardInput = "standard input";
 
+// How many lines of one kind a command names on standard error; the rest are
+// counted ("and 12 more ...").
+inline constexpr std::size_t kNamedLines = 20;
+
 struct PuzzleLine {
     int lineNumber;
     std::string_view text;  // the 81 characters as given

@@ -8,6 +8,7 @@
 #include "hints/hint_paint.h"
 #include "hints/hint_search.h"
 #include "hints/schrijf_hint.h"
+#include "library/text_lines.h"
 #include "solver/ladder.h"
 
 namespace tavi::cli {
@@ -16,8 +17,16 @@ int RungCommand(int technique, std::istream& in, std::ostream& out, std::ostream
                 bool paint, std::string_view source) {
     int bad = 0, lineNumber = 0;
     std::string line;
-    while (std::getline(in, line)) {
+    for (LineRead read; (read = ReadBoundedLine(in, line)) != LineRead::End;) {
         ++lineNumber;
+        if (read == LineRead::TooLong) {
+            // A board line is under a thousand characters; this one is passed over unread.
+            SkipRestOfLine(in);
+            err << Where(source, lineNumber) << "no board line: longer than " << kLineLimit
+                << " characters\n";
+            ++bad;
+            continue;
+        }
         if (line.find_first_not_of(" \t\r") == std::string::npos || line[0] == '#') continue;
         std::string why;
         const auto board = ParseBoardLine(line, &why);
@@ -55,15 +64,20 @@ int States(std::istream& in, std::ostream& out, std::ostream& err, bool all,
         written = true;
     };
     run.observer.hit = [&](const Rung&) { written = false; };
+    int invalid = 0;
     const int bad = ForEachPuzzle(
         in, err,
         [&](const PuzzleLine& p) {
+            if (ReportClash(p, source, err)) {
+                ++invalid;
+                return;
+            }
             ctx.board = BoardFromPuzzle(p.digits);
             written = false;
             SolveSudoku(ctx, run);
         },
         source);
-    return bad ? kExitBadInput : kExitOk;
+    return bad ? kExitBadInput : invalid ? kExitSomeInvalid : kExitOk;
 }
 
 }  // namespace tavi::cli

@@ -39,6 +39,16 @@ void Game::CommandNew() {
     if (busy_) return;  // a search is running
     ResetHintStage();
     LeaveBoard();
+    // A level whose puzzles all moved out (or whose log lost its puzzle file) has
+    // none to give; a pair that was refused has been named already.
+    const long count = session_.ChosenCount();
+    if (count < 1) {
+        if (count == 0 || !FileExists(session_.ChosenFile()))
+            services_.prompter.Message(
+                "Tavi Sudoku",
+                "The " + std::string(LevelName(position().ChosenLevel)) + " level has no puzzles.");
+        return;
+    }
     session_.NextPuzzle();
     LoadPuzzle(true);
 }

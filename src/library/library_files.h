@@ -26,6 +26,9 @@ namespace tavi {
 // The most records a library file holds: record numbers are 32-bit wherever they
 // are kept. A pair is never grown past it.
 inline constexpr long kMaxRecords = 2147483647;
+// The most records a library holds: a file that would hold more is no library,
+// and is refused before anything is written to or for it.
+inline constexpr long kMaxLibraryRecords = 1000000;
 
 // The program's folder, where the delivered library lies, and the user's data
 // folder, where all game files are read and written.

@@ -1,6 +1,7 @@
 #include "library/library_pair.h"
 
 #include <algorithm>
+#include <fstream>
 #include <system_error>
 
 #include "grid/levels.h"
@@ -17,6 +18,28 @@ void Say(std::string* why, std::string text) {
     if (why) *why = std::move(text);
 }
 
+// Both records at `number`, the end of both files: the log record first, so
+// that the puzzle file's length never counts a record whose log is missing.
+bool AppendBoth(const fs::path& sds, const fs::path& sdl, long number, const SudokuRecord& sudoku,
+                const SudokuLogRecord& log, std::string* why) {
+    std::error_code ec;
+    // A new pair starts with an empty puzzle file, so that a kill after the log
+    // record leaves a pair (taken back on open), never a log on its own.
+    const bool newPair = !FileExists(sds);
+    if (newPair && !std::ofstream(sds, std::ios::binary | std::ios::app)) {
+        Say(why, "Can't write " + sds.string() + ".");
+        return false;
+    }
+    const bool hadLog = FileExists(sdl);
+    const std::uintmax_t logLength = hadLog ? fs::file_size(sdl, ec) : 0;
+    bool ok = WriteSudokuLogRecord(sdl, number, log, why);
+    if (ok && WriteSudokuRecord(sds, number, sudoku, why)) return true;
+    if (ok && hadLog) fs::resize_file(sdl, logLength, ec);
+    if (!hadLog) fs::remove(sdl, ec);
+    if (newPair) fs::remove(sds, ec);
+    return false;
+}
+
 }  // namespace
 
 std::string SourceFileNotFound(std::string_view stem) {
@@ -25,8 +48,10 @@ std::string SourceFileNotFound(std::string_view stem) {
 
 long CheckedPair(const fs::path& dataFolder, std::string_view stem, Notifier* notifier) {
     std::string repaired;
-    const long count = OpenPair(dataFolder, stem, &repaired);
-    if (!repaired.empty() && notifier) notifier->Message(kPairRepairedTitle, repaired);
+    bool refused = false;
+    const long count = OpenPair(dataFolder, stem, &repaired, &refused);
+    if (!repaired.empty() && notifier)
+        notifier->Message(refused ? kFileErrorTitle : kPairRepairedTitle, repaired);
     return count;
 }
 
@@ -35,6 +60,8 @@ bool ReadPair(const fs::path& dataFolder, std::string_view stem, long number, Su
     const fs::path sds = PuzzleFile(dataFolder, stem), sdl = LogFile(dataFolder, stem);
     std::string why;
     if (CheckedPair(dataFolder, stem, notifier) < 0) {
+        // A pair that was refused has been named already.
+        if (FileExists(sds) || FileExists(sdl)) return false;
         why = SourceFileNotFound(stem);
     } else {
         SudokuRecord s;
@@ -74,39 +101,42 @@ bool WritePair(const fs::path& dataFolder, std::string_view stem, long number,
                      " records.");
         return false;
     }
-    // An append: the log record first, so that the puzzle file's length never
-    // counts a record whose log is missing.
-    std::error_code ec;
-    const bool hadLog = FileExists(sdl);
-    const std::uintmax_t logLength = hadLog ? fs::file_size(sdl, ec) : 0;
-    if (!WriteSudokuLogRecord(sdl, number, log, why)) return false;
-    if (WriteSudokuRecord(sds, number, sudoku, why)) return true;
-    if (hadLog)
-        fs::resize_file(sdl, logLength, ec);
-    else
-        fs::remove(sdl, ec);
-    return false;
+    return AppendBoth(sds, sdl, number, sudoku, log, why);
 }
 
 bool AppendToPair(const fs::path& dataFolder, std::string_view stem, const SudokuRecord& sudoku,
-                  const SudokuLogRecord& log, long* number, std::string* why) {
+                  const SudokuLogRecord& log, long* number, std::string* why,
+                  const BeforeAppend& before) {
     std::string repaired;
     long count = OpenPair(dataFolder, stem, &repaired);
+    const fs::path sds = PuzzleFile(dataFolder, stem), sdl = LogFile(dataFolder, stem);
     if (count < 0) {
-        // A new pair starts from nothing; half a pair is the user's to sort out.
-        if (FileExists(PuzzleFile(dataFolder, stem)) || FileExists(LogFile(dataFolder, stem))) {
-            Say(why, "Only one file of " + std::string(stem) + "* is there; nothing was added.");
+        // A new pair starts from nothing; files that could not be opened as a
+        // pair stay as they are.
+        if (FileExists(sds) || FileExists(sdl)) {
+            Say(why, repaired.empty() ? "The files of " + std::string(stem) +
+                                            "* could not be opened; nothing was added."
+                                      : repaired + " Nothing was added.");
             return false;
         }
         count = 0;
     }
-    if (count >= kMaxRecords) {
+    if (count >= kMaxLibraryRecords) {
         Say(why, "The files of " + std::string(stem) + "* hold " + std::to_string(count) +
                      " records, the most they can; nothing was added.");
         return false;
     }
+    if (log.StepCount < 0 || log.StepCount > kLogSteps) {
+        Say(why, "A saved game holds at most " + std::to_string(kLogSteps) + " steps.");
+        return false;
+    }
     const long next = count + 1;
-    if (!WritePair(dataFolder, stem, next, sudoku, log, why)) return false;
+    if (before && !before(next)) {
+        Say(why, "Could not note the move of a record to " + std::string(stem) +
+                     "*; nothing was added.");
+        return false;
+    }
+    if (!AppendBoth(sds, sdl, next, sudoku, log, why)) return false;
     if (why && !repaired.empty()) *why = repaired;
     if (number) *number = next;
     return true;

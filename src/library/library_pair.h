@@ -5,12 +5,13 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <string>
 #include <string_view>
 
 #include "grid/board.h"
-#include "library/library_files.h"
 #include "grid/notifier.h"
+#include "library/library_files.h"
 #include "library/records.h"
 
 namespace tavi {
@@ -38,12 +39,17 @@ bool ReadPair(const std::filesystem::path& dataFolder, std::string_view stem, lo
 bool WritePair(const std::filesystem::path& dataFolder, std::string_view stem, long number,
                const SudokuRecord& sudoku, const SudokuLogRecord& log, std::string* why = nullptr);
 
-// Adds both records at count + 1, after repairing a pair left out of step (then
-// `why` gets what was repaired). Refuses a pair of which one file is missing and
-// a pair that holds kMaxRecords. `number` gets the new record number.
+// Called with the number an append will take, before anything is written; an
+// answer of false stops the append.
+using BeforeAppend = std::function<bool(long number)>;
+
+// Adds both records at count + 1, after repairing a pair left out of step or
+// half there (then `why` gets what was repaired). Refuses a pair that can't be
+// repaired and a pair that holds kMaxLibraryRecords. `number` gets the new
+// record number.
 bool AppendToPair(const std::filesystem::path& dataFolder, std::string_view stem,
                   const SudokuRecord& sudoku, const SudokuLogRecord& log, long* number = nullptr,
-                  std::string* why = nullptr);
+                  std::string* why = nullptr, const BeforeAppend& before = {});
 
 // A maintenance routine for the Outlaw pair: appends the given records to the
 // "Exported_Sudokus.sd" pair and takes record `currentSud` out of the Outlaw pair,

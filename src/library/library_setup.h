@@ -7,8 +7,8 @@
 #include <string>
 #include <string_view>
 
-#include "library/library_files.h"
 #include "grid/notifier.h"
+#include "library/library_files.h"
 
 namespace tavi {
 
@@ -19,19 +19,22 @@ inline constexpr std::string_view kFirstRunText =
 inline constexpr std::string_view kLogfileFailureTitle = "Logfile creation failure";
 inline constexpr std::string_view kCouldNotOpenSource = "Could not open source file ";
 
-// Copies each level's `.sds` file from AppFolder to DataFolder where DataFolder
-// has none. A library the user has changed is never overwritten; a copy that
+// The file in DataFolder that remembers, one stem a line, the levels whose
+// delivered puzzle file was copied once (or that had files of their own).
+inline constexpr std::string_view kDeliveredFileName = "Delivered.txt";
+
+// Copies each level's `.sds` file from AppFolder to DataFolder where the level
+// never had files: a level that was emptied (every puzzle moved out) stays
+// empty, and a library the user has changed is never overwritten. A copy that
 // fails leaves no half file behind.
 void CopyLibraryFiles(const LibraryFolders& folders);
+
+// Whether the level of `stem` had its files once (see kDeliveredFileName).
+bool WasDelivered(const std::filesystem::path& dataFolder, std::string_view stem);
 
 // `count` empty log records as the file `sdl`, through a temporary file: a kill
 // leaves no half file under the name.
 bool MakeEmptyLog(const std::filesystem::path& sdl, long count);
-
-// Makes the `.sdl` file of a pair that has none, one empty record per puzzle. A
-// log file that is there is never touched. `made` says what was made.
-bool EnsureLogFile(const std::filesystem::path& folder, std::string_view stem,
-                   std::string* made = nullptr);
 
 // Makes the `.sdl` files that are missing, one empty log record per puzzle, and
 // brings the ones that are there in step with their puzzle files: an existing

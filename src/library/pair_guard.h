@@ -19,13 +19,18 @@
 
 namespace tavi {
 
-// Finishes what a kill left: a rewrite, a note, torn tails. A log file with fewer
-// records than the puzzle file gets empty ones (nothing is lost), one with more
-// is cut to the puzzle file's count. Answers the number of records the pair
-// holds, or -1 when either file is missing; `message` says what was repaired and
-// how many records were kept, and stays empty when nothing was.
+// Finishes what a kill left: a rewrite, a note, a dead run's moves
+// (move_journal.h), torn tails. A missing log file is made, a short one gets
+// empty records (nothing is lost), one with more is cut to the puzzle file's
+// count; a log file without its puzzle file is moved aside and the level starts
+// empty. Before a repair that changes a file beyond taking back a stopped
+// append, a copy of the file as it was is kept beside it. A pair whose files
+// don't read as their kinds, or a puzzle file of more than kMaxLibraryRecords,
+// is refused and left as it is (`refused` is then set).
+// Answers the number of records the pair holds, or -1 when there is no pair;
+// `message` says what was repaired or refused, and stays empty when nothing was.
 long OpenPair(const std::filesystem::path& folder, std::string_view stem,
-              std::string* message = nullptr);
+              std::string* message = nullptr, bool* refused = nullptr);
 
 // Gives record `number` (1 to count) of the new pair.
 using PairSource =

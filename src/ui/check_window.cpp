@@ -188,6 +188,12 @@ CheckWindow::CheckWindow(std::filesystem::path dataFolder, const TechniqueOrder*
     layout->addLayout(levels);
     layout->addLayout(navigation);
     layout->addLayout(boards, 1);
+    // A record that can't be read is shown empty; this line says which and why.
+    damaged_ = new QLabel(this);
+    damaged_->setObjectName(QStringLiteral("LabelDamaged"));
+    damaged_->setWordWrap(true);
+    damaged_->setStyleSheet(QStringLiteral("color: #b00020;"));
+    layout->addWidget(damaged_);
     layout->addLayout(commands);
     layout->addWidget(picture1_);
     layout->addWidget(hardest_);
@@ -222,6 +228,8 @@ void CheckWindow::Refresh() {
             : QString());
 
     const WorkbenchProgress& p = bench_.progress();
+    damaged_->setText(QString::fromStdString(bench_.Damaged()));
+    damaged_->setVisible(!bench_.Damaged().empty() && !p.Shown);
     picture1_->setVisible(p.Shown);
     label4_->setText(QString::fromStdString(p.Label4));
     label5_->setText(QString::fromStdString(p.Label5));

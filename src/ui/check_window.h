@@ -57,6 +57,7 @@ class CheckWindow : public QDialog {
     ReleaseButton *first_, *previous_, *next_, *last_, *goTo_;
     ReleaseButton *solve_, *checkAll_, *checkSome_, *delete_, *duplicates_, *abort_, *import_;
     QLabel* number_;
+    QLabel* damaged_;  // why the shown record can't be read, when it can't
     TextBoard *board1_, *board2_;
     QFrame* picture1_;
     QLabel *label4_, *label5_, *label6_, *importProgress_, *solvingLevel_;

@@ -1,18 +1,42 @@
 #include "workbench/duplicates.h"
 
-#include <string_view>
-#include <unordered_set>
-
 namespace tavi {
+
+namespace {
+
+std::uint64_t HashOf(const Digits& puzzle) {
+    std::uint64_t h = 1469598103934665603ULL;
+    for (std::uint8_t b : puzzle)
+        h = (h ^ b) * 1099511628211ULL;
+    return h;
+}
+
+}  // namespace
+
+bool PuzzleIndex::Contains(const Digits& puzzle) const {
+    const auto [first, last] = places_.equal_range(HashOf(puzzle));
+    for (auto it = first; it != last; ++it) {
+        const auto earlier = readBack_(it->second);
+        if (earlier && *earlier == puzzle) return true;
+    }
+    return false;
+}
+
+void PuzzleIndex::Add(const Digits& puzzle, std::uint64_t place) {
+    places_.emplace(HashOf(puzzle), place);
+}
+
+bool PuzzleIndex::Insert(const Digits& puzzle, std::uint64_t place) {
+    if (Contains(puzzle)) return false;
+    Add(puzzle, place);
+    return true;
+}
 
 std::vector<bool> DuplicateFlags(std::span<const Digits> puzzles) {
     std::vector<bool> flags(puzzles.size());
-    std::unordered_set<std::string_view> seen;
-    seen.reserve(puzzles.size());
-    for (size_t i = 0; i < puzzles.size(); ++i) {
-        const std::string_view bytes(reinterpret_cast<const char*>(puzzles[i].data()), 81);
-        flags[i] = !seen.insert(bytes).second;
-    }
+    PuzzleIndex index([&](std::uint64_t i) { return std::optional<Digits>(puzzles[i]); });
+    for (std::size_t i = 0; i < puzzles.size(); ++i)
+        flags[i] = !index.Insert(puzzles[i], i);
     return flags;
 }
 

@@ -2,6 +2,8 @@
 
 #include <string_view>
 
+#include "library/text_lines.h"
+
 namespace tavi {
 
 namespace {
@@ -49,35 +51,50 @@ bool ReadCandidates(std::string_view text, Digits& digits) {
     return true;
 }
 
+bool IsBinaryText(std::string_view text) {
+    for (const char ch : text) {
+        const auto u = static_cast<unsigned char>(ch);
+        if ((u < 32 && ch != '\t' && ch != '\r') || u == 127) return true;
+    }
+    return false;
+}
+
 }  // namespace
 
-ForeignPuzzles ReadForeignPuzzles(std::istream& in) {
-    ForeignPuzzles out;
+void ReadForeignPuzzles(std::istream& in, const std::function<bool(const ForeignPuzzle&)>& each,
+                        const std::function<void(const ForeignProblem&)>& problem) {
     Digits grid{};
     int rows = 0, gridLine = 0, number = 0;
     auto unfinishedGrid = [&] {
         if (rows > 0)
-            out.problems.push_back(
-                {gridLine, "a grid of " + std::to_string(rows) + " rows; a grid needs 9"});
+            problem({gridLine, "a grid of " + std::to_string(rows) + " rows; a grid needs 9"});
         rows = 0;
     };
-    for (std::string text; std::getline(in, text);) {
+    std::string text;
+    for (LineRead read; (read = ReadBoundedLine(in, text)) != LineRead::End;) {
         ++number;
-        if (!text.empty() && text.back() == '\r') text.pop_back();
+        if (IsBinaryText(text)) {
+            unfinishedGrid();
+            problem({number, "binary data, not puzzle lines; reading stops"});
+            return;
+        }
+        if (read == LineRead::TooLong) {
+            SkipRestOfLine(in);
+            unfinishedGrid();
+            problem({number, "no puzzle line: longer than " + std::to_string(kLineLimit) +
+                                 " characters, passed over unread"});
+            continue;
+        }
         const size_t first = text.find_first_not_of(" \t");
         if (first == std::string::npos || text[first] == '#') {
             unfinishedGrid();
             continue;
         }
         Digits digits{};
-        if (text.size() >= 729 && ReadCandidates(text, digits)) {
+        if ((text.size() >= 729 && ReadCandidates(text, digits)) ||
+            (text.size() >= 81 && ReadCells(text, digits))) {
             unfinishedGrid();
-            out.puzzles.push_back({number, digits});
-            continue;
-        }
-        if (text.size() >= 81 && ReadCells(text, digits)) {
-            unfinishedGrid();
-            out.puzzles.push_back({number, digits});
+            if (!each({number, digits})) return;
             continue;
         }
         // A row of a grid, or a line of separators between its bands.
@@ -91,18 +108,29 @@ ForeignPuzzles ReadForeignPuzzles(std::istream& in) {
         if (cells.empty()) continue;
         if (bad || cells.size() != 9) {
             unfinishedGrid();
-            out.problems.push_back({number, "no puzzle and no row of nine cells"});
+            problem({number, "no puzzle and no row of nine cells"});
             continue;
         }
         if (rows == 0) gridLine = number;
         for (int i = 0; i < 9; ++i)
             grid[9 * rows + i] = std::uint8_t(CellValue(cells[i]));
         if (++rows == 9) {
-            out.puzzles.push_back({gridLine, grid});
             rows = 0;
+            if (!each({gridLine, grid})) return;
         }
     }
     unfinishedGrid();
+}
+
+ForeignPuzzles ReadForeignPuzzles(std::istream& in) {
+    ForeignPuzzles out;
+    ReadForeignPuzzles(
+        in,
+        [&](const ForeignPuzzle& p) {
+            out.puzzles.push_back(p);
+            return true;
+        },
+        [&](const ForeignProblem& p) { out.problems.push_back(p); });
     return out;
 }
 

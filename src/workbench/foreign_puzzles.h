@@ -6,9 +6,12 @@
 //    '.': a cell with one candidate is taken as a clue;
 //  - nine lines of nine cells each, with '|', '+', '-' and blanks between them as
 //    separators, and lines of separators alone between the bands.
-// Blank lines and lines starting with '#' are skipped.
+// Blank lines and lines starting with '#' are skipped. A line longer than 4,096
+// characters is no puzzle line and is passed over unread; binary data ends the
+// reading.
 #pragma once
 
+#include <functional>
 #include <istream>
 #include <string>
 #include <vector>
@@ -30,6 +33,12 @@ struct ForeignPuzzles {
     std::vector<ForeignProblem> problems;
 };
 
+// Line by line, holding one line at a time: `each` for every puzzle (false stops
+// the reading), `problem` for every line that is no puzzle.
+void ReadForeignPuzzles(std::istream& in, const std::function<bool(const ForeignPuzzle&)>& each,
+                        const std::function<void(const ForeignProblem&)>& problem);
+
+// All of them at once, for small inputs.
 ForeignPuzzles ReadForeignPuzzles(std::istream& in);
 
 }  // namespace tavi

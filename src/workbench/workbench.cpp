@@ -3,8 +3,10 @@
 #include "grid/candidates.h"
 #include "library/library_files.h"
 #include "library/library_pair.h"
+#include "library/move_journal.h"
 #include "library/pair_guard.h"
 #include "library/pair_rewrite.h"
+#include "library/record_checks.h"
 #include "solver/brute_force.h"
 #include "solver/ladder.h"
 #include "solver/solutions.h"
@@ -57,6 +59,13 @@ std::optional<long> Workbench::AskNumber(const std::string& title, const std::st
 }
 
 void Workbench::ReportFileError(const std::string& why) {
+    ++fileErrors_;
+    // A run says its file errors once, in its report, not in a box per record.
+    if (batchRunning_) {
+        if (runErrors_.size() < kNamedRecords) runErrors_.push_back(why);
+        ++runErrorCount_;
+        return;
+    }
     prompter_.Message(kFileErrorTitle, why.empty() ? std::string(kWriteErrorText) : why);
 }
 
@@ -65,9 +74,13 @@ void Workbench::ReportFileError(const std::string& why) {
 void Workbench::Command1(int level) {
     if (batchRunning_ || !IsLevel(level)) return;
     const auto stem = LevelStem(level);
-    std::string repaired;
-    OpenPair(dataFolder_, stem, &repaired);
-    if (!repaired.empty()) prompter_.Message(kFileErrorTitle, repaired);
+    std::string said;
+    bool refused = false;
+    OpenPair(dataFolder_, stem, &said, &refused);
+    if (refused)
+        ReportFileError(said);
+    else if (!said.empty())
+        prompter_.Message(kPairRepairedTitle, said);
     const auto sds = PuzzleFile(dataFolder_, stem);
     const long count = WholeRecords(sds, kSudokuRecordSize);
     if (count < 1) {
@@ -90,11 +103,19 @@ void Workbench::Command1(int level) {
 bool Workbench::OpenSudoku() {
     const auto stem = LevelStem(workLevel_);
     const long n = currentNumber_[workLevel_];
-    // A record that can't be read shows what the fields hold: nothing.
+    // A record that can't be read shows what the fields hold: nothing. It is
+    // never solved, moved or written: `damaged_` says which record and why.
     record_ = SudokuRecord{};
     log_ = SudokuLogRecord{};
-    const bool read = ReadSudokuRecord(PuzzleFile(dataFolder_, stem), n, record_);
-    ReadSudokuLogRecord(LogFile(dataFolder_, stem), n, log_);
+    damaged_.clear();
+    std::string why;
+    bool read = ReadSudokuRecord(PuzzleFile(dataFolder_, stem), n, record_, &why);
+    if (read) read = ReadSudokuLogRecord(LogFile(dataFolder_, stem), n, log_, &why);
+    if (!read) {
+        record_ = SudokuRecord{};
+        log_ = SudokuLogRecord{};
+        damaged_ = why.empty() ? "Record " + std::to_string(n) + " could not be read." : why;
+    }
     Board& b = ctx_.board;
     b = Board{};
     b.Puzzle = record_.Puzzle;
@@ -212,15 +233,24 @@ void Workbench::TakeSolution(bool solved) {
     showSolverBoard_ = false;
 }
 
-bool Workbench::MoveTo(int level) {
+bool Workbench::MoveTo(MoveJournal& journal, int level) {
     long number = 0;
     std::string why;
-    if (!AppendToPair(dataFolder_, LevelStem(level), record_, log_, &number, &why)) {
+    if (!journal.Move(currentNumber_[workLevel_], LevelStem(level), record_, log_, &number, &why)) {
         ReportFileError(why);
         return false;
     }
     currentNumber_[level] = number;
     return true;
+}
+
+bool Workbench::FinishMoves(MoveJournal& journal) {
+    if (journal.Moved().empty()) return true;
+    std::string why;
+    const bool ok = journal.Finish(&why);
+    if (!ok) ReportFileError(why);
+    ShowAfterRewrite();
+    return ok;
 }
 
 bool Workbench::WriteInPlace() {
@@ -238,21 +268,30 @@ bool Workbench::Compact(const std::vector<bool>& drop) {
         dataFolder_, LevelStem(workLevel_),
         [&](long n) { return n > long(drop.size()) || !drop[size_t(n - 1)]; }, &why);
     if (!ok) ReportFileError(why);
+    ShowAfterRewrite();
+    return ok;
+}
+
+void Workbench::ShowAfterRewrite() {
     recordCount_ = WholeRecords(PuzzleFile(dataFolder_, LevelStem(workLevel_)), kSudokuRecordSize);
     if (recordCount_ < 1) {
         DisableAll();
-        return ok;
+        return;
     }
     if (currentNumber_[workLevel_] > recordCount_) currentNumber_[workLevel_] = recordCount_;
     SetNavigation();
     OpenSudoku();
-    return ok;
 }
 
 void Workbench::CommandSolve(bool right, bool inside) {
     if (batchRunning_ || !commands_.Solve) return;
+    if (right && !inside) return;
+    if (!damaged_.empty()) {
+        prompter_.Message(kFileErrorTitle,
+                          damaged_ + " It is not solved, moved or written until it is put right.");
+        return Changed();
+    }
     if (right) {
-        if (!inside) return;
         Board& b = ctx_.board;
         b.Puzzle = record_.Puzzle;
         bool contradiction = false;
@@ -281,10 +320,9 @@ void Workbench::CommandSolve(bool right, bool inside) {
     TakeSolution(solved);
     if (rating == workLevel_) {
         WriteInPlace();
-    } else if (MoveTo(rating)) {
-        std::vector<bool> drop(size_t(recordCount_), false);
-        drop[size_t(currentNumber_[workLevel_] - 1)] = true;
-        Compact(drop);
+    } else {
+        MoveJournal journal(dataFolder_, LevelStem(workLevel_));
+        if (MoveTo(journal, rating)) FinishMoves(journal);
     }
     if (!solved)
         prompter_.Message(kReportTitle,
@@ -319,10 +357,12 @@ void Workbench::CommandAbort() {
 void Workbench::CheckRange(long from, long to, bool brute) {
     if (from < 1 || to < from) return;
     const std::string plural = LevelPlural(workLevel_);
-    std::vector<bool> moved(size_t(recordCount_), false);
     RunCounters count;
     hardest_ = {};
     unreadable_ = 0;
+    std::vector<std::string> unreadable;
+    runErrors_.clear();
+    runErrorCount_ = 0;
     progress_ = WorkbenchProgress{};
     progress_.Shown = true;
     progress_.Label4 = (brute ? "Solving :" : "Checking :") + std::string(" ") + plural;
@@ -331,6 +371,10 @@ void Workbench::CheckRange(long from, long to, bool brute) {
     batchRunning_ = true;
     abortRequested_ = false;
     long total = recordCount_;
+    // Every move of the run is noted, so that a kill can't leave a puzzle in two
+    // libraries; the moved records leave this one at the end, in one rewrite.
+    std::optional<MoveJournal> journal;
+    if (!brute) journal.emplace(dataFolder_, LevelStem(workLevel_));
 
     for (long i = from; i <= to; ++i) {
         progress_.LabelImportProgress =
@@ -341,6 +385,7 @@ void Workbench::CheckRange(long from, long to, bool brute) {
         currentNumber_[workLevel_] = i;
         if (!OpenSudoku()) {
             ++unreadable_;
+            if (unreadable.size() < kNamedRecords) unreadable.push_back(damaged_);
         } else if (brute) {
             Board& b = ctx_.board;
             bool contradiction = false;
@@ -356,9 +401,10 @@ void Workbench::CheckRange(long from, long to, bool brute) {
                 if (rating == workLevel_) {
                     ++count.unchanged;
                     WriteInPlace();
-                } else if (MoveTo(rating)) {
+                } else if (MoveTo(*journal, rating)) {
                     ++(solved ? count.moved : count.outlaw);
-                    moved[size_t(i - 1)] = true;
+                } else {
+                    ++count.unmoved;
                 }
             }
         }
@@ -371,27 +417,54 @@ void Workbench::CheckRange(long from, long to, bool brute) {
     batchRunning_ = false;
     progress_.Shown = false;
     showSolverBoard_ = false;
+    const std::string errors = RunErrorsText();
     if (brute) {
         OpenSudoku();
+        if (unreadable_ > 0 || !errors.empty())
+            prompter_.Message(kFileErrorTitle,
+                              (unreadable_ ? UnreadableText(unreadable, unreadable_) : "") +
+                                  (unreadable_ && !errors.empty() ? "\n" : "") + errors);
         return Changed();
     }
 
     const CheckReport report = ReportFor(count.moved, count.outlaw, count.unchanged, total);
     // Only what left the library goes from it: an aborted run never takes with it
     // records it did not reach, whatever the report's case.
-    bool anyMoved = false;
-    for (bool m : moved)
-        anyMoved = anyMoved || m;
-    if (anyMoved) {
-        Compact(moved);
+    if (!journal->Moved().empty()) {
+        FinishMoves(*journal);
     } else {
+        journal->Finish();
         currentNumber_[workLevel_] = std::min(currentNumber_[workLevel_], recordCount_);
         OpenSudoku();
     }
     std::string text = report.text;
-    if (unreadable_ > 0) text += " " + std::to_string(unreadable_) + " records could not be read.";
+    if (count.unmoved > 0)
+        text += "\n" + std::to_string(count.unmoved) +
+                " sudokus could not be moved to their level and stay where they were.";
+    if (unreadable_ > 0) text += "\n" + UnreadableText(unreadable, unreadable_);
+    if (!errors.empty()) text += "\n" + errors;
     prompter_.Message(report.title, text);
     Changed();
+}
+
+std::string Workbench::RunErrorsText() const {
+    if (runErrorCount_ == 0) return {};
+    std::string text = std::to_string(runErrorCount_) + " file errors:";
+    for (const std::string& each : runErrors_)
+        text += "\n" + each;
+    if (runErrorCount_ > long(runErrors_.size()))
+        text += "\nand " + std::to_string(runErrorCount_ - long(runErrors_.size())) + " more.";
+    return text;
+}
+
+std::string UnreadableText(const std::vector<std::string>& named, long count) {
+    std::string text =
+        std::to_string(count) + " records could not be read and were left as " + "they stand:";
+    for (const std::string& each : named)
+        text += "\n" + each;
+    if (count > long(named.size()))
+        text += "\nand " + std::to_string(count - long(named.size())) + " more.";
+    return text;
 }
 
 // --- Deleting -----------------------------------------------------------------------
@@ -407,39 +480,66 @@ void Workbench::CommandDelete() {
 void Workbench::CommandRemoveDuplicates() {
     if (batchRunning_ || !commands_.RemoveDuplicates) return;
     const auto stem = LevelStem(workLevel_);
-    std::vector<SudokuRecord> records;
-    ReadSudokuFile(PuzzleFile(dataFolder_, stem), records);
+    const auto sds = PuzzleFile(dataFolder_, stem);
+    std::string repaired;
+    const long count = std::max(OpenPair(dataFolder_, stem, &repaired), 0L);
+    if (!repaired.empty()) prompter_.Message(kFileErrorTitle, repaired);
     const std::string plural = LevelPlural(workLevel_);
     progress_ = WorkbenchProgress{};
     progress_.Shown = true;
     progress_.Label6 = "Sudoku Scanning Progress";
     progress_.Label4 = "Scanning for duplicates : " + plural;
-    progress_.Bar1Max = long(records.size());
+    progress_.Bar1Max = count;
     batchRunning_ = true;
     abortRequested_ = false;
 
-    std::vector<Digits> puzzles;
-    for (const auto& r : records)
-        puzzles.push_back(r.Puzzle);
-    const auto flags = DuplicateFlags(puzzles);
-    long duplicates = 0;
-    for (bool f : flags)
-        duplicates += f;
-    progress_.Bar1 = progress_.Bar1Max;
-    Breathe();
+    // Record by record: a damaged record is passed over (it stays, and is no
+    // duplicate of anything), and the ones after it are still compared.
+    std::ifstream in(sds, std::ios::binary), back(sds, std::ios::binary);
+    PuzzleIndex index([&](std::uint64_t n) -> std::optional<Digits> {
+        SudokuRecordBytes bytes;
+        back.seekg(std::streamoff(n - 1) * std::streamoff(kSudokuRecordSize));
+        if (!back.read(reinterpret_cast<char*>(bytes.data()), std::streamsize(bytes.size())))
+            return std::nullopt;
+        return SudokuRecordFromBytes(bytes).Puzzle;
+    });
+    std::vector<bool> flags(size_t(count), false);
+    long duplicates = 0, damaged = 0;
+    SudokuRecordBytes bytes;
+    for (long n = 1; n <= count && !abortRequested_; ++n) {
+        if (!in.read(reinterpret_cast<char*>(bytes.data()), std::streamsize(bytes.size()))) break;
+        const SudokuRecord r = SudokuRecordFromBytes(bytes);
+        if (!CheckSudokuRecord(r).empty()) {
+            ++damaged;
+        } else if (!index.Insert(r.Puzzle, std::uint64_t(n))) {
+            flags[size_t(n - 1)] = true;
+            ++duplicates;
+        }
+        if (n % 1024 == 0 || n == count) {
+            progress_.Bar1 = n;
+            progress_.LabelImportProgress = "Checking Sudoku : " + std::to_string(n) + " of " +
+                                            std::to_string(count) + " from " + plural;
+            Breathe();
+        }
+    }
     const bool aborted = abortRequested_;
     batchRunning_ = false;
     progress_.Shown = false;
     if (aborted) return Changed();
+    const std::string passed = damaged
+                                   ? " " + std::to_string(damaged) +
+                                         " damaged records were passed over and left as they stand."
+                                   : "";
     if (duplicates == 0) {
-        prompter_.Message(kScanTitle, "No duplicate sudokus found.");
+        prompter_.Message(kScanTitle, "No duplicate sudokus found." + passed);
         return Changed();
     }
     progress_.Label5 = "Removing duplicates (if any), and rebuilding file :";
     currentNumber_[workLevel_] = 1;
     const bool ok = Compact(flags);
     if (ok)
-        prompter_.Message(kScanTitle, std::to_string(duplicates) + " duplicate sudokus removed.");
+        prompter_.Message(kScanTitle,
+                          std::to_string(duplicates) + " duplicate sudokus removed." + passed);
     Changed();
 }
 

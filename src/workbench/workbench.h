@@ -22,6 +22,8 @@
 
 namespace tavi {
 
+class MoveJournal;
+
 // Which commands answer.
 struct WorkbenchCommands {
     bool Solve = false, CheckAll = false, CheckSome = false, Delete = false;
@@ -90,10 +92,16 @@ class Workbench {
     // not be read.
     const HardestCounts& Hardest() const { return hardest_; }
     long Unreadable() const { return unreadable_; }
+    // The shown record when it could not be read ("Record 5 of Sudoku_Easy.sds is
+    // damaged: ..."), else empty. Such a record is never solved, moved or written.
+    const std::string& Damaged() const { return damaged_; }
+    // The file errors reported since the workbench was made.
+    long FileErrors() const { return fileErrors_; }
 
   private:
     struct RunCounters {
         long moved = 0, outlaw = 0, unchanged = 0;
+        long unmoved = 0;  // rated for another level, but the move failed
     };
 
     bool OpenSudoku();
@@ -108,14 +116,21 @@ class Workbench {
     // The solution a record keeps: the board's when solved, else the one puzzle's
     // own solution when it has exactly one (the record's as it stood otherwise).
     void TakeSolution(bool solved);
-    // Appends the open record to the library of `level`.
-    bool MoveTo(int level);
+    // Appends the open record to the library of `level`, through the run's journal.
+    bool MoveTo(MoveJournal& journal, int level);
+    // Takes the journal's moved records out of the open library.
+    bool FinishMoves(MoveJournal& journal);
+    // After the open library was rewritten: the count, and a record that still
+    // exists, or the commands disabled when none is left.
+    void ShowAfterRewrite();
     // Rewrites the open library without the records `drop` names; then shows a
     // record that still exists, or disables the commands when none is left.
     bool Compact(const std::vector<bool>& drop);
     bool WriteInPlace();
     void CheckRange(long from, long to, bool brute);
+    // A box at once, or during a run a line of its report (RunErrorsText).
     void ReportFileError(const std::string& why);
+    std::string RunErrorsText() const;
 
     Prompter& prompter_;
     std::filesystem::path dataFolder_;
@@ -136,7 +151,18 @@ class Workbench {
     bool abortRequested_ = false;
     HardestCounts hardest_{};
     long unreadable_ = 0;
+    std::string damaged_;
+    long fileErrors_ = 0;
+    std::vector<std::string> runErrors_;  // the first of a run's file errors
+    long runErrorCount_ = 0;
 };
+
+// How many damaged records a report names; the rest are counted.
+inline constexpr std::size_t kNamedRecords = 10;
+
+// "3 records could not be read and were left as they stand:" and the first of
+// them by file, number and why, one a line, then "and N more."
+std::string UnreadableText(const std::vector<std::string>& named, long count);
 
 // "Easy sudokus" and its like.
 std::string LevelPlural(int level);

@@ -47,9 +47,13 @@ TEST(CliHint, NoHintOnAFullBoardOrClashingGivens) {
     std::istringstream in(FormatDigits(p.solution) + "\n" +
                           FormatDigits(testing::WithClash(p.puzzle)) + "\n");
     std::ostringstream out, err;
-    Hint(in, out, err, true);
-    for (const auto& line : Lines(out.str()))
-        EXPECT_EQ(Fields(line).at(1), "No logical hints, you'll have to guess more than once...");
+    // Clashing givens are an invalid puzzle, said as every command says it.
+    EXPECT_EQ(Hint(in, out, err, true), 1);
+    const auto lines = Lines(out.str());
+    ASSERT_EQ(lines.size(), 2u);
+    EXPECT_EQ(Fields(lines[0]).at(1), "No logical hints, you'll have to guess more than once...");
+    EXPECT_EQ(Fields(lines[1]).at(1), "invalid");
+    EXPECT_NE(err.str().find("line 2: invalid puzzle"), std::string::npos) << err.str();
 }
 
 // Each explained step carries the sentence its rung gives under HintOnly, and the

@@ -93,7 +93,7 @@ TEST(CliSolve, SaysUniqueNoneOrMultiple) {
         {Text(clueLess), Text(clueLess) + "\tmultiple\t-"},
         {Text(DeadCell()), Text(DeadCell()) + "\tnone\t-"},
         {Text(Digits{}), Text(Digits{}) + "\tmultiple\t-"},
-        {Text(clash), Text(clash) + "\tnone\t-"},
+        {Text(clash), Text(clash) + "\tinvalid\t-"},
     };
     std::string input, expected;
     for (const Case& k : cases) {
@@ -101,9 +101,11 @@ TEST(CliSolve, SaysUniqueNoneOrMultiple) {
         expected += k.expected + "\n";
     }
     const Output o = RunSolve(input);
-    EXPECT_EQ(o.status, 0);
+    EXPECT_EQ(o.status, 1);  // the clashing givens
     EXPECT_EQ(o.out, expected);
-    EXPECT_EQ(o.err, "");
+    EXPECT_EQ(o.err,
+              "standard input, line 6: invalid puzzle: two givens in one row, column or "
+              "box hold the same digit\n");
 
     // More lines than one block holds, over two threads: the same answers in the
     // same order.
@@ -115,7 +117,7 @@ TEST(CliSolve, SaysUniqueNoneOrMultiple) {
     const Output threaded = RunCommand(
         [](auto& in, auto& out, auto& err) { return Solve(in, out, err, "standard input", 2); },
         many);
-    EXPECT_EQ(threaded.status, 0);
+    EXPECT_EQ(threaded.status, 1);
     EXPECT_TRUE(threaded.out == manyExpected);
 }
 
@@ -140,6 +142,35 @@ TEST(CliInput, BadLinesAreReportedAndTheRestIsProcessed) {
             puzzles += line.starts_with(good + "\t") || line.starts_with("result\t");
         EXPECT_EQ(puzzles, 2) << o.out;
     }
+}
+
+// Input of any shape takes bounded memory and gives a bounded report: a line
+// longer than 4,096 characters is passed over unread, noise without an end stops
+// at once, and of many bad lines the first 20 are named and the rest counted.
+TEST(CliInput, LongLinesAndManyBadOnesAreBounded) {
+    const std::string good = Text(FiveHoles());
+    std::string input = std::string(200000, '1') + "\n" + good + "\n";
+    for (int i = 0; i < 30; ++i)
+        input += "bad " + std::to_string(i) + "\n";
+    input += good + std::string(5000, ' ') + "\n";
+    for (auto command : {RunRate, RunSolve, RunSteps}) {
+        const Output o = command(input);
+        EXPECT_EQ(o.status, 2);
+        const auto errors = Lines(o.err);
+        ASSERT_EQ(errors.size(), 21u) << o.err;
+        EXPECT_NE(errors[0].find("line 1: no puzzle line: longer than 4096 characters"),
+                  std::string::npos)
+            << errors[0];
+        EXPECT_EQ(errors[20], "standard input: and 12 more lines that are no puzzle");
+        int puzzles = 0;
+        for (const auto& line : Lines(o.out))
+            puzzles += line.starts_with(good + "\t") || line.starts_with("result\t");
+        EXPECT_EQ(puzzles, 1) << o.out;
+    }
+    // Zero bytes without a line end: binary, reading stops at the first line.
+    const Output zeros = RunRate(std::string(1 << 20, '\0'));
+    EXPECT_EQ(zeros.status, 2);
+    EXPECT_EQ(zeros.err, "standard input, line 1: binary data, not puzzle lines; reading stops\n");
 }
 
 TEST(CliSteps, OneLinePerHitThenTheResult) {
@@ -278,6 +309,8 @@ TEST(CliProgram, ExitStatusTellsWhetherEveryLineWasAPuzzle) {
         {"library export " + d, d + ": is a folder"},
         {"library export " + d + "/none.sds", "none.sds: not found"},
         {"library import " + d + " --level 1 --dir " + d, d + ": is a folder"},
+        {"library import --dir " + d + " " + d, d + ": is a folder"},
+        {"library check --level 1 " + d + "/none", d + "/none is no folder"},
         {"rate " + junk.string(), junk.string() + ", line 2: binary data"},
         {"solve < " + junk.string(), "standard input, line 2: binary data"},
     };

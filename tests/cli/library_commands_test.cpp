@@ -6,6 +6,7 @@
 
 #include "grid/levels.h"
 #include "library/library_files.h"
+#include "library/library_pair.h"
 #include "library/library_test_support.h"
 #include "solver/generator.h"
 #include "solver/solutions.h"
@@ -85,7 +86,9 @@ TEST(CliLibrary, BuildWritesNineRatedFilesAndReportsTheCounts) {
             EXPECT_EQ(s.count, 1);
             EXPECT_EQ(r, (SudokuRecord{r.Puzzle, s.first, 0, 0}));
         }
-        EXPECT_FALSE(fs::exists(LogFile(dir.path(), LevelStem(level))));
+        // With its log of empty records: the folder checks and plays at once.
+        EXPECT_EQ(fs::file_size(LogFile(dir.path(), LevelStem(level))),
+                  records.size() * kSudokuLogRecordSize);
     }
     // Easy puzzles come often enough to fill their two places at once.
     EXPECT_EQ(lines[0], "Easy\t2");
@@ -119,12 +122,16 @@ TEST(CliLibrary, ImportAppendsWithSolutionsAndSkipsBadLinesByNumber) {
                                                   {puzzles[1].puzzle, puzzles[1].solution, 0, 0}}));
     EXPECT_EQ(WholeRecords(LogFile(dir.path(), LevelStem(4)), kSudokuLogRecordSize), 2);
 
-    // A second import goes after the first; a level without its log gets one.
+    // A second import, options in another order, refuses what the level holds;
+    // a level without its log gets one, and new puzzles go after the others.
     fs::remove(LogFile(dir.path(), LevelStem(4)));
+    std::ofstream(text, std::ios::app) << FormatDigits(puzzles[2].puzzle) << "\n";  // 7
     o = RunCommand(LibraryCommand,
-                   {"library", "import", text.string(), "--level", "4", "--dir", d});
-    EXPECT_EQ(o.out, "added 2 puzzles to Sudoku_Crazy.sds as records 3 to 4\n");
-    EXPECT_EQ(WholeRecords(LogFile(dir.path(), LevelStem(4)), kSudokuLogRecordSize), 4);
+                   {"library", "import", "--dir", d, text.string(), "--level", "4"});
+    EXPECT_EQ(o.out, "added 1 puzzles to Sudoku_Crazy.sds as records 3 to 3\n");
+    for (const char* said : {"line 1: already in the level", "line 6: already in the level"})
+        EXPECT_NE(o.err.find(said), std::string::npos) << o.err;
+    EXPECT_EQ(WholeRecords(LogFile(dir.path(), LevelStem(4)), kSudokuLogRecordSize), 3);
 
     EXPECT_EQ(RunCommand(LibraryCommand,
                          {"library", "import", text.string(), "--level", "10", "--dir", d})
@@ -182,6 +189,67 @@ TEST(CliLibrary, ImportWithoutALevelRatesAndFilesEachPuzzle) {
     EXPECT_NE(out.str().find("2 sudokus imported: "), std::string::npos) << out.str();
     EXPECT_NE(out.str().find("1 already in the library, 1 malformed (line 2)."), std::string::npos)
         << out.str();
+}
+
+// A folder made by build checks without a file error, options in any order; a
+// damaged record or a library refused makes the check answer 2, and the
+// damaged record stays as it stands.
+TEST(CliLibrary, CheckAnswersTwoWhenItCouldNotDoAllItsWork) {
+    TempDir dir;
+    const std::string d = dir.path().string();
+    Output o = RunCommand(LibraryCommand, {"library", "build", "--per-level", "3", "--out", d,
+                                           "--minutes", "0.02", "--threads", "1"});
+    ASSERT_EQ(o.status, 0) << o.err;
+    o = RunCommand(LibraryCommand, {"library", "check", "--level", "1", d});
+    EXPECT_EQ(o.status, 0) << o.err;
+    EXPECT_EQ(o.out.find("File Error"), std::string::npos) << o.out;
+
+    const fs::path easy = PuzzleFile(dir.path(), LevelStem(1));
+    SudokuRecord bad = tavi::testing::RecordOf(2);
+    bad.Solution[5] = bad.Solution[6];
+    ASSERT_TRUE(WriteSudokuRecord(easy, 2, bad));
+    const auto before = tavi::testing::FileBytes(easy);
+    o = RunCommand(LibraryCommand, {"library", "check", d, "--level", "1"});
+    EXPECT_EQ(o.status, 2);
+    EXPECT_NE(o.out.find("Record 2 of Sudoku_Easy.sds is damaged"), std::string::npos) << o.out;
+    EXPECT_EQ(tavi::testing::FileBytes(easy), before);
+
+    // Swapped files are refused and left as they are.
+    fs::rename(easy, dir / "x");
+    fs::rename(LogFile(dir.path(), LevelStem(1)), easy);
+    fs::rename(dir / "x", LogFile(dir.path(), LevelStem(1)));
+    o = RunCommand(LibraryCommand, {"library", "check", d});
+    EXPECT_EQ(o.status, 2);
+    EXPECT_NE(o.out.find("do not read as a puzzle file"), std::string::npos) << o.out;
+}
+
+// Nothing is read whole: an export of a sparse file far beyond any library is
+// refused at once, and a foreign file of junk lines gets a report of bounded
+// length.
+TEST(CliLibrary, OversizedInputsAreRefusedOrReportedInBrief) {
+    TempDir dir;
+    const fs::path sds = dir / "huge.sds";
+    std::ofstream(sds).close();
+    fs::resize_file(sds, std::uintmax_t(50) << 30);  // 50 GB, sparse
+    Output o = RunCommand(LibraryCommand, {"library", "export", sds.string()});
+    EXPECT_EQ(o.status, 2);
+    EXPECT_NE(o.err.find("is no library"), std::string::npos) << o.err;
+    fs::remove(sds);
+
+    const fs::path junk = dir / "junk.txt";
+    {
+        std::ofstream out(junk);
+        for (int i = 0; i < 5000; ++i)
+            out << "junk line " << i << "\n";
+        out << std::string(100000, '7') << "\n";  // one line far too long
+    }
+    o = RunCommand(LibraryCommand,
+                   {"library", "import", "--dir", dir.path().string(), junk.string()});
+    EXPECT_EQ(o.status, 2);
+    EXPECT_LT(o.out.size() + o.err.size(), 4000u);
+    EXPECT_NE(o.out.find("5001 malformed (lines 1, 2, 3"), std::string::npos) << o.out;
+    EXPECT_NE(o.out.find("and 4981 more)"), std::string::npos) << o.out;
+    EXPECT_NE(o.err.find("and 4981 more lines like these"), std::string::npos) << o.err;
 }
 
 }  // namespace

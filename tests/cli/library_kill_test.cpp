@@ -8,17 +8,21 @@
 #include <unistd.h>
 
 #include <functional>
+#include <map>
 #include <random>
 #include <sstream>
 
 #include "cli/library_commands.h"
 #include "game/library_position.h"
+#include "grid/candidates.h"
 #include "grid/levels.h"
 #include "library/library_pair.h"
 #include "library/library_test_support.h"
+#include "library/move_journal.h"
 #include "library/pair_guard.h"
 #include "library/pair_rewrite.h"
 #include "library/record_journal.h"
+#include "solver/ladder.h"
 
 namespace tavi {
 namespace {
@@ -45,8 +49,11 @@ std::vector<char> BytesOf(const std::vector<Record>& records) {
 bool LeftSomething(const fs::path& folder, std::string_view stem) {
     const fs::path sds = PuzzleFile(folder, stem), sdl = LogFile(folder, stem);
     std::error_code ec;
-    if (fs::exists(NoteFile(sds), ec) || fs::exists(folder / (std::string(stem) + "c"), ec))
+    if (fs::exists(NoteFile(sds), ec) || fs::exists(folder / (std::string(stem) + "c"), ec) ||
+        fs::exists(MoveJournalFile(folder, stem), ec))
         return true;
+    for (int level = 1; level <= kLevelCount; ++level)
+        if (fs::exists(MoveJournalFile(folder, LevelStem(level)), ec)) return true;
     const auto a = fs::file_size(sds, ec), b = ec ? 0 : fs::file_size(sdl, ec);
     return !ec && (a % kSudokuRecordSize || b != a / kSudokuRecordSize * kSudokuLogRecordSize);
 }
@@ -57,11 +64,11 @@ bool LeftSomething(const fs::path& folder, std::string_view stem) {
 // depends on the machine's load, so it is reported, not asked for.
 void KillRuns(const std::function<void()>& reset, const std::function<void()>& writer,
               const std::function<void()>& check, const fs::path& folder, std::string_view stem,
-              int longestPauseMicros) {
+              int longestPauseMicros, int kills = kKills) {
     std::mt19937 rng(7);
     int interrupted = 0;
     RecordOf(0);  // the puzzles are made once, before the children share them
-    for (int k = 0; k < kKills && !::testing::Test::HasFatalFailure(); ++k) {
+    for (int k = 0; k < kills && !::testing::Test::HasFatalFailure(); ++k) {
         reset();
         int started[2];
         if (pipe(started) != 0) {
@@ -132,6 +139,9 @@ TEST(KillTest, ImportLeavesThePuzzlesBeforeTheKillWhole) {
     };
     const auto check = [&] {
         const long count = OpenPair(dir.path(), kStem);
+        // A kill in the first add to the level leaves a pair to take back, never
+        // a log on its own to be moved aside.
+        ASSERT_FALSE(fs::exists(dir / "Sudoku_Hard.sdl.without-puzzles"));
         if (count < 0) return;  // killed before the first record
         std::vector<SudokuRecord> sds;
         for (long j = 0; j < count; ++j)
@@ -244,6 +254,69 @@ TEST(KillTest, ExportLosesNoOutlawRecord) {
         ASSERT_EQ(FileBytes(PuzzleFile(dir.path(), kExportedStem)), BytesOf(moved));
     };
     KillRuns(reset, writer, check, dir.path(), outlaw, 6000);
+}
+
+// Check All over a folder, killed at any instant: after the next open of the
+// libraries every puzzle stands exactly once, with its own log, and a run to the
+// end then puts each at the level of its rating, still once.
+TEST(KillTest, CheckLeavesEveryPuzzleExactlyOnce) {
+    TempDir dir(testing::FastScratch());
+    constexpr int kPuzzles = 48;
+    const auto& puzzles = testing::GeneratedPuzzles(kPuzzles);
+    std::map<std::string, int> which;  // puzzle bytes -> its index
+    std::vector<int> rating(kPuzzles);
+    for (int i = 0; i < kPuzzles; ++i) {
+        which[std::string(puzzles[i].puzzle.begin(), puzzles[i].puzzle.end())] = i;
+        SolveContext ctx(Side::Workbench);
+        ctx.board = BoardFromPuzzle(puzzles[i].puzzle);
+        rating[i] = SolveSudoku(ctx, WorkbenchRun{}) ? ctx.SolvingLevel : kOutlaw;
+    }
+    // Most puzzles start in Hard, some in Easy and in Outlaw; log i says which
+    // puzzle it belongs to.
+    const auto startLevel = [](int i) { return i % 9 == 0 ? 1 : i % 9 == 1 ? kOutlaw : 3; };
+    // Every third kill is left for the next run to find: it finishes the dead
+    // run's moves itself, and may be killed while it does.
+    int kills = 0;
+    bool leftOver = false;
+    const auto reset = [&] {
+        if (leftOver) return;
+        for (const auto& entry : fs::directory_iterator(dir.path()))
+            fs::remove(entry.path());
+        for (int i = 0; i < kPuzzles; ++i)
+            ASSERT_TRUE(AppendToPair(dir.path(), LevelStem(startLevel(i)),
+                                     {puzzles[i].puzzle, {}, 0, 0}, BusyLog(i)));
+    };
+    const auto writer = [&] {
+        std::ostringstream out, err;
+        cli::LibraryCheckCommand(dir.path(), 0, out, err);
+    };
+    // Every puzzle once, with its log; with `settled`, at the level of its rating.
+    const auto count = [&](bool settled) {
+        std::vector<int> seen(kPuzzles, 0);
+        for (int level = 1; level <= kLevelCount; ++level) {
+            const long n = OpenPair(dir.path(), LevelStem(level));
+            for (long k = 1; k <= n; ++k) {
+                const auto [s, l] = testing::PairAt(dir.path(), LevelStem(level), k);
+                const auto found = which.find(std::string(s.Puzzle.begin(), s.Puzzle.end()));
+                ASSERT_NE(found, which.end()) << "a puzzle from nowhere";
+                const int i = found->second;
+                ++seen[i];
+                ASSERT_EQ(l, BusyLog(i)) << "the log went its own way";
+                if (settled) ASSERT_EQ(level, rating[i]) << i;
+            }
+        }
+        for (int i = 0; i < kPuzzles; ++i)
+            ASSERT_EQ(seen[i], 1) << "puzzle " << i << (settled ? " after the next run" : "");
+    };
+    const auto check = [&] {
+        leftOver = ++kills % 3 == 1;
+        if (leftOver) return;
+        count(false);
+        if (::testing::Test::HasFatalFailure() || kills % 6 != 0) return;
+        writer();
+        count(true);
+    };
+    KillRuns(reset, writer, check, dir.path(), LevelStem(3), 30000, 150);
 }
 
 }  // namespace

@@ -121,11 +121,13 @@ TEST_F(Make, AHardPuzzleClickedInEndsAsTheLastRecordOfTheHardPairAfterAFailedWri
     EXPECT_EQ(g.CurrentStep(), clues);
     EXPECT_FALSE(g.commands().Undo);  // no Undo while making
 
-    // Without its log file the Hard pair takes nothing: both files stay as they
-    // were, it is said, and the clues stay on the board for another try.
+    // With a folder where its log file should be, the Hard pair takes nothing:
+    // both files stay as they were, it is said, and the clues stay on the board
+    // for another try.
     const long count = Records(3);
     const auto log = LogFile(folders.DataFolder, LevelStem(3));
     std::filesystem::rename(log, root / "aside");
+    std::filesystem::create_directory(log);
     g.CommandMake();
     ASSERT_EQ(prompter.shown.size(), 2u);
     EXPECT_EQ(prompter.shown[1].title, "File Error");
@@ -133,6 +135,7 @@ TEST_F(Make, AHardPuzzleClickedInEndsAsTheLastRecordOfTheHardPairAfterAFailedWri
     EXPECT_TRUE(g.MakeMode);
     EXPECT_EQ(g.board().CurrentGrid, puzzle);
 
+    std::filesystem::remove(log);
     std::filesystem::rename(root / "aside", log);
     prompter.shown.clear();
     g.CommandMake();

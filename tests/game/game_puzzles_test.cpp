@@ -72,14 +72,16 @@ TEST_F(Puzzles, OpenOfALevelWithOneOrNoPuzzle) {
     EXPECT_EQ(g.position().OpenLevel, 6);
 }
 
-TEST_F(Puzzles, AVanishedLibraryFileGivesAFileErrorAndLeavesTheGameAsItWas) {
+TEST_F(Puzzles, AVanishedPuzzleFileEmptiesTheLevelAndLeavesTheGameAsItWas) {
     Game& g = Playing(3);
     const Digits grid = g.board().CurrentGrid;
     const CommandStates commands = g.commands();
     std::filesystem::remove(PuzzleFile(folders.DataFolder, LevelStem(3)));
     prompter.shown.clear();
     g.CommandNew();
-    EXPECT_EQ(prompter.Last(), TitleText("File Error", "Source file: Sudoku_Hard.sd* not found!"));
+    // The log that lost its puzzles is kept aside, and the level has none.
+    EXPECT_TRUE(std::filesystem::exists(folders.DataFolder / "Sudoku_Hard.sdl.without-puzzles"));
+    EXPECT_EQ(prompter.Last(), TitleText("Tavi Sudoku", "The Hard level has no puzzles."));
     EXPECT_TRUE(g.GridEnabled());
     EXPECT_EQ(g.board().CurrentGrid, grid);
     EXPECT_EQ(g.position().OpenRecord, 1);

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <random>
+
 #include "grid/candidates.h"
 #include "grid/levels.h"
 #include "library/library_test_support.h"
@@ -18,15 +20,14 @@ using testing::BusyLog, testing::FileBytes, testing::MakeLevelFiles, testing::Pa
 
 constexpr std::string_view kStem = "Sudoku_Medium.sd";
 
-TEST(ReadPair, AMissingLogOrARecordBeyondTheEndIsSaidAndNothingRead) {
+TEST(ReadPair, AMissingPairOrARecordBeyondTheEndIsSaidAndNothingRead) {
     TempDir dir;
-    MakeLevelFiles(dir.path(), kStem, 2, /*withLog=*/false);
     SudokuRecord r = RecordOf(3);
     SudokuLogRecord l = BusyLog(1);
     RecordingNotifier notifier;
     EXPECT_FALSE(ReadPair(dir.path(), kStem, 1, r, l, &notifier));
     EXPECT_EQ(notifier.messages.back().second, "Source file: Sudoku_Medium.sd* not found!");
-    MakeLevelFiles(dir.path(), kStem, 2);  // now with its log
+    MakeLevelFiles(dir.path(), kStem, 2);
     notifier.messages.clear();
     EXPECT_FALSE(ReadPair(dir.path(), kStem, 3, r, l, &notifier));
     ASSERT_EQ(notifier.messages.size(), 1u);
@@ -50,21 +51,20 @@ TEST(WritePair, WhenTheLogCantFollowThePuzzleRecordIsPutBack) {
     EXPECT_EQ(FileBytes(sds), before);
 }
 
-TEST(AppendToPair, RefusesHalfAPairAndRepairsOneOutOfStep) {
+TEST(AppendToPair, RepairsHalfAPairAndOneOutOfStep) {
     TempDir dir;
     MakeLevelFiles(dir.path(), kStem, 4, /*withLog=*/false);
-    const auto before = FileBytes(PuzzleFile(dir.path(), kStem));
     std::string why;
-    EXPECT_FALSE(AppendToPair(dir.path(), kStem, RecordOf(5), {}, nullptr, &why));
-    EXPECT_NE(why.find("Only one file"), std::string::npos) << why;
-    EXPECT_EQ(FileBytes(PuzzleFile(dir.path(), kStem)), before);
-    EXPECT_FALSE(fs::exists(LogFile(dir.path(), kStem)));
+    long number = 0;
+    ASSERT_TRUE(AppendToPair(dir.path(), kStem, RecordOf(4), {}, &number, &why)) << why;
+    EXPECT_EQ(number, 5);
+    EXPECT_NE(why.find("was made with 4 empty records"), std::string::npos) << why;
+    fs::resize_file(PuzzleFile(dir.path(), kStem), 4 * kSudokuRecordSize);
 
     // A log two records too long and a torn puzzle tail: cut to the 4 whole
     // puzzles, and the append goes on as record 5.
     WriteBytes(LogFile(dir.path(), kStem), std::vector<char>(6 * kSudokuLogRecordSize, 0));
     std::ofstream(PuzzleFile(dir.path(), kStem), std::ios::app) << "torn";
-    long number = 0;
     ASSERT_TRUE(AppendToPair(dir.path(), kStem, RecordOf(5), BusyLog(5), &number, &why)) << why;
     EXPECT_EQ(number, 5);
     EXPECT_NE(why.find("4 records were kept"), std::string::npos) << why;
@@ -170,6 +170,17 @@ TEST(OpenPair, EveryStateAKillCanLeaveOpensAsTheOldPairOrTheNew) {
         ASSERT_EQ(FileBytes(sdl), oldSdl);
     }
 
+    // The first add to a new level, stopped after its log record: the pair is
+    // taken back to no records, and no log is left on its own.
+    {
+        TempDir fresh;
+        ASSERT_TRUE(AppendToPair(fresh.path(), stem, RecordOf(1), BusyLog(1)));
+        fs::resize_file(PuzzleFile(fresh.path(), stem), 0);
+        EXPECT_EQ(OpenPair(fresh.path(), stem), 0);
+        EXPECT_EQ(fs::file_size(LogFile(fresh.path(), stem)), 0u);
+        EXPECT_EQ(std::distance(fs::directory_iterator(fresh.path()), fs::directory_iterator()), 2);
+    }
+
     // A rewrite to one record (the first), stopped at each step.
     const std::vector<char> newSds(oldSds.begin(), oldSds.begin() + kSudokuRecordSize);
     const std::vector<char> newSdl(oldSdl.begin(), oldSdl.begin() + kSudokuLogRecordSize);
@@ -205,6 +216,100 @@ TEST(OpenPair, EveryStateAKillCanLeaveOpensAsTheOldPairOrTheNew) {
     ASSERT_TRUE(ReadSudokuLogRecord(sdl, 1, read));
     EXPECT_EQ(read, BusyLog(2));
     EXPECT_FALSE(fs::exists(NoteFile(sdl)));
+}
+
+// Pairs of every shape a kill, a mistake or a foreign tool can leave: sound
+// records cut or stretched, a file missing, the two files swapped, noise. After
+// the open, a pair is in step or was refused untouched, and no byte the user had
+// is gone: a file is as it was, or it lost only the torn end of an append, or a
+// copy of it as it was lies beside it.
+TEST(OpenPair, RepairsNeverLoseAByteAndNeverMakeRecordsOfTheWrongKind) {
+    TempDir dir(testing::FastScratch());
+    const std::string_view stem = "Sudoku_Hard.sd";
+    const fs::path sds = PuzzleFile(dir.path(), stem), sdl = LogFile(dir.path(), stem);
+    std::mt19937 rng(26);
+    const auto records = [&](auto make, int count, std::size_t size) {
+        std::vector<char> bytes;
+        for (int i = 0; i < count; ++i) {
+            const auto r = ToBytes(make(i));
+            bytes.insert(bytes.end(), r.begin(), r.end());
+        }
+        bytes.resize(std::min(bytes.size(), bytes.size() - rng() % size));  // a torn end
+        return bytes;
+    };
+    for (int i = 0; i < 300; ++i) {
+        for (const auto& entry : fs::directory_iterator(dir.path()))
+            fs::remove(entry.path());
+        const int puzzles = int(rng() % 6), logs = int(rng() % 8);
+        auto a = records([](int k) { return RecordOf(k); }, puzzles, i % 3 ? 1 : 200);
+        auto b = records([](int k) { return BusyLog(k); }, logs, i % 4 ? 1 : 1500);
+        const int shape = int(rng() % 6);
+        if (shape == 0) std::swap(a, b);
+        if (shape == 1)
+            for (auto& x : a)
+                x = char(rng());
+        if (shape != 2) WriteBytes(sds, a);
+        if (shape != 3) WriteBytes(sdl, b);
+        const bool hadSds = shape != 2, hadSdl = shape != 3;
+
+        bool refused = false;
+        std::string said;
+        const long count = OpenPair(dir.path(), stem, &said, &refused);
+        // Every byte is still somewhere: in the file, or in a copy beside it.
+        std::vector<std::vector<char>> copies;
+        for (const auto& entry : fs::directory_iterator(dir.path()))
+            if (entry.path() != sds && entry.path() != sdl)
+                copies.push_back(FileBytes(entry.path()));
+        const auto kept = [&](const std::vector<char>& before, const fs::path& file,
+                              std::size_t tornEnd) {
+            const auto now = FileBytes(file);
+            if (now == before) return true;
+            for (const auto& c : copies)
+                if (c == before) return true;
+            // Only the end of an append that was stopped: less than one record.
+            return now.size() <= before.size() && before.size() - now.size() <= tornEnd &&
+                   std::equal(now.begin(), now.end(), before.begin());
+        };
+        if (hadSds) ASSERT_TRUE(kept(a, sds, kSudokuRecordSize)) << i << " " << said;
+        if (hadSdl) ASSERT_TRUE(kept(b, sdl, 2 * kSudokuLogRecordSize)) << i << " " << said;
+        if (refused) {
+            ASSERT_EQ(count, -1);
+            if (hadSds) ASSERT_EQ(FileBytes(sds), a) << "a refused pair is left as it is";
+            if (hadSdl) ASSERT_EQ(FileBytes(sdl), b);
+            continue;
+        }
+        if (count < 0) continue;
+        ASSERT_EQ(fs::file_size(sdl), std::uintmax_t(count) * kSudokuLogRecordSize) << i;
+        ASSERT_EQ(fs::file_size(sds), std::uintmax_t(count) * kSudokuRecordSize) << i;
+        // A swapped pair never becomes library records.
+        if (shape == 0 && count > 0) ADD_FAILURE() << i << ": the swapped pair opened: " << said;
+    }
+}
+
+// A log file without its puzzle file is moved aside and the level starts empty;
+// a puzzle file far beyond any library is refused before anything is written.
+TEST(OpenPair, ALoneLogGoesAsideAndAnOversizedPuzzleFileIsRefused) {
+    TempDir dir;
+    const std::string_view stem = "Sudoku_Hard.sd";
+    const fs::path sds = PuzzleFile(dir.path(), stem), sdl = LogFile(dir.path(), stem);
+    WriteBytes(sdl, std::vector<char>(2 * kSudokuLogRecordSize, 0));
+    std::string said;
+    EXPECT_EQ(OpenPair(dir.path(), stem, &said), -1);
+    EXPECT_FALSE(fs::exists(sdl));
+    EXPECT_EQ(FileBytes(dir / "Sudoku_Hard.sdl.without-puzzles").size(), 2 * kSudokuLogRecordSize);
+    EXPECT_NE(said.find("kept as Sudoku_Hard.sdl.without-puzzles"), std::string::npos) << said;
+    ASSERT_TRUE(AppendToPair(dir.path(), stem, RecordOf(1), {}));  // the level starts afresh
+    EXPECT_EQ(OpenPair(dir.path(), stem), 1);
+
+    // A sparse puzzle file of more than a million records, and no log.
+    fs::remove(sdl);
+    fs::resize_file(sds, std::uintmax_t(kMaxLibraryRecords + 1) * kSudokuRecordSize);
+    bool refused = false;
+    EXPECT_EQ(OpenPair(dir.path(), stem, &said, &refused), -1);
+    EXPECT_TRUE(refused);
+    EXPECT_NE(said.find("is no library"), std::string::npos) << said;
+    EXPECT_FALSE(fs::exists(sdl));
+    EXPECT_FALSE(AppendToPair(dir.path(), stem, RecordOf(1), {}));
 }
 
 }  // namespace

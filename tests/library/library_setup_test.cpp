@@ -33,7 +33,36 @@ TEST(CopyLibraryFiles, CopiesWhatIsMissingAndNeverOverwrites) {
                   level == 3 ? hard : FileBytes(PuzzleFile(lib.app.path(), LevelStem(level))));
         EXPECT_FALSE(fs::exists(LogFile(lib.data.path(), LevelStem(level))));
     }
-    EXPECT_EQ(std::distance(fs::directory_iterator(lib.data.path()), fs::directory_iterator()), 9);
+    // The nine puzzle files and the list of the levels that had them.
+    EXPECT_EQ(std::distance(fs::directory_iterator(lib.data.path()), fs::directory_iterator()), 10);
+}
+
+// A level emptied (its files gone) stays empty at every later start, whether it
+// came delivered or was the user's own; a level that never had files gets them
+// once it is delivered.
+TEST(CopyLibraryFiles, ALevelThatHadFilesIsNeverFilledAgain) {
+    Library lib;
+    for (int level = 1; level <= 8; ++level)
+        MakeLevelFiles(lib.app.path(), LevelStem(level), 2, /*withLog=*/false);
+    MakeLevelFiles(lib.data.path(), LevelStem(2), 1);  // the user's own
+    CopyLibraryFiles(lib.folders);
+    for (int level : {1, 2}) {
+        fs::remove(PuzzleFile(lib.data.path(), LevelStem(level)));
+        fs::remove(LogFile(lib.data.path(), LevelStem(level)));
+    }
+    MakeLevelFiles(lib.app.path(), LevelStem(9), 2, false);  // delivered later
+    for (int start = 0; start < 2; ++start) {
+        CopyLibraryFiles(lib.folders);
+        for (int level = 1; level <= 9; ++level) {
+            EXPECT_EQ(FileExists(PuzzleFile(lib.data.path(), LevelStem(level))), level > 2)
+                << level;
+            EXPECT_TRUE(WasDelivered(lib.data.path(), LevelStem(level))) << level;
+        }
+    }
+    // The first run after that passes over the emptied levels.
+    RecordingNotifier notifier;
+    EXPECT_TRUE(MaakSudLog(lib.folders, notifier));
+    EXPECT_FALSE(FileExists(LogFile(lib.data.path(), LevelStem(1))));
 }
 
 TEST(MaakSudLog, MakesOneEmptyLogRecordPerPuzzle) {
@@ -42,7 +71,11 @@ TEST(MaakSudLog, MakesOneEmptyLogRecordPerPuzzle) {
         MakeLevelFiles(lib.data.path(), LevelStem(level), level + 1, false);
     // An old log with progress in it is kept and only brought in step: its two
     // records stay, the third puzzle gets an empty one.
-    const std::vector<char> saved(1449 * 2, 5);
+    std::vector<char> saved;
+    for (int i = 1; i <= 2; ++i) {
+        const auto bytes = ToBytes(testing::BusyLog(i));
+        saved.insert(saved.end(), bytes.begin(), bytes.end());
+    }
     WriteBytes(LogFile(lib.data.path(), LevelStem(2)), saved);
     RecordingNotifier notifier;
 
@@ -51,6 +84,10 @@ TEST(MaakSudLog, MakesOneEmptyLogRecordPerPuzzle) {
     ASSERT_EQ(notifier.messages.size(), 2u);
     EXPECT_NE(notifier.messages[1].second.find("3 records were kept, 1 of them with an empty log"),
               std::string::npos);
+    // The log as it was is kept beside it, and the message names the copy.
+    EXPECT_NE(notifier.messages[1].second.find("kept as Sudoku_Medium.sdl.before-repair"),
+              std::string::npos);
+    EXPECT_EQ(FileBytes(lib.data / "Sudoku_Medium.sdl.before-repair"), saved);
     auto kept = FileBytes(LogFile(lib.data.path(), LevelStem(2)));
     ASSERT_EQ(kept.size(), 1449u * 3);
     EXPECT_TRUE(std::equal(saved.begin(), saved.end(), kept.begin()));
@@ -81,7 +118,8 @@ TEST(MaakSudLog, ALogThatCantBeWrittenEndsWithFalseAndKeepsTheOldOne) {
     fs::create_directory(LogFile(lib.data.path(), LevelStem(6)));  // in the way
     RecordingNotifier notifier;
     EXPECT_FALSE(MaakSudLog(lib.folders, notifier));
-    EXPECT_EQ(notifier.messages.size(), 1u);  // only the opening notice
+    ASSERT_EQ(notifier.messages.size(), 2u);  // the opening notice, and the log in the way
+    EXPECT_NE(notifier.messages[1].second.find("Sudoku_Kamikaze.sdl"), std::string::npos);
     EXPECT_TRUE(fs::is_directory(LogFile(lib.data.path(), LevelStem(6))));
     EXPECT_FALSE(fs::exists(LogFile(lib.data.path(), LevelStem(7))));
 }

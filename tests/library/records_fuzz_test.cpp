@@ -8,6 +8,7 @@
 
 #include "library/library_pair.h"
 #include "library/library_test_support.h"
+#include "library/move_journal.h"
 #include "library/pair_guard.h"
 #include "library/record_checks.h"
 #include "library/record_journal.h"
@@ -132,6 +133,51 @@ TEST(RecordFuzz, PairsOfAnyShapeOpenIntoStep) {
             }
         }
         fs::remove(dir / "Fuzz.sdc");
+    }
+}
+
+// A dead run's move journal, cut, garbled or replaced by noise: finishing it
+// never loses a puzzle and never takes one out of its pair that does not stand
+// at the number the journal names.
+TEST(RecordFuzz, AnyMoveJournalLosesNoPuzzle) {
+    TempDir dir(testing::FastScratch());
+    const std::string_view from = "Sudoku_Hard.sd", to = "Sudoku_Easy.sd";
+    constexpr int kCount = 8;
+    // Records 2, 4 and 6 moved; the journal left behind as a kill would.
+    testing::MakeLevelFiles(dir.path(), from, kCount);
+    {
+        MoveJournal journal(dir.path(), from);
+        for (long n : {2, 4, 6})
+            ASSERT_TRUE(journal.Move(n, to, RecordOf(int(n - 1)), {}));
+    }
+    const auto journal = FileBytes(MoveJournalFile(dir.path(), from));
+    const auto sds = FileBytes(PuzzleFile(dir.path(), from)),
+               sdl = FileBytes(LogFile(dir.path(), from));
+    const auto easy = FileBytes(PuzzleFile(dir.path(), to)),
+               easyLog = FileBytes(LogFile(dir.path(), to));
+    std::mt19937 rng(26);
+    for (int i = 0; i < 600; ++i) {
+        WriteBytes(PuzzleFile(dir.path(), from), sds);
+        WriteBytes(LogFile(dir.path(), from), sdl);
+        WriteBytes(PuzzleFile(dir.path(), to), easy);
+        WriteBytes(LogFile(dir.path(), to), easyLog);
+        auto bytes = Fuzzed(rng, journal, i % 3 ? 1 : 0);
+        if (i % 5 == 0) bytes.resize(rng() % bytes.size());
+        WriteBytes(MoveJournalFile(dir.path(), from), bytes);
+        FinishDeadMoves(dir.path(), from);
+
+        std::vector<int> seen(kCount, 0);
+        for (const std::string_view stem : {from, to}) {
+            std::vector<SudokuRecord> records;
+            ASSERT_TRUE(ReadSudokuFile(PuzzleFile(dir.path(), stem), records)) << i;
+            ASSERT_EQ(WholeRecords(LogFile(dir.path(), stem), kSudokuLogRecordSize),
+                      long(records.size()));
+            for (const SudokuRecord& r : records)
+                ++seen[r.BestMinutes];  // RecordOf(k) carries k
+        }
+        for (int k = 0; k < kCount; ++k)
+            ASSERT_GE(seen[k], 1) << "input " << i << " lost puzzle " << k;
+        ASSERT_FALSE(fs::exists(MoveJournalFile(dir.path(), from))) << i;
     }
 }
 

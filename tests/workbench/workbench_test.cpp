@@ -10,6 +10,7 @@
 #include "grid/candidates.h"
 #include "library/library_files.h"
 #include "library/library_pair.h"
+#include "library/library_setup.h"
 #include "library/library_test_support.h"
 #include "solver/ladder.h"
 #include "support/boards.h"
@@ -248,6 +249,115 @@ TEST_F(WorkbenchTest, ImportRatesChecksAndFilesEachPuzzleByItsLevel) {
                                  ". Rejected: 1 without a solution, 1 with several solutions, 2 "
                                  "already in the library, 1 malformed (line 5).");
     EXPECT_EQ(At(1, 2).Solution, easy[2].solution);
+}
+
+// A record whose solution does not fit its clues, and a log record with one
+// step off the board: neither is solved, moved or rewritten, and a check names
+// them (the first ten, then how many more) and leaves them as they stand.
+TEST_F(WorkbenchTest, DamagedRecordsAreNamedAndNeverSolvedMovedOrRewritten) {
+    Add(3, easy[0]);
+    for (int i = 1; i <= 14; ++i) {
+        Add(3, easy[i]);
+        SudokuRecord bad{easy[i].puzzle, easy[i].solution, 0, 0};
+        bad.Solution[0] = bad.Solution[1];
+        ASSERT_TRUE(WriteSudokuRecord(PuzzleFile(root, LevelStem(3)), i + 1, bad));
+    }
+    Add(3, easy[15]);
+    SudokuLogRecord game = testing::BusyLog(47);
+    game.LogCell[10] = 200;
+    ASSERT_TRUE(WriteRecordBytes(LogFile(root, LevelStem(3)), 16, ToBytes(game)));
+    const auto sds = testing::FileBytes(PuzzleFile(root, LevelStem(3)));
+    const auto sdl = testing::FileBytes(LogFile(root, LevelStem(3)));
+
+    Open(3).CommandNext();
+    EXPECT_NE(bench.Damaged().find("Record 2 of Sudoku_Hard.sds is damaged"), std::string::npos);
+    bench.CommandSolve();
+    bench.CommandSolve(true, true);
+    EXPECT_EQ(prompter.shown.back().title, "File Error");
+    EXPECT_NE(prompter.shown.back().text.find("Record 2 of Sudoku_Hard.sds"), std::string::npos);
+    EXPECT_EQ(testing::FileBytes(PuzzleFile(root, LevelStem(3))), sds);
+
+    bench.CommandCheckAll();
+    const std::string report = prompter.shown.back().text;
+    EXPECT_NE(report.find("15 records could not be read and were left as they stand:"),
+              std::string::npos)
+        << report;
+    EXPECT_NE(report.find("\nRecord 2 of Sudoku_Hard.sds is damaged"), std::string::npos);
+    EXPECT_EQ(report.find("Record 12 of"), std::string::npos) << "ten are named";
+    EXPECT_NE(report.find("\nand 5 more."), std::string::npos) << report;
+    // Record 1 moved to Easy; the damaged ones stay, bytes and all.
+    EXPECT_EQ(Count(1), 1);
+    ASSERT_EQ(Count(3), 15);
+    const auto left = testing::FileBytes(PuzzleFile(root, LevelStem(3)));
+    EXPECT_TRUE(std::equal(left.begin(), left.end(), sds.begin() + kSudokuRecordSize));
+    const auto leftLog = testing::FileBytes(LogFile(root, LevelStem(3)));
+    EXPECT_TRUE(std::equal(leftLog.begin(), leftLog.end(), sdl.begin() + kSudokuLogRecordSize));
+    EXPECT_EQ(bench.Unreadable(), 15);
+}
+
+TEST_F(WorkbenchTest, RemoveDuplicatesPassesOverDamagedRecords) {
+    for (const auto* p : {&easy[1], &easy[1], &easy[2], &easy[1], &easy[2], &easy[2]})
+        Add(2, *p);
+    SudokuRecord bad{easy[1].puzzle, easy[1].solution, 0, 0};
+    bad.BestSeconds = 75;
+    ASSERT_TRUE(WriteSudokuRecord(PuzzleFile(root, LevelStem(2)), 2, bad));
+    ASSERT_TRUE(WriteSudokuRecord(PuzzleFile(root, LevelStem(2)), 5, bad));
+    Open(2).CommandRemoveDuplicates();
+    EXPECT_EQ(prompter.shown.back().text,
+              "2 duplicate sudokus removed. 2 damaged records were passed over and left as they "
+              "stand.");
+    ASSERT_EQ(Count(2), 4);
+    EXPECT_EQ(testing::FileBytes(PuzzleFile(root, LevelStem(2))).size(), 4 * kSudokuRecordSize);
+    SudokuRecordBytes bytes;
+    for (long n : {2, 4}) {  // the damaged ones, as they stood
+        ASSERT_TRUE(ReadRecordBytes(PuzzleFile(root, LevelStem(2)), n, bytes));
+        EXPECT_EQ(bytes, ToBytes(bad));
+    }
+}
+
+// Moves that fail (here Easy's log is a folder) are said once, in the report,
+// with how many puzzles stay where they were; nothing is lost.
+TEST_F(WorkbenchTest, FailedMovesAreCountedInTheReportNotBoxedOneByOne) {
+    for (int i = 0; i < 5; ++i)
+        Add(3, easy[i]);
+    Add(3, Broken(0));
+    Add(1, easy[9]);
+    fs::remove(LogFile(root, LevelStem(1)));
+    fs::create_directory(LogFile(root, LevelStem(1)));
+    Open(3);
+    prompter.shown.clear();
+    bench.CommandCheckAll();
+    ASSERT_EQ(prompter.shown.size(), 1u) << prompter.shown[0].text;
+    const std::string report = prompter.shown[0].text;
+    EXPECT_NE(report.find("\n5 sudokus could not be moved to their level and stay where they "
+                          "were.\n5 file errors:\n"),
+              std::string::npos)
+        << report;
+    EXPECT_EQ(Count(3), 5) << "the Outlaw puzzle moved, the Easy ones stayed";
+    EXPECT_EQ(Count(9), 1);
+    EXPECT_EQ(bench.FileErrors(), 5);
+}
+
+// Check All empties Easy; at the next start the delivered Easy file is not
+// copied back, and the moves of a later check into Easy make the pair anew.
+TEST_F(WorkbenchTest, AnEmptiedLevelStaysEmptyAndTakesMovesIn) {
+    testing::TempDir app;
+    const LibraryFolders folders{app.path(), root};
+    WriteSudokuFile(PuzzleFile(app.path(), LevelStem(1)),
+                    std::vector<SudokuRecord>{{other[0].puzzle, other[0].solution, 0, 0}});
+    WriteSudokuFile(PuzzleFile(app.path(), LevelStem(9)),
+                    std::vector<SudokuRecord>{{easy[0].puzzle, easy[0].solution, 0, 0},
+                                              {easy[1].puzzle, easy[1].solution, 0, 0}});
+    CopyLibraryFiles(folders);
+    Open(1).CommandCheckAll();
+    EXPECT_FALSE(FileExists(PuzzleFile(root, LevelStem(1))));
+    CopyLibraryFiles(folders);
+    EXPECT_FALSE(FileExists(PuzzleFile(root, LevelStem(1)))) << "copied back";
+    Open(9).CommandCheckAll();
+    EXPECT_EQ(prompter.shown.back().text, "All sudokus solved and rerated !");
+    ASSERT_EQ(Count(1), 2);
+    EXPECT_EQ(WholeRecords(LogFile(root, LevelStem(1)), kSudokuLogRecordSize), 2);
+    EXPECT_EQ(At(1, 2).Puzzle, easy[1].puzzle);
 }
 
 }  // namespace

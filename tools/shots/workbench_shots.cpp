@@ -41,6 +41,15 @@ TEST(WorkbenchShots, OpenRunningAndTheReport) {
     });
     window.Model().CommandCheckAll();
     Shot(window, "workbench-report");
+
+    // A record whose solution does not fit its clues: shown empty, with why.
+    SudokuRecord bad;
+    ASSERT_TRUE(ReadSudokuRecord(PuzzleFile(root, LevelStem(3)), 2, bad));
+    bad.Solution[0] = bad.Solution[1];
+    ASSERT_TRUE(WriteSudokuRecord(PuzzleFile(root, LevelStem(3)), 2, bad));
+    prompter.inputs.push_back("2");
+    window.Model().Command1(3);
+    Shot(window, "workbench-damaged");
     std::filesystem::remove_all(root);
 }
 
