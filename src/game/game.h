@@ -74,6 +74,10 @@ inline constexpr std::string_view kScanDoneText = "Scan completed.";
 inline constexpr std::string_view kScanStoppedText = "Scan stopped.";
 inline constexpr int kNoHover = 729;
 inline constexpr std::string_view kSettingsProblemTitle = "Settings not read";
+inline constexpr std::string_view kLongGameTitle = "Long game";
+inline constexpr std::string_view kLongGameText =
+    "This game has passed 100 steps. It is saved as always, board, marks and clock, but after "
+    "it is opened again Undo reaches back over its last 100 steps only.";
 inline constexpr int kNoLine = 9;  // SelectedRow and SelectedColumn when nothing is picked
 inline constexpr Color kClueColor = 0x00800000;  // dark blue
 inline constexpr Color kDimmedMarkColor = 0x00D0D010;
@@ -362,6 +366,8 @@ class Game : private MoveListener {
     GameEvents events_;
     View seen_;
     int scopes_ = 0;            // public routines running, one inside the other
+    bool longGameSaid_ = false;  // this game has been told that a reload keeps 100 steps
+    bool longGameDue_ = false;   // ... and is to be told when its routine ends
     unsigned alsoChanged_ = 0;  // changes no look can see (the options)
 };
 

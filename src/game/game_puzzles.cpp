@@ -3,6 +3,7 @@
 // routine.
 #include "game/display_text.h"
 #include "game/game.h"
+#include "game/saved_game_check.h"
 #include "grid/candidates.h"
 #include "grid/levels.h"
 #include "library/library_pair.h"
@@ -83,6 +84,7 @@ bool Game::LoadPuzzle(bool askToGoOn) {
     clock_.SetSeconds(0);  // a new game starts its own clock; a resumed one reads it
     EnableGrid();
     moves_.Clear();
+    longGameSaid_ = longGameDue_ = false;
     ctx_.board.Puzzle = sudoku_.Puzzle;
     ctx_.board.Solution = sudoku_.Solution;
     sudTekst_ = FormatDigits(sudoku_.Puzzle, '0');
@@ -109,7 +111,17 @@ bool Game::LoadPuzzle(bool askToGoOn) {
 // The game as it was saved: digits, marks, the move log for undo, and the clock
 // with the two clock options its sign carries.
 void Game::RestoreProgress() {
-    const SudokuLogRecord& logRecord_ = session_.logRecord();
+    // A game that could not have been played on this puzzle (a log record of
+    // another puzzle, or a damaged one) must not let Undo change the givens.
+    SudokuLogRecord logRecord_ = session_.logRecord();
+    const SavedGameRepair repair = RepairSavedGame(sudoku(), logRecord_);
+    if (repair.Any()) {
+        const int level = position().ChosenLevel;
+        services_.prompter.Message(
+            kSavedGameRepairedTitle,
+            SavedGameRepairedText(LogFileName(LevelStem(level)), position().PuzzleNumber[level],
+                                  repair));
+    }
     moves_.Restore(logRecord_);
     ShowStepCount();
     for (int c = 0; c < 81; ++c) {
@@ -162,6 +174,7 @@ bool Game::OpenLastSudoku() {
     position_.SudokuAutosolved = false;
     ClearGrid();
     EnableGrid();
+    longGameSaid_ = longGameDue_ = false;
     ctx_.board.Puzzle = sudoku_.Puzzle;
     ctx_.board.Solution = sudoku_.Solution;
     sudTekst_ = FormatDigits(sudoku_.Puzzle, '0');
@@ -191,9 +204,8 @@ void Game::CommandSave() {
     if (position_.OpenLevel == 0 || position_.OpenRecord == 0) return;
     session_.SavePosition(moves_.CurrentStep());
 
-    // A record holds 100 steps: a longer game is refused and the record on disk
-    // keeps its former state.
-    if (moves_.CurrentStep() > kLogSteps) return say.Message(kStepLimitTitle, kStepLimitText);
+    // A record holds the latest 100 steps of a longer game; its board, marks and
+    // clock are kept whole.
     SudokuLogRecord record = session_.logRecord();
     moves_.WriteTo(record);
     for (int c = 0; c < 81; ++c) {
