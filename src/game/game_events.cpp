@@ -47,6 +47,8 @@ Game::View Game::Look() const {
 }
 
 void Game::Announce() {
+    // What the window is about to show of the game is in the recovery copy first.
+    KeepRecoveryCopy();
     View now = Look();
     const View& was = seen_;
     Changes changes;

@@ -13,33 +13,43 @@ namespace tavi {
 namespace {
 
 constexpr std::string_view kInProgressTitle = "Sudoku in progress";
+constexpr std::string_view kPuzzleGoneTitle = "Sudoku not saved";
 
 }  // namespace
 
-void Game::LeaveBoard() {
+bool Game::LeaveBoard() {
     const LibraryPosition& position_ = session_.position();
     if (position_.SudokuAutosolved) ZetOpgelost();
-    if (position_.SudokuSolved || moves_.CurrentStep() < 1) return;
+    if (position_.SudokuSolved || moves_.CurrentStep() < 1) return true;
     if (options_.AutoSave) {
-        CommandSave();
+        SaveGame();
     } else if (options_.AskSave) {
         Prompter& ask = services_.prompter;
         if (ask.Ask(kInProgressTitle, "Do you want to save the current sudoku ?", Buttons::YesNo,
                     Icon::Question) == Answer::Yes) {
-            CommandSave();
+            SaveGame();
         } else if (ask.Ask(kInProgressTitle,
                            "Do you want to erase the progress of the current sudoku ?",
                            Buttons::YesNo, Icon::Question) == Answer::Yes) {
             session_.EraseProgress();
         }
     }
+    // A game that could not be saved is left only when the player says so.
+    if (puzzleGone_ &&
+        services_.prompter.Ask(kPuzzleGoneTitle,
+                               "This game can't be saved, as its puzzle has left the library. "
+                               "Leave it anyway ? It will be lost.",
+                               Buttons::YesNo, Icon::Question) != Answer::Yes)
+        return false;
+    puzzleGone_ = false;
+    return true;
 }
 
 void Game::CommandNew() {
     const ChangeScope scope(*this);
     if (busy_) return;  // a search is running
     ResetHintStage();
-    LeaveBoard();
+    if (!LeaveBoard()) return;
     session_.NextPuzzle();
     LoadPuzzle(true);
 }
@@ -48,7 +58,7 @@ void Game::CommandOpen() {
     const ChangeScope scope(*this);
     if (busy_) return;  // a search is running
     ResetHintStage();
-    LeaveBoard();
+    if (!LeaveBoard()) return;
     const int level = position().ChosenLevel;
     const long count = session_.ChosenCount();
     if (count < 1) {
@@ -85,6 +95,7 @@ bool Game::LoadPuzzle(bool askToGoOn) {
     EnableGrid();
     moves_.Clear();
     longGameSaid_ = longGameDue_ = false;
+    puzzleGone_ = false;
     ctx_.board.Puzzle = sudoku_.Puzzle;
     ctx_.board.Solution = sudoku_.Solution;
     sudTekst_ = FormatDigits(sudoku_.Puzzle, '0');
@@ -175,6 +186,7 @@ bool Game::OpenLastSudoku() {
     ClearGrid();
     EnableGrid();
     longGameSaid_ = longGameDue_ = false;
+    puzzleGone_ = false;
     ctx_.board.Puzzle = sudoku_.Puzzle;
     ctx_.board.Solution = sudoku_.Solution;
     sudTekst_ = FormatDigits(sudoku_.Puzzle, '0');
@@ -186,22 +198,42 @@ bool Game::OpenLastSudoku() {
 void Game::CommandSave() {
     const ChangeScope scope(*this);
     if (busy_) return;  // a search is running
+    SaveGame();
+}
+
+bool Game::SaveGame() {
     // A waiting "Show Me" is not kept in the file.
     ResetHintStage();
     const LibraryPosition& position_ = session_.position();
     Prompter& say = services_.prompter;
-    if (position_.SudokuSolved && !position_.SudokuAutosolved)
-        return say.Message("Sudoku solved",
-                           "Sudoku already solved, you can only save unsolved sudokus !");
-    if (moves_.CurrentStep() == 0)
-        return say.Message("Sudoku not in progress",
-                           "You cannot save a sudoku that hasn't been changed since it was "
-                           "opened !");
-    if (position_.SudokuAutosolved)
-        return say.Message("Sudoku Autosolved",
-                           "Autosolve function is invoked at the current sudoku, therefore you "
-                           "cannot save this sudoku !");
-    if (position_.OpenLevel == 0 || position_.OpenRecord == 0) return;
+    if (position_.SudokuSolved && !position_.SudokuAutosolved) {
+        say.Message("Sudoku solved", "Sudoku already solved, you can only save unsolved sudokus !");
+        return false;
+    }
+    if (moves_.CurrentStep() == 0) {
+        say.Message("Sudoku not in progress",
+                    "You cannot save a sudoku that hasn't been changed since it was opened !");
+        return false;
+    }
+    if (position_.SudokuAutosolved) {
+        say.Message("Sudoku Autosolved",
+                    "Autosolve function is invoked at the current sudoku, therefore you cannot "
+                    "save this sudoku !");
+        return false;
+    }
+    if (position_.OpenLevel == 0 || position_.OpenRecord == 0) return false;
+    // Never a game onto another puzzle: the record must still hold this one.
+    if (!session_.FindOpenPuzzle()) {
+        puzzleGone_ = true;
+        say.Message(kPuzzleGoneTitle,
+                    "The puzzle of this game is no longer in the " +
+                        std::string(LevelName(position_.OpenLevel)) +
+                        " library (it was changed while the game was open). The game was not "
+                        "saved, so that no other puzzle gets its digits; it is kept in the "
+                        "recovery copy and offered again at the next start.");
+        return false;
+    }
+    puzzleGone_ = false;
     session_.SavePosition(moves_.CurrentStep());
 
     // A record holds the latest 100 steps of a longer game; its board, marks and
@@ -214,7 +246,7 @@ void Game::CommandSave() {
             record.Grid[c] ? 0 : std::int16_t(ctx_.board.Candidates[c] << 1);
     }
     clock_.WriteTo(record);
-    session_.SaveGame(record);
+    return session_.SaveGame(record);
 }
 
 void Game::CommandSolution() {

@@ -52,6 +52,12 @@ bool Game::Start() {
 
     session_.Closed();
     session_.ReadPosition();
+    // A run that did not end normally left its game in the recovery copy.
+    if (OfferRecoveryCopy()) {
+        WindowTitle = "Tavi Sudoku 1";
+        caption_ = WindowTitle + caption_;
+        return true;
+    }
     if (position_.LastLevel > 0) {
         const int level = position_.LastLevel;
         position_.ChosenLevel = level;
@@ -139,6 +145,7 @@ void Game::CloseGameRecord() {
 void Game::WriteSettingsOnExit() {
     session_.SavePosition(moves_.CurrentStep());
     SchrijfOpties(services_.store, options_);
+    EndRecoveryCopy();
 }
 
 bool Game::CommandExit() {
@@ -158,13 +165,13 @@ bool Game::CommandExit() {
         if (!plainYes()) return false;
     } else if (options_.AutoSave) {
         if (!plainYes()) return false;
-        CommandSave();
+        SaveGame();
     } else if (options_.AskSave) {
         const Answer a =
             ask.Ask(kInProgressTitle, kSaveQuestion, Buttons::YesNoCancel, Icon::Question);
         if (a == Answer::Cancel) return false;
         if (a == Answer::Yes)
-            CommandSave();
+            SaveGame();
         else
             discard();
     } else {
@@ -188,7 +195,7 @@ bool Game::QueryUnload() {
             ask.Ask(kInProgressTitle, kSaveQuestion, Buttons::YesNoCancel, Icon::Question);
         if (a == Answer::Cancel) return false;
         if (a == Answer::Yes) {
-            CommandSave();
+            SaveGame();
         } else {
             position_.SudokuSolved = true;
             moves_.Clear();
@@ -200,12 +207,12 @@ bool Game::QueryUnload() {
     } else if (options_.AutoSave) {
         if (!plainYes()) return false;
         if (position_.SudokuAutosolved) ZetOpgelost();
-        CommandSave();
+        SaveGame();
     } else if (options_.AskSave || !position_.SudokuAutosolved) {
         if (!saveOrDiscard()) return false;
     } else {
         if (!plainYes()) return false;
-        CommandSave();
+        SaveGame();
     }
     WriteSettingsOnExit();
     return true;
