@@ -43,6 +43,15 @@ bool LibrarySession::ReadLast() {
     return true;
 }
 
+bool LibrarySession::SavedGameAt(int level) const {
+    const std::string_view stem = LevelStem(level);
+    SudokuLogRecord log;
+    return !stem.empty() && position_.PuzzleNumber[level] >= 1 &&
+           ReadSudokuLogRecord(LogFile(folders_.DataFolder, stem), position_.PuzzleNumber[level],
+                               log) &&
+           log.StepCount > 0;
+}
+
 bool LibrarySession::HasProgress() const {
     bool goOn = false;
     for (int c = 0; c < 81 && !goOn; ++c)

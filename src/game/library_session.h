@@ -39,6 +39,9 @@ class LibrarySession {
     // The game in progress of the last run, when its record holds one; nothing
     // is said when not.
     bool ReadLast();
+    // Whether record PuzzleNumber of `level` holds a saved game (steps to undo);
+    // nothing is said when it can't be read.
+    bool SavedGameAt(int level) const;
     // Whether the record read holds digits of the user.
     bool HasProgress() const;
     // The record read is the one in play, or none is.
