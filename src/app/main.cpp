@@ -2,8 +2,11 @@
 // the options and the platform's services are made here and handed to the game;
 // the game starts before the window shows, as its questions may come first.
 #include <QApplication>
+#include <QMessageBox>
+#include <optional>
 
 #include "game/game.h"
+#include "library/folder_lock.h"
 #include "settings/options.h"
 #include "ui/app_icon.h"
 #include "ui/desktop_services.h"
@@ -21,6 +24,20 @@ int main(int argc, char** argv) {
     QGuiApplication::setDesktopFileName(QString::fromLatin1(tavi::ui::kAppId));
 
     const tavi::LibraryFolders folders = tavi::ui::ProgramFolders();
+    // One window per data folder: a second one would overwrite the first one's
+    // records. The lock ends with the program, however it ends.
+    std::optional<tavi::FolderLock> lock;
+    std::string holder;
+    if (tavi::FolderLock::Take(folders.DataFolder, "tavi-sudoku", lock, &holder) ==
+        tavi::FolderLock::Result::Held) {
+        QMessageBox::information(
+            nullptr, QStringLiteral("Tavi Sudoku 1"),
+            QStringLiteral("Tavi Sudoku is already running (%1). Only one Tavi Sudoku at a "
+                           "time can play from its data folder %2.")
+                .arg(QString::fromStdString(holder),
+                     QString::fromStdString(folders.DataFolder.string())));
+        return 0;
+    }
     // A settings file that can't be read is left alone: the run keeps its
     // settings in memory, and the game says why at start.
     tavi::ui::QSettingsStore fileStore;
