@@ -72,7 +72,8 @@ bool FolderRefused(const std::vector<std::string>& args, std::optional<tavi::Fol
     std::string dir;
     if (args[1] == "check") dir = args[2];
     for (size_t i = 2; i + 1 < args.size(); ++i)
-        if ((args[1] == "import" && args[i] == "--dir") || (args[1] == "build" && args[i] == "--out"))
+        if ((args[1] == "import" && args[i] == "--dir") ||
+            (args[1] == "build" && args[i] == "--out"))
             dir = args[i + 1];
     std::string holder;
     if (dir.empty() || tavi::FolderLock::Take(dir, "tavi-sudoku-cli", held, &holder) !=

@@ -13,8 +13,7 @@ bool LogFilesInStep(const LibraryFolders& folders) {
         const std::string_view stem = LevelStem(level);
         const long puzzles = WholeRecords(PuzzleFile(folders.DataFolder, stem), kSudokuRecordSize);
         const auto sdl = LogFile(folders.DataFolder, stem);
-        if (puzzles < 1 || !FileExists(sdl) ||
-            WholeRecords(sdl, kSudokuLogRecordSize) != puzzles)
+        if (puzzles < 1 || !FileExists(sdl) || WholeRecords(sdl, kSudokuLogRecordSize) != puzzles)
             return false;
     }
     return true;

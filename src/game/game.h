@@ -379,13 +379,13 @@ class Game : private MoveListener {
     bool scanStop_ = false;
     GameEvents events_;
     View seen_;
-    int scopes_ = 0;            // public routines running, one inside the other
+    int scopes_ = 0;             // public routines running, one inside the other
     bool longGameSaid_ = false;  // this game has been told that a reload keeps 100 steps
     bool longGameDue_ = false;   // ... and is to be told when its routine ends
     std::optional<RecoveryCopy> copyWritten_;  // the recovery copy on disk, as written
-    bool puzzleGone_ = false;  // the game's puzzle is no longer in its level
-    bool ending_ = false;      // the program is ending normally: no more copies
-    unsigned alsoChanged_ = 0;  // changes no look can see (the options)
+    bool puzzleGone_ = false;                  // the game's puzzle is no longer in its level
+    bool ending_ = false;                      // the program is ending normally: no more copies
+    unsigned alsoChanged_ = 0;                 // changes no look can see (the options)
 };
 
 }  // namespace tavi

@@ -128,10 +128,9 @@ void Game::RestoreProgress() {
     const SavedGameRepair repair = RepairSavedGame(sudoku(), logRecord_);
     if (repair.Any()) {
         const int level = position().ChosenLevel;
-        services_.prompter.Message(
-            kSavedGameRepairedTitle,
-            SavedGameRepairedText(LogFileName(LevelStem(level)), position().PuzzleNumber[level],
-                                  repair));
+        services_.prompter.Message(kSavedGameRepairedTitle,
+                                   SavedGameRepairedText(LogFileName(LevelStem(level)),
+                                                         position().PuzzleNumber[level], repair));
     }
     moves_.Restore(logRecord_);
     ShowStepCount();

@@ -75,15 +75,15 @@ bool Game::OfferRecoveryCopy() {
     Prompter& ask = services_.prompter;
     if (!copy) {
         const auto aside = SetAsideRecoveryCopy(folder);
-        ask.Message(kRecoveryTitle, "Tavi Sudoku did not end normally last time, and the copy of "
-                                    "the game then on the board can't be used: " +
-                                        why + ". It was set aside as " + aside.string() + ".");
+        ask.Message(kRecoveryTitle,
+                    "Tavi Sudoku did not end normally last time, and the copy of "
+                    "the game then on the board can't be used: " +
+                        why + ". It was set aside as " + aside.string() + ".");
         return false;
     }
-    const std::string game = std::string(LevelName(copy->level)) + " - " +
-                             std::to_string(copy->record) + ", " +
-                             std::to_string(copy->currentStep) +
-                             (copy->currentStep == 1 ? " step" : " steps");
+    const std::string game =
+        std::string(LevelName(copy->level)) + " - " + std::to_string(copy->record) + ", " +
+        std::to_string(copy->currentStep) + (copy->currentStep == 1 ? " step" : " steps");
     const Answer a =
         ask.Ask(kRecoveryTitle,
                 "Tavi Sudoku did not end normally last time. The game then on the board (" + game +

@@ -33,8 +33,8 @@ class Reader {
     bool Line(std::string_view keyword) {
         if (!error.empty()) return false;
         const auto end = text_.find('\n');
-        if (end == std::string_view::npos) return Fail("the copy ends early, before " +
-                                                       std::string(keyword));
+        if (end == std::string_view::npos)
+            return Fail("the copy ends early, before " + std::string(keyword));
         line_ = text_.substr(0, end);
         text_.remove_prefix(end + 1);
         if (line_.substr(0, keyword.size()) != keyword ||

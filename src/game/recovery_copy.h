@@ -25,8 +25,8 @@ inline constexpr std::string_view kRecoveryFileName = "TaviSud1.recovery";
 inline constexpr int kRecoverySteps = 2000;
 
 struct RecoveryCopy {
-    int level = 0;      // 1..9, the level of the puzzle in play
-    long record = 0;    // its record number when the game was opened
+    int level = 0;    // 1..9, the level of the puzzle in play
+    long record = 0;  // its record number when the game was opened
     SudokuRecord sudoku;
     Digits grid{};
     std::array<CandidateMask, 81> marks{};

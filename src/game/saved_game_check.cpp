@@ -68,8 +68,7 @@ std::string SavedGameRepairedText(std::string_view logFileName, long number,
     if (repair.cluesRestored > 0)
         text += " " + std::to_string(repair.cluesRestored) +
                 (repair.cluesRestored == 1 ? " clue was" : " clues were") +
-                " overwritten in it and " + (repair.cluesRestored == 1 ? "is" : "are") +
-                " back.";
+                " overwritten in it and " + (repair.cluesRestored == 1 ? "is" : "are") + " back.";
     return text + " The rest of the game is kept.";
 }
 

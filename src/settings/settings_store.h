@@ -35,8 +35,7 @@ class SettingsStore {
                         std::string_view value) const {
         constexpr std::size_t kShown = 40;
         std::string shown(value.substr(0, kShown));
-        if (value.size() > kShown)
-            shown += "... (" + std::to_string(value.size()) + " characters)";
+        if (value.size() > kShown) shown += "... (" + std::to_string(value.size()) + " characters)";
         unreadable_.push_back(std::string(section) + "/" + std::string(key) + "=" + shown);
     }
 

@@ -33,8 +33,8 @@ void ReadTechniqueTables(const SettingsStore& store, TechniqueTables& tables) {
         tables.Halt[i] = i < T::kFirstOptionalHalt ? 1 : halt;
         const int order = ReadInt(store, kSection, Key("Order", i), i);
         const bool movable = i >= T::kFirstMovable && i <= T::kLastMovable;
-        const bool fits = movable ? order >= T::kFirstMovable && order <= T::kLastMovable
-                                  : order == i;
+        const bool fits =
+            movable ? order >= T::kFirstMovable && order <= T::kLastMovable : order == i;
         if (!fits) store.NoteUnreadable(kSection, Key("Order", i), std::to_string(order));
         tables.Order[i] = fits ? order : i;
     }

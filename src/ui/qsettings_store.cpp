@@ -48,7 +48,8 @@ QSettingsStore::QSettingsStore()
 }
 
 QSettingsStore::QSettingsStore(const QString& iniFile)
-    : settings_((RemoveBrokenLock(iniFile), std::make_unique<QSettings>(iniFile, QSettings::IniFormat))) {
+    : settings_(
+          (RemoveBrokenLock(iniFile), std::make_unique<QSettings>(iniFile, QSettings::IniFormat))) {
     CheckReadable();
 }
 

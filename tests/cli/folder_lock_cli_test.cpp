@@ -17,7 +17,8 @@ namespace {
 namespace fs = std::filesystem;
 
 TEST(FolderLockCli, RewritingCommandsRefuseAHeldFolder) {
-    const fs::path dir = fs::temp_directory_path() / ("tavi-lock-cli-" + std::to_string(::getpid()));
+    const fs::path dir =
+        fs::temp_directory_path() / ("tavi-lock-cli-" + std::to_string(::getpid()));
     fs::create_directories(dir);
     auto run = [&](const std::string& args) {
         const std::string command = std::string(TAVI_CLI_PATH) + " " + args + " > " +

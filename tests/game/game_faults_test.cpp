@@ -92,8 +92,8 @@ TEST_F(Faults, UnreadableSettingsAreSaidAndNoSavedGameIsLost) {
     }
     // "Level" and "Busy" that can't be read are said with the others, and the
     // saved game is still offered.
-    for (const auto& [level, busy] : {std::pair{"abc", "Yes"}, std::pair{"2", "maybe"},
-                                      std::pair{"", "yes please"}}) {
+    for (const auto& [level, busy] :
+         {std::pair{"abc", "Yes"}, std::pair{"2", "maybe"}, std::pair{"", "yes please"}}) {
         store = kept;
         store.Write("Sudoku", "Level", level);
         store.Write("SudokuLevel2", "Busy", busy);
@@ -112,6 +112,29 @@ TEST_F(Faults, UnreadableSettingsAreSaidAndNoSavedGameIsLost) {
         EXPECT_EQ(prompter.shown[1].text, "Do you want to proceed with the last saved sudoku ?");
         EXPECT_EQ(game->CurrentStep(), saved.StepCount);
     }
+}
+
+// A colour that can't be read is said once: the exit writes the colours back,
+// as it does the options.
+TEST_F(Faults, ABadColourIsSaidOnce) {
+    store.Write("Colors", "HColor3", "not a colour");
+    store.Write("Options", "Sounds", "banana");
+    prompter.shown.clear();
+    Game& g = Started();
+    ASSERT_FALSE(prompter.shown.empty());
+    EXPECT_NE(prompter.shown[0].text.find("Colors/HColor3=not a colour"), std::string::npos);
+    EXPECT_NE(prompter.shown[0].text.find("Options/Sounds=banana"), std::string::npos);
+    prompter.answers = {Answer::Yes};  // "Do you really want to quit ?"
+    ASSERT_TRUE(g.CommandExit());
+    // The next run reads the file afresh.
+    MemorySettingsStore next;
+    for (const auto& [key, value] : store.Values())
+        next.Write(key.first, key.second, value);
+    store = next;
+    prompter.shown.clear();
+    Started();
+    EXPECT_TRUE(prompter.shown.empty()) << prompter.Last().second;
+    EXPECT_EQ(game->options().colors.HintColor[3], kDefaultHintColor[3]);
 }
 
 // A value of any length is cut in the message, and a long list of them ends

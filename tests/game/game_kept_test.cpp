@@ -122,9 +122,9 @@ TEST_F(Kept, StepsThatCouldNotHaveBeenPlayedAreDroppedAndTheCluesStay) {
         EXPECT_EQ(game->CurrentStep(), saved.StepCount - spoilt) << round;
         ASSERT_FALSE(prompter.shown.empty());
         EXPECT_EQ(prompter.Box(1).first, kSavedGameRepairedTitle);
-        EXPECT_NE(prompter.Box(1).second.find("Record 1 of Sudoku_Medium.sdl: " +
-                                              std::to_string(spoilt)),
-                  std::string::npos)
+        EXPECT_NE(
+            prompter.Box(1).second.find("Record 1 of Sudoku_Medium.sdl: " + std::to_string(spoilt)),
+            std::string::npos)
             << prompter.Box(1).second;
         while (game->CurrentStep() > 0) {
             game->CommandUndo();

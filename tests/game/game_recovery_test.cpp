@@ -8,8 +8,8 @@
 #include <unistd.h>
 
 #include <chrono>
-#include <random>
 #include <fstream>
+#include <random>
 #include <thread>
 
 #include "library/library_test_support.h"
@@ -144,8 +144,8 @@ TEST_F(Recovery, AGameKilledAtRandomInstantsIsOfferedBackWithEveryStepShown) {
         ++restored;
         const Shown now = Now();
         EXPECT_TRUE(now == before || (after && now == *after))
-            << "round " << round << " after action " << last << ": step " << now.current
-            << " of " << now.log.size() << ", expected step " << before.current;
+            << "round " << round << " after action " << last << ": step " << now.current << " of "
+            << now.log.size() << ", expected step " << before.current;
         EXPECT_EQ(game->position().OpenLevel, kLevel);
         EXPECT_EQ(game->position().OpenRecord, 1);
         ExpectOnlyTheGamesRecordTouched();
@@ -239,7 +239,7 @@ TEST_F(Recovery, AGameIsNeverWrittenOntoAnotherPuzzle) {
     EXPECT_EQ(FileBytes(sds), sdsBefore);
     EXPECT_EQ(FileBytes(sdl), sdlBefore);
     EXPECT_TRUE(RecoveryCopyExists(folders.DataFolder));
-    crashed = true;  // the copy is left for the next start
+    crashed = true;                    // the copy is left for the next start
     prompter.answers = {Answer::Yes};  // restore
     Started();
     EXPECT_EQ(game->CurrentStep(), 3);

@@ -28,16 +28,16 @@ TEST(QtPrompter, ABoxNeverGrowsPastTheScreen) {
         lines += "Technique/Order" + std::to_string(i) + "=" + std::string(300, '7') + "\n";
     for (const std::string& text : {std::string(3'000'000, 'x'), lines,
                                     std::string(2000, 'y') + " " + std::string(2000, 'z')}) {
-        const auto box = MessageBoxFor(nullptr, "Settings not read", text, Buttons::Ok,
-                                       Icon::Exclamation);
+        const auto box =
+            MessageBoxFor(nullptr, "Settings not read", text, Buttons::Ok, Icon::Exclamation);
         box->show();
         QApplication::processEvents();
         EXPECT_LE(box->width(), screen.width());
         EXPECT_LE(box->height(), screen.height());
         EXPECT_LT(box->text().size(), 20000);
     }
-    const auto plain = MessageBoxFor(nullptr, "Sudoku solved", "New best time !!!", Buttons::Ok,
-                                     Icon::None);
+    const auto plain =
+        MessageBoxFor(nullptr, "Sudoku solved", "New best time !!!", Buttons::Ok, Icon::None);
     EXPECT_EQ(plain->text(), "New best time !!!");
 }
 
