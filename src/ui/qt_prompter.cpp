@@ -65,17 +65,18 @@ Answer AnswerOf(int button, Buttons asked) {
 }
 
 // A message box never grows past the screen, whatever it is given to say: at
-// most kLines lines of at most kLineLength characters, and a word longer than
-// the box is wide gets places to break.
+// most kLines lines and kCharacters characters, and a word longer than the box
+// is wide gets places to break.
 QString BoundedText(std::string_view text) {
-    constexpr int kLines = 20, kLineLength = 160, kWordLength = 60, kCharacters = 2000;
+    constexpr int kLines = 24, kWordLength = 60, kCharacters = 1500;
     const QStringList lines = ToQString(text.substr(0, 64 * 1024)).split(QLatin1Char('\n'));
     QStringList shown;
     int characters = 0, i = 0;
     for (; i < lines.size() && i < kLines && characters < kCharacters; ++i) {
         QString line = lines[i];
+        if (characters + line.size() > kCharacters)
+            line = line.left(kCharacters - characters) + QStringLiteral("...");
         characters += int(line.size());
-        if (line.size() > kLineLength) line = line.left(kLineLength) + QStringLiteral("...");
         QString broken;
         int run = 0;
         for (const QChar ch : line) {

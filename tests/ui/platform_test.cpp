@@ -36,9 +36,13 @@ TEST(QtPrompter, ABoxNeverGrowsPastTheScreen) {
         EXPECT_LE(box->height(), screen.height());
         EXPECT_LT(box->text().size(), 20000);
     }
-    const auto plain =
-        MessageBoxFor(nullptr, "Sudoku solved", "New best time !!!", Buttons::Ok, Icon::None);
-    EXPECT_EQ(plain->text(), "New best time !!!");
+    std::string sentences;
+    for (int i = 0; i < 12; ++i)
+        sentences += "A number of logfiles has to be created, normally only once. ";
+    for (const std::string& text : {std::string("New best time !!!"), sentences}) {
+        const auto plain = MessageBoxFor(nullptr, "Tavi Sudoku", text, Buttons::Ok, Icon::None);
+        EXPECT_EQ(plain->text().toStdString(), text);
+    }
 }
 
 TEST(QtPrompter, AsksWithTheGamesTitleTextButtonsAndIcon) {
