@@ -2,6 +2,8 @@
 // the options and the platform's services are made here and handed to the game;
 // the game starts before the window shows, as its questions may come first.
 #include <QApplication>
+#include <QFile>
+#include <QFileSystemWatcher>
 #include <QMessageBox>
 #include <optional>
 
@@ -15,6 +17,15 @@
 #include "ui/qsettings_store.h"
 #include "ui/qt_prompter.h"
 #include "ui/qt_sound_player.h"
+
+namespace {
+
+// The file a second start leaves in the data folder for the running window.
+QString RaiseRequest(const tavi::LibraryFolders& folders) {
+    return QString::fromStdString((folders.DataFolder / "TaviSud1.raise").string());
+}
+
+}  // namespace
 
 int main(int argc, char** argv) {
     QApplication app(argc, argv);
@@ -30,6 +41,8 @@ int main(int argc, char** argv) {
     std::string holder;
     if (tavi::FolderLock::Take(folders.DataFolder, "tavi-sudoku", lock, &holder) ==
         tavi::FolderLock::Result::Held) {
+        // The first window comes to the front where the desktop lets it.
+        QFile(RaiseRequest(folders)).open(QIODevice::WriteOnly);
         QMessageBox::information(
             nullptr, QStringLiteral("Tavi Sudoku 1"),
             QStringLiteral("Tavi Sudoku is already running (%1). Only one Tavi Sudoku at a "
@@ -38,6 +51,7 @@ int main(int argc, char** argv) {
                      QString::fromStdString(folders.DataFolder.string())));
         return 0;
     }
+    QFile::remove(RaiseRequest(folders));  // one left from a start that found us busy
     // A settings file that can't be read is left alone: the run keeps its
     // settings in memory, and the game says why at start.
     tavi::ui::QSettingsStore fileStore;
@@ -63,6 +77,14 @@ int main(int argc, char** argv) {
     window.SetStore(&store);
     if (!game.Start()) return 1;
     prompter.SetParent(&window);
+    // A second start on the same folder asks this window to the front.
+    QFileSystemWatcher watcher({QString::fromStdString(folders.DataFolder.string())});
+    QObject::connect(&watcher, &QFileSystemWatcher::directoryChanged, &window, [&] {
+        if (!QFile::remove(RaiseRequest(folders))) return;
+        window.setWindowState((window.windowState() & ~Qt::WindowMinimized) | Qt::WindowActive);
+        window.raise();
+        window.activateWindow();
+    });
     window.Refresh();
     window.show();
     return app.exec();
