@@ -2,9 +2,14 @@
 // the options and the platform's services are made here and handed to the game;
 // the game starts before the window shows, as its questions may come first.
 #include <QApplication>
+#include <QFile>
+#include <QFileSystemWatcher>
+#include <QMessageBox>
 #include <iostream>
+#include <optional>
 
 #include "game/game.h"
+#include "library/folder_lock.h"
 #include "settings/options.h"
 #include "ui/app_icon.h"
 #include "ui/desktop_services.h"
@@ -14,6 +19,15 @@
 #include "ui/qsettings_store.h"
 #include "ui/qt_prompter.h"
 #include "ui/qt_sound_player.h"
+
+namespace {
+
+// The file a second start leaves in the data folder for the running window.
+QString RaiseRequest(const tavi::LibraryFolders& folders) {
+    return QString::fromStdString((folders.DataFolder / "TaviSud1.raise").string());
+}
+
+}  // namespace
 
 int main(int argc, char** argv) {
     // --help and --version answer on the terminal, before a display is needed.
@@ -26,6 +40,23 @@ int main(int argc, char** argv) {
     QGuiApplication::setDesktopFileName(QString::fromLatin1(tavi::ui::kAppId));
 
     const tavi::LibraryFolders folders = tavi::ui::ProgramFolders();
+    // One window per data folder: a second one would overwrite the first one's
+    // records. The lock ends with the program, however it ends.
+    std::optional<tavi::FolderLock> lock;
+    std::string holder;
+    if (tavi::FolderLock::Take(folders.DataFolder, "tavi-sudoku", lock, &holder) ==
+        tavi::FolderLock::Result::Held) {
+        // The first window comes to the front where the desktop lets it.
+        QFile(RaiseRequest(folders)).open(QIODevice::WriteOnly);
+        QMessageBox::information(
+            nullptr, QStringLiteral("Tavi Sudoku 1"),
+            QStringLiteral("Tavi Sudoku is already running (%1). Only one Tavi Sudoku at a "
+                           "time can play from its data folder %2.")
+                .arg(QString::fromStdString(holder),
+                     QString::fromStdString(folders.DataFolder.string())));
+        return 0;
+    }
+    QFile::remove(RaiseRequest(folders));  // one left from a start that found us busy
     // A settings file that can't be read is left alone: the run keeps its
     // settings in memory, and the game says why at start.
     tavi::ui::QSettingsStore fileStore;
@@ -51,6 +82,14 @@ int main(int argc, char** argv) {
     window.SetStore(&store);
     if (!game.Start()) return 1;
     prompter.SetParent(&window);
+    // A second start on the same folder asks this window to the front.
+    QFileSystemWatcher watcher({QString::fromStdString(folders.DataFolder.string())});
+    QObject::connect(&watcher, &QFileSystemWatcher::directoryChanged, &window, [&] {
+        if (!QFile::remove(RaiseRequest(folders))) return;
+        window.setWindowState((window.windowState() & ~Qt::WindowMinimized) | Qt::WindowActive);
+        window.raise();
+        window.activateWindow();
+    });
     window.Refresh();
     window.show();
     return app.exec();

@@ -2,6 +2,7 @@
 // solving and explaining puzzles in bulk.
 #include <fstream>
 #include <iostream>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -10,6 +11,7 @@
 #include "cli/library_commands.h"
 #include "cli/puzzle_lines.h"
 #include "grid/levels.h"
+#include "library/folder_lock.h"
 
 namespace {
 
@@ -65,6 +67,24 @@ int Usage(const std::string& problem) {
     return 2;
 }
 
+// The library commands that rewrite a folder's files hold its lock for their run;
+// a folder a running game holds is refused with exit code 2.
+bool FolderRefused(const std::vector<std::string>& args, std::optional<tavi::FolderLock>& held) {
+    if (args.size() < 3 || args[0] != "library") return false;
+    std::string dir;
+    if (args[1] == "check") dir = args[2];
+    for (size_t i = 2; i + 1 < args.size(); ++i)
+        if ((args[1] == "import" && args[i] == "--dir") ||
+            (args[1] == "build" && args[i] == "--out"))
+            dir = args[i + 1];
+    std::string holder;
+    if (dir.empty() || tavi::FolderLock::Take(dir, "tavi-sudoku-cli", held, &holder) !=
+                           tavi::FolderLock::Result::Held)
+        return false;
+    std::cerr << "tavi-sudoku-cli: " << tavi::FolderInUse(dir, holder) << '\n';
+    return true;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -86,6 +106,8 @@ int main(int argc, char** argv) {
         return 0;
     }
 
+    std::optional<tavi::FolderLock> held;
+    if (FolderRefused(args, held)) return 2;
     if (command == "generate") return tavi::cli::GenerateCommand(args, std::cout, std::cerr);
     if (command == "library") return tavi::cli::LibraryCommand(args, std::cout, std::cerr);
 

@@ -25,6 +25,7 @@
 #include "game/library_session.h"
 #include "game/move_log.h"
 #include "game/platform.h"
+#include "game/recovery_copy.h"
 #include "hints/hint_paint.h"
 #include "library/library_files.h"
 #include "library/records.h"
@@ -74,6 +75,10 @@ inline constexpr std::string_view kScanDoneText = "Scan completed.";
 inline constexpr std::string_view kScanStoppedText = "Scan stopped.";
 inline constexpr int kNoHover = 729;
 inline constexpr std::string_view kSettingsProblemTitle = "Settings not read";
+inline constexpr std::string_view kLongGameTitle = "Long game";
+inline constexpr std::string_view kLongGameText =
+    "This game has passed 100 steps. It is saved as always, board, marks and clock, but after "
+    "it is opened again Undo reaches back over its last 100 steps only.";
 inline constexpr int kNoLine = 9;  // SelectedRow and SelectedColumn when nothing is picked
 inline constexpr Color kClueColor = 0x00800000;  // dark blue
 inline constexpr Color kDimmedMarkColor = 0x00D0D010;
@@ -289,7 +294,8 @@ class Game : private MoveListener {
 
     // Puzzles.
     // Leaves the game on the board: saves or asks, as the options say.
-    void LeaveBoard();
+    // False when the player chose to stay with a game that could not be saved.
+    bool LeaveBoard();
     // Lays record PuzzleNumber(level) of the chosen level on the board. False when
     // it can't be read: the message has been shown and the game is as it was.
     bool LoadPuzzle(bool askToGoOn);
@@ -304,6 +310,18 @@ class Game : private MoveListener {
     // Takes away the marks of the digits the peers hold; the others stay as
     // they are.
     void PruneMarks();
+    // The recovery copy: whether a game with steps is on the board, that game as
+    // copied, the copy kept up to date (from Announce), removed at a normal end,
+    // and offered back at start; true when a game was restored.
+    bool GameOnBoard() const;
+    RecoveryCopy CopyOfGame() const;
+    void KeepRecoveryCopy();
+    void EndRecoveryCopy();
+    bool OfferRecoveryCopy();
+    void RestoreCopy(const RecoveryCopy& copy);
+    // Save's work; false when nothing was written. A game whose puzzle has left
+    // its library is said once and kept in the recovery copy.
+    bool SaveGame();
     // Says so when the settings could not be read, or some of their values.
     void ReportSettingsProblems();
     // Saves the position keys and the options: every way out ends here.
@@ -361,8 +379,13 @@ class Game : private MoveListener {
     bool scanStop_ = false;
     GameEvents events_;
     View seen_;
-    int scopes_ = 0;            // public routines running, one inside the other
-    unsigned alsoChanged_ = 0;  // changes no look can see (the options)
+    int scopes_ = 0;             // public routines running, one inside the other
+    bool longGameSaid_ = false;  // this game has been told that a reload keeps 100 steps
+    bool longGameDue_ = false;   // ... and is to be told when its routine ends
+    std::optional<RecoveryCopy> copyWritten_;  // the recovery copy on disk, as written
+    bool puzzleGone_ = false;                  // the game's puzzle is no longer in its level
+    bool ending_ = false;                      // the program is ending normally: no more copies
+    unsigned alsoChanged_ = 0;                 // changes no look can see (the options)
 };
 
 }  // namespace tavi

@@ -10,7 +10,17 @@ Game::ChangeScope::ChangeScope(Game& game) : game_(game) {
 }
 
 Game::ChangeScope::~ChangeScope() {
-    if (--game_.scopes_ == 0) game_.Announce();
+    if (--game_.scopes_ != 0) return;
+    game_.Announce();
+    if (game_.longGameDue_) {
+        game_.longGameDue_ = false;
+        // Autosolve's steps and an ended game are never saved: nothing to say.
+        const LibraryPosition& p = game_.position();
+        if (!p.SudokuSolved && !p.SudokuAutosolved && !game_.busy_) {
+            game_.longGameSaid_ = true;
+            game_.services_.prompter.Message(kLongGameTitle, kLongGameText);
+        }
+    }
 }
 
 Game::View Game::Look() const {
@@ -37,6 +47,8 @@ Game::View Game::Look() const {
 }
 
 void Game::Announce() {
+    // What the window is about to show of the game is in the recovery copy first.
+    KeepRecoveryCopy();
     View now = Look();
     const View& was = seen_;
     Changes changes;

@@ -210,7 +210,7 @@ void Game::CommandScan() {
     }
     if (busy_) return;
     ResetHintStage();
-    LeaveBoard();
+    if (!LeaveBoard()) return;
     LibraryPosition& position_ = session_.position();
     const int level = position_.ChosenLevel;
     const auto file = session_.ChosenFile();

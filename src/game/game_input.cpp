@@ -11,6 +11,8 @@ MoveStep& Game::BeginStep(int cell) {
     commands_.Redo = false;
     MoveStep& step = moves_.BeginStep(cell);
     ShowStepCount();
+    // Said once, when the routine that took the game past what a record holds ends.
+    if (!MakeMode && !longGameSaid_ && moves_.CurrentStep() > kLogSteps) longGameDue_ = true;
     return step;
 }
 

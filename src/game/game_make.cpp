@@ -86,7 +86,7 @@ void Game::CommandMake() {
 
 void Game::StartMaking() {
     ResetHintStage();
-    LeaveBoard();
+    if (!LeaveBoard()) return;
     clock_.Off();
     ClearGrid();
     brushes_.Off();

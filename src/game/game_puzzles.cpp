@@ -3,6 +3,7 @@
 // routine.
 #include "game/display_text.h"
 #include "game/game.h"
+#include "game/saved_game_check.h"
 #include "grid/candidates.h"
 #include "grid/levels.h"
 #include "library/library_pair.h"
@@ -12,33 +13,43 @@ namespace tavi {
 namespace {
 
 constexpr std::string_view kInProgressTitle = "Sudoku in progress";
+constexpr std::string_view kPuzzleGoneTitle = "Sudoku not saved";
 
 }  // namespace
 
-void Game::LeaveBoard() {
+bool Game::LeaveBoard() {
     const LibraryPosition& position_ = session_.position();
     if (position_.SudokuAutosolved) ZetOpgelost();
-    if (position_.SudokuSolved || moves_.CurrentStep() < 1) return;
+    if (position_.SudokuSolved || moves_.CurrentStep() < 1) return true;
     if (options_.AutoSave) {
-        CommandSave();
+        SaveGame();
     } else if (options_.AskSave) {
         Prompter& ask = services_.prompter;
         if (ask.Ask(kInProgressTitle, "Do you want to save the current sudoku ?", Buttons::YesNo,
                     Icon::Question) == Answer::Yes) {
-            CommandSave();
+            SaveGame();
         } else if (ask.Ask(kInProgressTitle,
                            "Do you want to erase the progress of the current sudoku ?",
                            Buttons::YesNo, Icon::Question) == Answer::Yes) {
             session_.EraseProgress();
         }
     }
+    // A game that could not be saved is left only when the player says so.
+    if (puzzleGone_ &&
+        services_.prompter.Ask(kPuzzleGoneTitle,
+                               "This game can't be saved, as its puzzle has left the library. "
+                               "Leave it anyway ? It will be lost.",
+                               Buttons::YesNo, Icon::Question) != Answer::Yes)
+        return false;
+    puzzleGone_ = false;
+    return true;
 }
 
 void Game::CommandNew() {
     const ChangeScope scope(*this);
     if (busy_) return;  // a search is running
     ResetHintStage();
-    LeaveBoard();
+    if (!LeaveBoard()) return;
     // A level whose puzzles all moved out (or whose log lost its puzzle file) has
     // none to give; a pair that was refused has been named already.
     const long count = session_.ChosenCount();
@@ -57,7 +68,7 @@ void Game::CommandOpen() {
     const ChangeScope scope(*this);
     if (busy_) return;  // a search is running
     ResetHintStage();
-    LeaveBoard();
+    if (!LeaveBoard()) return;
     const int level = position().ChosenLevel;
     const long count = session_.ChosenCount();
     if (count < 1) {
@@ -93,6 +104,8 @@ bool Game::LoadPuzzle(bool askToGoOn) {
     clock_.SetSeconds(0);  // a new game starts its own clock; a resumed one reads it
     EnableGrid();
     moves_.Clear();
+    longGameSaid_ = longGameDue_ = false;
+    puzzleGone_ = false;
     ctx_.board.Puzzle = sudoku_.Puzzle;
     ctx_.board.Solution = sudoku_.Solution;
     sudTekst_ = FormatDigits(sudoku_.Puzzle, '0');
@@ -119,7 +132,16 @@ bool Game::LoadPuzzle(bool askToGoOn) {
 // The game as it was saved: digits, marks, the move log for undo, and the clock
 // with the two clock options its sign carries.
 void Game::RestoreProgress() {
-    const SudokuLogRecord& logRecord_ = session_.logRecord();
+    // A game that could not have been played on this puzzle (a log record of
+    // another puzzle, or a damaged one) must not let Undo change the givens.
+    SudokuLogRecord logRecord_ = session_.logRecord();
+    const SavedGameRepair repair = RepairSavedGame(sudoku(), logRecord_);
+    if (repair.Any()) {
+        const int level = position().ChosenLevel;
+        services_.prompter.Message(kSavedGameRepairedTitle,
+                                   SavedGameRepairedText(LogFileName(LevelStem(level)),
+                                                         position().PuzzleNumber[level], repair));
+    }
     moves_.Restore(logRecord_);
     ShowStepCount();
     for (int c = 0; c < 81; ++c) {
@@ -172,6 +194,8 @@ bool Game::OpenLastSudoku() {
     position_.SudokuAutosolved = false;
     ClearGrid();
     EnableGrid();
+    longGameSaid_ = longGameDue_ = false;
+    puzzleGone_ = false;
     ctx_.board.Puzzle = sudoku_.Puzzle;
     ctx_.board.Solution = sudoku_.Solution;
     sudTekst_ = FormatDigits(sudoku_.Puzzle, '0');
@@ -183,27 +207,46 @@ bool Game::OpenLastSudoku() {
 void Game::CommandSave() {
     const ChangeScope scope(*this);
     if (busy_) return;  // a search is running
+    SaveGame();
+}
+
+bool Game::SaveGame() {
     // A waiting "Show Me" is not kept in the file.
     ResetHintStage();
     const LibraryPosition& position_ = session_.position();
     Prompter& say = services_.prompter;
-    if (position_.SudokuSolved && !position_.SudokuAutosolved)
-        return say.Message("Sudoku solved",
-                           "Sudoku already solved, you can only save unsolved sudokus !");
-    if (moves_.CurrentStep() == 0)
-        return say.Message("Sudoku not in progress",
-                           "You cannot save a sudoku that hasn't been changed since it was "
-                           "opened !");
-    if (position_.SudokuAutosolved)
-        return say.Message("Sudoku Autosolved",
-                           "Autosolve function is invoked at the current sudoku, therefore you "
-                           "cannot save this sudoku !");
-    if (position_.OpenLevel == 0 || position_.OpenRecord == 0) return;
+    if (position_.SudokuSolved && !position_.SudokuAutosolved) {
+        say.Message("Sudoku solved", "Sudoku already solved, you can only save unsolved sudokus !");
+        return false;
+    }
+    if (moves_.CurrentStep() == 0) {
+        say.Message("Sudoku not in progress",
+                    "You cannot save a sudoku that hasn't been changed since it was opened !");
+        return false;
+    }
+    if (position_.SudokuAutosolved) {
+        say.Message("Sudoku Autosolved",
+                    "Autosolve function is invoked at the current sudoku, therefore you cannot "
+                    "save this sudoku !");
+        return false;
+    }
+    if (position_.OpenLevel == 0 || position_.OpenRecord == 0) return false;
+    // Never a game onto another puzzle: the record must still hold this one.
+    if (!session_.FindOpenPuzzle()) {
+        puzzleGone_ = true;
+        say.Message(kPuzzleGoneTitle,
+                    "The puzzle of this game is no longer in the " +
+                        std::string(LevelName(position_.OpenLevel)) +
+                        " library (it was changed while the game was open). The game was not "
+                        "saved, so that no other puzzle gets its digits; it is kept in the "
+                        "recovery copy and offered again at the next start.");
+        return false;
+    }
+    puzzleGone_ = false;
     session_.SavePosition(moves_.CurrentStep());
 
-    // A record holds 100 steps: a longer game is refused and the record on disk
-    // keeps its former state.
-    if (moves_.CurrentStep() > kLogSteps) return say.Message(kStepLimitTitle, kStepLimitText);
+    // A record holds the latest 100 steps of a longer game; its board, marks and
+    // clock are kept whole.
     SudokuLogRecord record = session_.logRecord();
     moves_.WriteTo(record);
     for (int c = 0; c < 81; ++c) {
@@ -212,7 +255,7 @@ void Game::CommandSave() {
             record.Grid[c] ? 0 : std::int16_t(ctx_.board.Candidates[c] << 1);
     }
     clock_.WriteTo(record);
-    session_.SaveGame(record);
+    return session_.SaveGame(record);
 }
 
 void Game::CommandSolution() {

@@ -36,6 +36,9 @@ bool Game::Start() {
     MakeMode = false;
     SelectedRow = SelectedColumn = kNoLine;
     HaalOpties(services_.store, options_);
+    // The position keys are read with the others, so that their faults are said
+    // in the same message.
+    session_.ReadPosition();
     ReportSettingsProblems();
     if (!services_.sounds || !services_.sounds->Available()) options_.Sounds = false;
 
@@ -51,7 +54,18 @@ bool Game::Start() {
     HoverCell = kNoHover;
 
     session_.Closed();
-    session_.ReadPosition();
+    // A run that did not end normally left its game in the recovery copy.
+    if (OfferRecoveryCopy()) {
+        WindowTitle = "Tavi Sudoku 1";
+        caption_ = WindowTitle + caption_;
+        return true;
+    }
+    // A "Level" or "Busy" that could not be read does not hide a saved game.
+    for (int level = 1; level <= 9; ++level) {
+        if (position_.BusyUnread[level]) position_.LevelBusy[level] = session_.SavedGameAt(level);
+        if (position_.LevelUnread && position_.LastLevel == 0 && position_.LevelBusy[level])
+            position_.LastLevel = level;
+    }
     if (position_.LastLevel > 0) {
         const int level = position_.LastLevel;
         position_.ChosenLevel = level;
@@ -81,8 +95,12 @@ void Game::ReportSettingsProblems() {
     if (!store.Unreadable().empty()) {
         if (!text.empty()) text += "\n\n";
         text += "These settings could not be read and their defaults are used:";
-        for (const std::string& each : store.Unreadable())
-            text += "\n" + each;
+        constexpr std::size_t kListed = 12;
+        const auto& unreadable = store.Unreadable();
+        for (std::size_t i = 0; i < unreadable.size() && i < kListed; ++i)
+            text += "\n" + unreadable[i];
+        if (unreadable.size() > kListed)
+            text += "\nand " + std::to_string(unreadable.size() - kListed) + " more";
     }
     if (!text.empty()) services_.prompter.Message(kSettingsProblemTitle, text);
 }
@@ -139,6 +157,9 @@ void Game::CloseGameRecord() {
 void Game::WriteSettingsOnExit() {
     session_.SavePosition(moves_.CurrentStep());
     SchrijfOpties(services_.store, options_);
+    // The colours too, so that one that could not be read is not said again.
+    SchrijfKleuren(services_.store, options_.colors);
+    EndRecoveryCopy();
 }
 
 bool Game::CommandExit() {
@@ -158,13 +179,13 @@ bool Game::CommandExit() {
         if (!plainYes()) return false;
     } else if (options_.AutoSave) {
         if (!plainYes()) return false;
-        CommandSave();
+        SaveGame();
     } else if (options_.AskSave) {
         const Answer a =
             ask.Ask(kInProgressTitle, kSaveQuestion, Buttons::YesNoCancel, Icon::Question);
         if (a == Answer::Cancel) return false;
         if (a == Answer::Yes)
-            CommandSave();
+            SaveGame();
         else
             discard();
     } else {
@@ -188,7 +209,7 @@ bool Game::QueryUnload() {
             ask.Ask(kInProgressTitle, kSaveQuestion, Buttons::YesNoCancel, Icon::Question);
         if (a == Answer::Cancel) return false;
         if (a == Answer::Yes) {
-            CommandSave();
+            SaveGame();
         } else {
             position_.SudokuSolved = true;
             moves_.Clear();
@@ -200,12 +221,12 @@ bool Game::QueryUnload() {
     } else if (options_.AutoSave) {
         if (!plainYes()) return false;
         if (position_.SudokuAutosolved) ZetOpgelost();
-        CommandSave();
+        SaveGame();
     } else if (options_.AskSave || !position_.SudokuAutosolved) {
         if (!saveOrDiscard()) return false;
     } else {
         if (!plainYes()) return false;
-        CommandSave();
+        SaveGame();
     }
     WriteSettingsOnExit();
     return true;

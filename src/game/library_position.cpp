@@ -24,12 +24,18 @@ void FileError(Notifier* notifier, std::string_view text) {
 }  // namespace
 
 void HaalLaatsteSudoku(const SettingsStore& store, LibraryPosition& position) {
-    const int level = ReadInt(store, "Sudoku", "Level", 0);
-    position.LastLevel = IsLevel(level) ? level : 0;
+    const std::string levelText = store.Read("Sudoku", "Level", "0");
+    const auto level = ParseWhole(levelText, 0, kLevelCount);
+    if (!level) store.NoteUnreadable("Sudoku", "Level", levelText);
+    position.LevelUnread = !level;
+    position.LastLevel = int(level.value_or(0));
     for (int i = 1; i <= kLevelCount; ++i) {
         position.StoredNumber[i] = ReadRecordNumber(store, i);
         position.PuzzleNumber[i] = position.StoredNumber[i];
-        position.LevelBusy[i] = store.Read(LevelSection(i), "Busy", "No") == "Yes";
+        const std::string busy = store.Read(LevelSection(i), "Busy", "No");
+        position.LevelBusy[i] = busy == "Yes";
+        position.BusyUnread[i] = busy != "Yes" && busy != "No";
+        if (position.BusyUnread[i]) store.NoteUnreadable(LevelSection(i), "Busy", busy);
     }
 }
 

@@ -23,6 +23,8 @@ struct LibraryPosition {
     std::array<int, 10> StoredNumber{};  // the same, as read at start
     int LastLevel = 0;                   // the level of the last run
     std::array<bool, 10> LevelBusy{};    // by level: left with a game in progress
+    std::array<bool, 10> BusyUnread{};   // by level: "Busy" held neither "Yes" nor "No"
+    bool LevelUnread = false;            // "Level" held no level
     int CurrentStep = 0;                 // steps of the game in play, as last written
     bool SudokuSolved = true;            // no game going on
     bool SudokuAutosolved = false;

@@ -1,6 +1,8 @@
 // The game's reads and writes of the library.
 #include "game/library_session.h"
 
+#include <algorithm>
+
 #include "grid/levels.h"
 #include "library/library_pair.h"
 
@@ -41,6 +43,15 @@ bool LibrarySession::ReadLast() {
     return true;
 }
 
+bool LibrarySession::SavedGameAt(int level) const {
+    const std::string_view stem = LevelStem(level);
+    SudokuLogRecord log;
+    return !stem.empty() && position_.PuzzleNumber[level] >= 1 &&
+           ReadSudokuLogRecord(LogFile(folders_.DataFolder, stem), position_.PuzzleNumber[level],
+                               log) &&
+           log.StepCount > 0;
+}
+
 bool LibrarySession::HasProgress() const {
     bool goOn = false;
     for (int c = 0; c < 81 && !goOn; ++c)
@@ -69,8 +80,46 @@ void LibrarySession::SavePosition(int currentStep) {
     SaveLastSudoku(store_, position_);
 }
 
-void LibrarySession::SaveGame(const SudokuLogRecord& record) {
-    if (SaveGameLog(folders_, position_, record, &prompter_)) logRecord_ = record;
+bool LibrarySession::SaveGame(const SudokuLogRecord& record) {
+    if (!SaveGameLog(folders_, position_, record, &prompter_)) return false;
+    logRecord_ = record;
+    return true;
+}
+
+void LibrarySession::Adopt(const SudokuRecord& sudoku) {
+    sudoku_ = sudoku;
+    logRecord_ = {};
+    logRecord_.Grid = sudoku.Puzzle;
+}
+
+bool LibrarySession::FindOpenPuzzle() {
+    const std::string_view stem = LevelStem(position_.OpenLevel);
+    if (stem.empty() || position_.OpenRecord < 1) return false;
+    const auto sds = PuzzleFile(folders_.DataFolder, stem);
+    SudokuRecord there;
+    if (ReadSudokuRecord(sds, position_.OpenRecord, there) && there.Puzzle == sudoku_.Puzzle)
+        return true;
+    // Renumbered behind the game's back (the workbench, the command line, another
+    // copy of the program): the puzzle is looked for in its level, first place first.
+    std::vector<SudokuRecord> all;
+    std::vector<std::string> damaged;
+    if (!ReadSudokuFile(sds, all, nullptr, nullptr, &damaged)) return false;
+    long number = 0;
+    if (damaged.empty()) {
+        const auto it = std::find_if(all.begin(), all.end(), [&](const SudokuRecord& r) {
+            return r.Puzzle == sudoku_.Puzzle;
+        });
+        if (it != all.end()) number = long(it - all.begin()) + 1;
+    } else {
+        // Damaged records are left out of `all`: the numbers are counted on disk.
+        const long count = WholeRecords(sds, kSudokuRecordSize);
+        for (long k = 1; k <= count && number == 0; ++k)
+            if (ReadSudokuRecord(sds, k, there) && there.Puzzle == sudoku_.Puzzle) number = k;
+    }
+    if (number == 0) return false;
+    position_.OpenRecord = std::int32_t(number);
+    position_.PuzzleNumber[position_.OpenLevel] = int(number);
+    return true;
 }
 
 }  // namespace tavi

@@ -39,6 +39,9 @@ class LibrarySession {
     // The game in progress of the last run, when its record holds one; nothing
     // is said when not.
     bool ReadLast();
+    // Whether record PuzzleNumber of `level` holds a saved game (steps to undo);
+    // nothing is said when it can't be read.
+    bool SavedGameAt(int level) const;
     // Whether the record read holds digits of the user.
     bool HasProgress() const;
     // The record read is the one in play, or none is.
@@ -46,19 +49,32 @@ class LibrarySession {
     void Closed();
     // No puzzle and an empty log record.
     void Forget();
+    // A puzzle that comes from elsewhere (the recovery copy): the log record read
+    // is empty.
+    void Adopt(const SudokuRecord& sudoku);
+    // Whether record OpenRecord of OpenLevel still holds the puzzle in play. When
+    // the level was renumbered meanwhile the puzzle is looked for in its level,
+    // and its new number becomes OpenRecord; false when it is nowhere, and then
+    // nothing may be written for the game.
+    bool FindOpenPuzzle();
 
     // The position keys out of the store, and back with `currentStep` steps in
     // play.
     void ReadPosition() { HaalLaatsteSudoku(store_, position_); }
     void SavePosition(int currentStep);
     // The open record's progress erased on disk.
-    void EraseProgress() { AutoWisProgress(folders_, position_, sudoku_, logRecord_); }
+    void EraseProgress() {
+        if (FindOpenPuzzle()) AutoWisProgress(folders_, position_, sudoku_, logRecord_);
+    }
     // Whether the open record, as it stands on disk, holds a game.
     bool OnDisk() const { return SudInProgress(folders_, position_); }
     // The puzzle record with its best time just changed.
-    void SaveBestTime() { BewaarBestTime(folders_, position_, sudoku_, &prompter_); }
-    // Writes the game's log record; it becomes the record read when written.
-    void SaveGame(const SudokuLogRecord& record);
+    void SaveBestTime() {
+        if (FindOpenPuzzle()) BewaarBestTime(folders_, position_, sudoku_, &prompter_);
+    }
+    // Writes the game's log record at OpenRecord, found by FindOpenPuzzle; it
+    // becomes the record read when written.
+    bool SaveGame(const SudokuLogRecord& record);
 
   private:
     LibraryFolders folders_;

@@ -102,9 +102,13 @@ void MoveLog::Restore(const SudokuLogRecord& record) {
 }
 
 void MoveLog::WriteTo(SudokuLogRecord& record) const {
-    record.StepCount = std::int16_t(current_);
-    for (int i = 0; i < current_ && i < kLogSteps; ++i) {
-        const MoveStep& s = steps_[i];
+    // A record holds the latest steps up to the current one; older steps of a
+    // long game fall off the front, so Undo after a reload reaches back that far.
+    const int count = std::min(current_, kLogSteps);
+    const int first = current_ - count;
+    record.StepCount = std::int16_t(count);
+    for (int i = 0; i < count; ++i) {
+        const MoveStep& s = steps_[first + i];
         record.LogDigit[i] = std::int16_t(s.LogDigit);
         record.LogCell[i] = std::int16_t(s.LogCell);
         record.LogOwnMarks[i] = std::int16_t(s.LogOwnMarks);
@@ -112,6 +116,11 @@ void MoveLog::WriteTo(SudokuLogRecord& record) const {
         record.LogRowMarks[i] = std::int16_t(s.LogRowMarks);
         record.LogBoxMarks[i] = std::int16_t(s.LogBoxMarks);
     }
+}
+
+void MoveLog::Assign(std::vector<MoveStep> steps, int current) {
+    steps_ = std::move(steps);
+    current_ = std::clamp(current, 0, int(steps_.size()));
 }
 
 }  // namespace tavi

@@ -51,9 +51,11 @@ class MoveLog {
 
     // The steps of a saved game; out-of-range counts are clamped to the record.
     void Restore(const SudokuLogRecord& record);
-    // The steps up to the current one into the record; the caller has checked
-    // that they fit.
+    // The latest steps up to the current one into the record, as many as it
+    // holds (kLogSteps); the redo tail is not kept.
     void WriteTo(SudokuLogRecord& record) const;
+    // A log as kept elsewhere (the recovery copy): `current` steps applied.
+    void Assign(std::vector<MoveStep> steps, int current);
 
   private:
     static bool OnBoard(const MoveStep& step) { return step.LogCell >= 0 && step.LogCell <= 80; }

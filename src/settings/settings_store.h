@@ -30,10 +30,13 @@ class SettingsStore {
     // The values read so far that could not be understood, as "Section/Key=value";
     // the default stood in for each.
     const std::vector<std::string>& Unreadable() const { return unreadable_; }
+    // A long value is cut: the note is for a message box.
     void NoteUnreadable(std::string_view section, std::string_view key,
                         std::string_view value) const {
-        unreadable_.push_back(std::string(section) + "/" + std::string(key) + "=" +
-                              std::string(value));
+        constexpr std::size_t kShown = 40;
+        std::string shown(value.substr(0, kShown));
+        if (value.size() > kShown) shown += "... (" + std::to_string(value.size()) + " characters)";
+        unreadable_.push_back(std::string(section) + "/" + std::string(key) + "=" + shown);
     }
 
   private:

@@ -12,10 +12,12 @@ constexpr std::string_view kSection = "Technique";
 
 std::string Key(std::string_view name, int i) { return std::string(name) + std::to_string(i); }
 
-// A check box holds 0 or 1; anything else is no value of it.
+// A check box holds 0 or 1; anything else is no value of it, and is said.
 int ReadFlag(const SettingsStore& store, const std::string& key, int fallback) {
-    const int value = ReadInt(store, kSection, key, fallback);
-    return value == 0 || value == 1 ? value : fallback;
+    const std::string text = store.Read(kSection, key, std::to_string(fallback));
+    const auto value = ParseWhole(text, 0, 1);
+    if (!value) store.NoteUnreadable(kSection, key, text);
+    return int(value.value_or(fallback));
 }
 
 }  // namespace
@@ -23,16 +25,23 @@ int ReadFlag(const SettingsStore& store, const std::string& key, int fallback) {
 void ReadTechniqueTables(const SettingsStore& store, TechniqueTables& tables) {
     using T = TechniqueTables;
     for (int i = 0; i < kTechniqueCount; ++i) {
-        tables.OnOff[i] = i < T::kFirstOptionalTechnique ? 1 : ReadFlag(store, Key("OnOff", i), 1);
-        tables.Halt[i] = i < T::kFirstOptionalHalt ? 1 : ReadFlag(store, Key("Halt", i), 0);
+        // The fixed rungs are read too, so that a value no flag can hold is said;
+        // their setting stays.
+        const int onOff = ReadFlag(store, Key("OnOff", i), 1);
+        const int halt = ReadFlag(store, Key("Halt", i), i < T::kFirstOptionalHalt ? 1 : 0);
+        tables.OnOff[i] = i < T::kFirstOptionalTechnique ? 1 : onOff;
+        tables.Halt[i] = i < T::kFirstOptionalHalt ? 1 : halt;
         const int order = ReadInt(store, kSection, Key("Order", i), i);
         const bool movable = i >= T::kFirstMovable && i <= T::kLastMovable;
-        tables.Order[i] =
-            movable && order >= T::kFirstMovable && order <= T::kLastMovable ? order : i;
+        const bool fits =
+            movable ? order >= T::kFirstMovable && order <= T::kLastMovable : order == i;
+        if (!fits) store.NoteUnreadable(kSection, Key("Order", i), std::to_string(order));
+        tables.Order[i] = fits ? order : i;
     }
     for (int i = 1; i < kTechniqueCount - 1; ++i)
         for (int j = i + 1; j < kTechniqueCount; ++j)
             if (tables.Order[i] == tables.Order[j]) {
+                store.NoteUnreadable(kSection, Key("Order", j), std::to_string(tables.Order[j]));
                 tables.Order = DefaultTechniqueOrder();
                 return;
             }

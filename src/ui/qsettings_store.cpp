@@ -1,6 +1,9 @@
 #include "ui/qsettings_store.h"
 
+#include <QFile>
 #include <QFileInfo>
+#include <QLockFile>
+#include <QStandardPaths>
 
 namespace tavi::ui {
 
@@ -15,16 +18,38 @@ QString Path(std::string_view section, std::string_view key) {
     return Text(section) + QLatin1Char('/') + Text(key);
 }
 
+// The lock a writer of the file leaves beside it while it writes. One that says
+// nothing of its owner (empty or torn, as a kill between its creation and its
+// text leaves it) is no lock of a living writer, yet the settings would wait
+// half a minute for it to age: it goes at once. A lock of a dead owner Qt
+// recognises by itself.
+void RemoveBrokenLock(const QString& iniFile) {
+    const QString lockFile = iniFile + QStringLiteral(".lock");
+    if (!QFileInfo::exists(lockFile)) return;
+    qint64 pid = 0;
+    QString host, application;
+    QLockFile lock(lockFile);
+    if (!lock.getLockInfo(&pid, &host, &application)) QFile::remove(lockFile);
+}
+
+QString UserIniFile() {
+    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
+           QStringLiteral("/") + kApplication + QStringLiteral("/") + kApplication +
+           QStringLiteral(".ini");
+}
+
 }  // namespace
 
 QSettingsStore::QSettingsStore()
-    : settings_(std::make_unique<QSettings>(QSettings::IniFormat, QSettings::UserScope,
-                                            kApplication, kApplication)) {
+    : settings_((RemoveBrokenLock(UserIniFile()),
+                 std::make_unique<QSettings>(QSettings::IniFormat, QSettings::UserScope,
+                                             kApplication, kApplication))) {
     CheckReadable();
 }
 
 QSettingsStore::QSettingsStore(const QString& iniFile)
-    : settings_(std::make_unique<QSettings>(iniFile, QSettings::IniFormat)) {
+    : settings_(
+          (RemoveBrokenLock(iniFile), std::make_unique<QSettings>(iniFile, QSettings::IniFormat))) {
     CheckReadable();
 }
 
@@ -39,7 +64,9 @@ void QSettingsStore::CheckReadable() {
         why = "it is no settings file";
     if (!why.empty())
         SetProblem("The settings file " + file.filePath().toStdString() + " was not used: " + why +
-                   ". Tavi Sudoku runs on its default settings and leaves that file as it is.");
+                   ". Tavi Sudoku runs on its default settings and leaves that file as it is. "
+                   "To have your settings kept again, delete or rename that file (or correct "
+                   "it in a text editor); the next start makes a fresh one.");
 }
 
 std::string QSettingsStore::Read(std::string_view section, std::string_view key,

@@ -3,7 +3,9 @@
 #include <QApplication>
 #include <QGridLayout>
 #include <QInputDialog>
+#include <QLabel>
 #include <QMessageBox>
+#include <QScreen>
 
 #include <algorithm>
 
@@ -62,14 +64,47 @@ Answer AnswerOf(int button, Buttons asked) {
     }
 }
 
+// A message box never grows past the screen, whatever it is given to say: at
+// most kLines lines and kCharacters characters, and a word longer than the box
+// is wide gets places to break.
+QString BoundedText(std::string_view text) {
+    constexpr int kLines = 24, kWordLength = 60, kCharacters = 1500;
+    const QStringList lines = ToQString(text.substr(0, 64 * 1024)).split(QLatin1Char('\n'));
+    QStringList shown;
+    int characters = 0, i = 0;
+    for (; i < lines.size() && i < kLines && characters < kCharacters; ++i) {
+        QString line = lines[i];
+        if (characters + line.size() > kCharacters)
+            line = line.left(kCharacters - characters) + QStringLiteral("...");
+        characters += int(line.size());
+        QString broken;
+        int run = 0;
+        for (const QChar ch : line) {
+            run = ch.isSpace() ? 0 : run + 1;
+            if (run > kWordLength) {
+                broken += QChar(0x200B);  // a zero-width space: the line may break here
+                run = 1;
+            }
+            broken += ch;
+        }
+        shown << broken;
+    }
+    if (i < lines.size()) shown << QStringLiteral("and %1 more lines").arg(lines.size() - i);
+    return shown.join(QLatin1Char('\n'));
+}
+
 }  // namespace
 
 void QtPrompter::Beep() { QApplication::beep(); }
 
 std::unique_ptr<QMessageBox> MessageBoxFor(QWidget* parent, std::string_view title,
                                            std::string_view text, Buttons buttons, Icon icon) {
-    auto box = std::make_unique<QMessageBox>(IconOf(icon), ToQString(title), ToQString(text),
+    auto box = std::make_unique<QMessageBox>(IconOf(icon), ToQString(title), BoundedText(text),
                                              ButtonsOf(buttons), parent);
+    if (auto* label = box->findChild<QLabel*>(QStringLiteral("qt_msgbox_label")))
+        label->setWordWrap(true);
+    if (const QScreen* screen = parent ? parent->screen() : QApplication::primaryScreen())
+        box->setMaximumSize(screen->availableGeometry().size());
     box->setEscapeButton(EscapeOf(buttons));
     if (buttons == Buttons::YesNo || buttons == Buttons::YesNoCancel)
         box->setDefaultButton(QMessageBox::Yes);

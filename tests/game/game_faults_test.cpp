@@ -66,13 +66,15 @@ TEST_F(Faults, ADamagedRecordIsNamedAndTheGameStaysAsItWas) {
 }
 
 // A settings file the program can't read, or a value in it it can't, is said
-// at start; the first run that follows only adds, so a saved game survives.
+// at start, once, and the first-run box does not come back while the log files
+// are there; a saved game survives, and bad position keys still offer it.
 TEST_F(Faults, UnreadableSettingsAreSaidAndNoSavedGameIsLost) {
     Game& g = Playing(2);
     PlaceOne();
     g.CommandSave();
     const SudokuLogRecord saved = LogOf(2, 1);
     ASSERT_GT(saved.StepCount, 0);
+    const MemorySettingsStore kept = store;
     for (const bool wholeFile : {false, true}) {
         MemorySettingsStore fresh;
         if (wholeFile)
@@ -82,13 +84,72 @@ TEST_F(Faults, UnreadableSettingsAreSaidAndNoSavedGameIsLost) {
         store = fresh;
         prompter.shown.clear();
         Started();
-        ASSERT_GE(prompter.shown.size(), 2u);
+        ASSERT_EQ(prompter.shown.size(), 1u);
         EXPECT_EQ(prompter.shown[0].title, "Settings not read");
         EXPECT_NE(prompter.shown[0].text.find(wholeFile ? "x.ini" : "Options/Logfiles=Yes"),
                   std::string::npos);
-        EXPECT_EQ(prompter.shown[1].title, "Tavi Sudoku - 1st run initiation");
         EXPECT_EQ(LogOf(2, 1), saved);
     }
+    // "Level" and "Busy" that can't be read are said with the others, and the
+    // saved game is still offered.
+    for (const auto& [level, busy] :
+         {std::pair{"abc", "Yes"}, std::pair{"2", "maybe"}, std::pair{"", "yes please"}}) {
+        store = kept;
+        store.Write("Sudoku", "Level", level);
+        store.Write("SudokuLevel2", "Busy", busy);
+        store.Write("Technique", "OnOff4", "banana");
+        prompter.shown.clear();
+        prompter.answers = {Answer::Yes};  // "Do you want to proceed with the last saved sudoku ?"
+        Started();
+        ASSERT_GE(prompter.shown.size(), 2u) << level << " " << busy;
+        const std::string said = prompter.shown[0].text;
+        EXPECT_NE(said.find("Technique/OnOff4=banana"), std::string::npos) << said;
+        if (std::string(level) != "2")
+            EXPECT_NE(said.find("Sudoku/Level=" + std::string(level)), std::string::npos) << said;
+        if (std::string(busy) != "Yes")
+            EXPECT_NE(said.find("SudokuLevel2/Busy=" + std::string(busy)), std::string::npos)
+                << said;
+        EXPECT_EQ(prompter.shown[1].text, "Do you want to proceed with the last saved sudoku ?");
+        EXPECT_EQ(game->CurrentStep(), saved.StepCount);
+    }
+}
+
+// A colour that can't be read is said once: the exit writes the colours back,
+// as it does the options.
+TEST_F(Faults, ABadColourIsSaidOnce) {
+    store.Write("Colors", "HColor3", "not a colour");
+    store.Write("Options", "Sounds", "banana");
+    prompter.shown.clear();
+    Game& g = Started();
+    ASSERT_FALSE(prompter.shown.empty());
+    EXPECT_NE(prompter.shown[0].text.find("Colors/HColor3=not a colour"), std::string::npos);
+    EXPECT_NE(prompter.shown[0].text.find("Options/Sounds=banana"), std::string::npos);
+    prompter.answers = {Answer::Yes};  // "Do you really want to quit ?"
+    ASSERT_TRUE(g.CommandExit());
+    // The next run reads the file afresh.
+    MemorySettingsStore next;
+    for (const auto& [key, value] : store.Values())
+        next.Write(key.first, key.second, value);
+    store = next;
+    prompter.shown.clear();
+    Started();
+    EXPECT_TRUE(prompter.shown.empty()) << prompter.Last().second;
+    EXPECT_EQ(game->options().colors.HintColor[3], kDefaultHintColor[3]);
+}
+
+// A value of any length is cut in the message, and a long list of them ends
+// with how many more there are.
+TEST_F(Faults, TheSettingsMessageStaysSmall) {
+    store.Write("Options", "Wells", std::string(30'000'000, 'x'));
+    for (int i = 0; i < 40; ++i)
+        store.Write("Technique", "Order" + std::to_string(i), "-" + std::string(500, '7'));
+    prompter.shown.clear();
+    Started();
+    ASSERT_FALSE(prompter.shown.empty());
+    const std::string said = prompter.shown[0].text;
+    EXPECT_LT(said.size(), 2000u);
+    EXPECT_NE(said.find("(30000000 characters)"), std::string::npos);
+    EXPECT_NE(said.find("more"), std::string::npos);
 }
 
 // Record numbers past 16 bits open, save and come back at the next start.

@@ -159,25 +159,6 @@ TEST_F(Puzzles, SaveRefusesInOrder) {
     EXPECT_EQ(LogOf(1, 1).StepCount, 1);
 }
 
-TEST_F(Puzzles, AGameOfMoreThanAHundredStepsIsNotSaved) {
-    Game& g = Playing(3);
-    PlaceOne();
-    g.CommandSave();
-    const SudokuLogRecord before = LogOf(3, 1);
-    for (int i = 0; i < 100; ++i)
-        g.MarkMouseUp(1, FirstOpenCell().first, MouseButton::Middle, true);
-    ASSERT_EQ(g.CurrentStep(), 101);
-    prompter.shown.clear();
-    g.CommandSave();
-    ASSERT_EQ(prompter.shown.size(), 1u);
-    EXPECT_EQ(prompter.Last().first, "Sudoku not saved");
-    EXPECT_EQ(LogOf(3, 1), before);
-    // Undo still works through all of it.
-    for (int i = 0; i < 101; ++i)
-        g.CommandUndo();
-    EXPECT_EQ(g.CurrentStep(), 0);
-}
-
 TEST_F(Puzzles, SolvingByHandEndsTheGameWithABestTime) {
     Game& g = Playing(1);
     options.Sounds = true;

@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "game/game.h"
+#include "game/recovery_copy.h"
 #include "library/library_files.h"
 #include "library/library_pair.h"
 #include "settings/options.h"
@@ -117,8 +118,10 @@ class GameFixture : public ::testing::Test {
     }
     ~GameFixture() override { std::filesystem::remove_all(root); }
 
-    // A new game over the same folders and store, as at the next start.
+    // A new game over the same folders and store, as at the next start. The run
+    // before ended normally (its recovery copy is gone) unless `crashed` is set.
     Game& NewGame() {
+        if (!crashed) RemoveRecoveryCopy(folders.DataFolder);
         game.emplace(GameServices{prompter, store, clock, &sounds, &pages,
                                   [this] {
                                       if (yield) yield();
@@ -193,6 +196,7 @@ class GameFixture : public ::testing::Test {
     Options options;
     std::optional<Game> game;
     std::function<void()> yield;  // what the window does while a search breathes
+    bool crashed = false;         // the next start follows a run that did not end
 };
 
 }  // namespace tavi::testing

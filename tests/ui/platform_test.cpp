@@ -7,6 +7,7 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScreen>
 #include <QTemporaryDir>
 
 #include "print/board_geometry.h"
@@ -17,6 +18,32 @@
 
 namespace tavi::ui {
 namespace {
+
+// Whatever it is given, a box fits on the screen: one endless word, very long
+// lines, thousands of lines. Short texts are shown as they are.
+TEST(QtPrompter, ABoxNeverGrowsPastTheScreen) {
+    const QSize screen = QApplication::primaryScreen()->availableGeometry().size();
+    std::string lines;
+    for (int i = 0; i < 5000; ++i)
+        lines += "Technique/Order" + std::to_string(i) + "=" + std::string(300, '7') + "\n";
+    for (const std::string& text : {std::string(3'000'000, 'x'), lines,
+                                    std::string(2000, 'y') + " " + std::string(2000, 'z')}) {
+        const auto box =
+            MessageBoxFor(nullptr, "Settings not read", text, Buttons::Ok, Icon::Exclamation);
+        box->show();
+        QApplication::processEvents();
+        EXPECT_LE(box->width(), screen.width());
+        EXPECT_LE(box->height(), screen.height());
+        EXPECT_LT(box->text().size(), 20000);
+    }
+    std::string sentences;
+    for (int i = 0; i < 12; ++i)
+        sentences += "A number of logfiles has to be created, normally only once. ";
+    for (const std::string& text : {std::string("New best time !!!"), sentences}) {
+        const auto plain = MessageBoxFor(nullptr, "Tavi Sudoku", text, Buttons::Ok, Icon::None);
+        EXPECT_EQ(plain->text().toStdString(), text);
+    }
+}
 
 TEST(QtPrompter, AsksWithTheGamesTitleTextButtonsAndIcon) {
     QtPrompter prompter;

@@ -107,5 +107,44 @@ TEST(ProgramFolders, AnInstalledProgramFindsWhatItBringsUnderShare) {
     EXPECT_EQ(DeliveredFolder(root.filePath("games")), root.filePath("share/games/tavi-sudoku"));
 }
 
+// A lock beside the file that names no owner (a kill left it empty) is no
+// lock: it goes at once, and the settings are read and written as always.
+TEST(QSettingsStore, AnEmptyLockBesideTheFileIsNoLock) {
+    QTemporaryDir dir;
+    const QString file = dir.filePath("TaviSud1.ini");
+    {
+        QFile ini(file);
+        ASSERT_TRUE(ini.open(QIODevice::WriteOnly));
+        ini.write("[Options]\nWells=False\n");
+    }
+    for (const QByteArray junk : {QByteArray(), QByteArray("not a lock")}) {
+        QFile lock(file + ".lock");
+        ASSERT_TRUE(lock.open(QIODevice::WriteOnly));
+        lock.write(junk);
+        lock.close();
+        QSettingsStore store(file);
+        EXPECT_FALSE(QFile::exists(file + ".lock"));
+        EXPECT_EQ(store.Read("Options", "Wells", "True"), "False");
+        store.Write("Options", "Sounds", "True");
+        store.Flush();
+    }
+    EXPECT_EQ(QSettingsStore(file).Read("Options", "Sounds", "False"), "True");
+}
+
+// A file that is no settings file is left as it is, and the message says how
+// to have settings kept again.
+TEST(QSettingsStore, AFileThatIsNoSettingsFileSaysHowToFixIt) {
+    QTemporaryDir dir;
+    const QString file = dir.filePath("TaviSud1.ini");
+    {
+        QFile ini(file);
+        ASSERT_TRUE(ini.open(QIODevice::WriteOnly));
+        ini.write("[Options\n\xff\xfe=\n[[[\n");
+    }
+    const QSettingsStore store(file);
+    if (store.Problem().empty()) GTEST_SKIP() << "this Qt reads the file anyway";
+    EXPECT_NE(store.Problem().find("delete or rename that file"), std::string::npos);
+}
+
 }  // namespace
 }  // namespace tavi::ui
