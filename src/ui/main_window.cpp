@@ -139,6 +139,11 @@ void MainWindow::Show(Changes c) {
         hintShows_ = game_.HintWindowShows();
         Hints()->ShowHint();
     }
+    // Another game on the board: the hint window's copy of the one before goes.
+    if (c.Has(kChangeHintWindow) && game_.Generation() != generation_) {
+        generation_ = game_.Generation();
+        if (hints_) hints_->Refresh();
+    }
 }
 
 void MainWindow::RefreshCommands() {

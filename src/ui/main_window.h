@@ -124,6 +124,7 @@ class MainWindow : public QMainWindow {
     class CheckWindow* workbench_ = nullptr;
     HintWindow* hints_ = nullptr;
     int hintShows_ = 0;       // the hint window's showings the game asked for and got
+    int generation_ = 0;      // the game whose board the hint window may copy
     bool exiting_ = false;    // Exit has asked already: the close goes through
     bool minimised_ = false;  // the clock is paused
 };
