@@ -102,6 +102,10 @@ void MainWindow::Do(const std::function<void()>& handler) {
     handler();
 }
 
+void MainWindow::ReturnFocus() {
+    if (!exiting_) area_->Board()->setFocus(Qt::OtherFocusReason);
+}
+
 void MainWindow::Breathe() {
     // The game has told what its search changed so far; let it be drawn.
     QCoreApplication::processEvents();

@@ -92,6 +92,8 @@ class MainWindow : public QMainWindow {
     // no other command.
     void Do(const std::function<void()>& handler);
     void Exit();
+    // The board takes the keys back, so arrows and digits work at once.
+    void ReturnFocus();
     void ShowRevisions();
     void ShowWorkbench();
     void ShowOptions();
