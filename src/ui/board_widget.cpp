@@ -54,6 +54,7 @@ void BoardWidget::paintEvent(QPaintEvent*) {
     BoardPicture picture = PictureOf(game_);
     picture.cursor = cursor_;
     picture.cursorFocused = hasFocus();
+    if (game_.GridEnabled()) AddHighlight(picture, cursor_, game_.options());
     PaintBoard(p, layout_, picture, ScreenLook(palette()), &glyphs_);
     if (!notice_.isEmpty()) PaintNotice(p);
 }
