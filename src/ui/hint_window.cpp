@@ -14,6 +14,7 @@
 #include <QScreen>
 
 #include <algorithm>
+#include <tuple>
 
 #include "hints/hint_kinds.h"
 #include "ui/qt_convert.h"
@@ -102,17 +103,92 @@ void HintWindow::Present() {
     raise();
 }
 
-QPoint HintWindowPlace(const QRect& mainFrame, const QSize& hintFrame, const QRect& screenFree) {
+namespace {
+
+long Overlap(const QRect& a, const QRect& b) {
+    const QRect both = a.intersected(b);
+    return both.isEmpty() ? 0 : long(both.width()) * both.height();
+}
+
+// How much a window at `r` hides: of what must stay clear, of what had better
+// stay clear, of the game window.
+using Hidden = std::tuple<long, long, long>;
+
+Hidden HiddenBy(const QRect& r, const QRect& mainFrame, const std::vector<QRect>& keepClear,
+                const std::vector<QRect>& rather) {
+    long keep = 0, better = 0;
+    for (const QRect& k : keepClear)
+        keep += Overlap(r, k);
+    for (const QRect& k : rather)
+        better += Overlap(r, k);
+    return {keep, better, Overlap(r, mainFrame)};
+}
+
+// The best place of a window of `size` among places along the screen's edges
+// and beside every part to keep clear.
+std::pair<Hidden, QPoint> BestPlace(const QRect& mainFrame, const QSize& size, const QRect& free,
+                                    const std::vector<QRect>& keepClear,
+                                    const std::vector<QRect>& rather) {
+    constexpr int kGap = 8;
+    const int w = size.width(), h = size.height();
+    std::vector<int> xs = {free.left(), free.right() + 1 - w, mainFrame.left(),
+                           mainFrame.right() + 1 - w};
+    std::vector<int> ys = {free.top(), free.bottom() + 1 - h, mainFrame.top(),
+                           mainFrame.bottom() + 1 - h};
+    for (const auto* list : {&keepClear, &rather})
+        for (const QRect& r : *list) {
+            xs.insert(xs.end(), {r.right() + 1 + kGap, r.left() - kGap - w, r.left()});
+            ys.insert(ys.end(), {r.bottom() + 1 + kGap, r.top() - kGap - h, r.top()});
+        }
+    auto clampTo = [](int v, int low, int high) { return std::max(low, std::min(v, high)); };
+    std::optional<std::pair<Hidden, QPoint>> best;
+    for (int x : xs)
+        for (int y : ys) {
+            const QPoint at(clampTo(x, free.left(), free.right() + 1 - w),
+                            clampTo(y, free.top(), free.bottom() + 1 - h));
+            const Hidden hidden = HiddenBy(QRect(at, size), mainFrame, keepClear, rather);
+            // Ties go to the lower right, where the game window keeps the least.
+            if (!best || hidden < best->first ||
+                (hidden == best->first && at.x() + at.y() > best->second.x() + best->second.y()))
+                best = {hidden, at};
+        }
+    return *best;
+}
+
+}  // namespace
+
+QRect HintWindowPlace(const QRect& mainFrame, const QSize& hintFrame, const QRect& screenFree,
+                      const std::vector<QRect>& keepClear, QSize smallest,
+                      const std::vector<QRect>& rather) {
     constexpr int kGap = 8;
     const int top =
         std::clamp(mainFrame.top(), screenFree.top(),
                    std::max(screenFree.top(), screenFree.bottom() + 1 - hintFrame.height()));
     const int right = mainFrame.right() + 1 + kGap;
-    if (right + hintFrame.width() <= screenFree.right() + 1) return {right, top};
+    if (right + hintFrame.width() <= screenFree.right() + 1 &&
+        hintFrame.height() <= screenFree.height())
+        return {QPoint(right, top), hintFrame};
     const int left = mainFrame.left() - kGap - hintFrame.width();
-    if (left >= screenFree.left()) return {left, top};
-    return {std::max(screenFree.left(), screenFree.right() + 1 - hintFrame.width()),
-            std::max(screenFree.top(), screenFree.bottom() + 1 - hintFrame.height())};
+    if (left >= screenFree.left() && hintFrame.height() <= screenFree.height())
+        return {QPoint(left, top), hintFrame};
+    // No room beside: over the game window where it hides the least, and
+    // smaller (down to 60 %) when that hides less.
+    const QSize fitting = hintFrame.boundedTo(screenFree.size());
+    smallest = smallest.expandedTo(fitting * 0.6).boundedTo(fitting);
+    auto best = BestPlace(mainFrame, fitting, screenFree, keepClear, rather);
+    QSize size = fitting;
+    for (int step = 1; (std::get<0>(best.first) > 0 || std::get<1>(best.first) > 0) && step <= 6;
+         ++step) {
+        const QSize smaller(fitting.width() - (fitting.width() - smallest.width()) * step / 6,
+                            fitting.height() - (fitting.height() - smallest.height()) * step / 6);
+        const auto there = BestPlace(mainFrame, smaller, screenFree, keepClear, rather);
+        const auto key = [](const Hidden& h) { return std::pair(std::get<0>(h), std::get<1>(h)); };
+        if (key(there.first) < key(best.first)) {
+            best = there;
+            size = smaller;
+        }
+    }
+    return {best.second, size};
 }
 
 void HintWindow::SetStore(SettingsStore* store) {
@@ -130,17 +206,32 @@ void HintWindow::Place() {
     if (!screen) return;
     // The frame is only known once shown; before, the size stands for it.
     const QSize frame = frameGeometry().size().expandedTo(size());
+    const QSize decoration = frame - size();
     const QRect free = screen->availableGeometry();
-    QPoint at;
-    if (placed_ && QGuiApplication::screenAt(*placed_ + QPoint(20, 20))) {
-        at = *placed_;  // the person's place, while a screen still shows it
-    } else if (main) {
-        at = HintWindowPlace(main->frameGeometry(), frame, free);
-    } else {
-        return;
+    const std::vector<QRect> keepClear = keepClear_ ? keepClear_() : std::vector<QRect>{};
+    if (placed_) {
+        // The person's place, while it is wholly on a screen and hides neither
+        // the board nor the hint text; else it is dropped.
+        const QRect there(*placed_, frame);
+        const QScreen* on = QGuiApplication::screenAt(there.center());
+        bool clear = on && on->availableGeometry().contains(there);
+        for (const QRect& k : keepClear)
+            clear = clear && !there.intersects(k);
+        if (clear) {
+            placing_ = true;
+            move(*placed_);
+            placing_ = false;
+            return;
+        }
+        placed_.reset();
     }
+    if (!main) return;
+    const std::vector<QRect> rather = rather_ ? rather_() : std::vector<QRect>{};
+    const QRect at = HintWindowPlace(main->frameGeometry(), frame, free, keepClear,
+                                     minimumSizeHint() + decoration, rather);
     placing_ = true;
-    move(at);
+    if (at.size() != frame) resize(at.size() - decoration);
+    move(at.topLeft());
     placing_ = false;
 }
 

@@ -8,6 +8,7 @@
 #include <QMainWindow>
 #include <functional>
 #include <optional>
+#include <vector>
 
 #include "game/game.h"
 #include "library/library_files.h"
@@ -56,8 +57,16 @@ class HintWindow : public QMainWindow {
     // showing and the next run.
     void SetStore(SettingsStore* store);
     // Shows the window, when hidden first at its place: where the person last
-    // put it, else beside the game window.
+    // put it, while that is wholly on a screen and clear of the board and the
+    // hint text, else beside the game window or where it hides the least.
     void Present();
+    // The parts of the game window the hint window must not hide, on the screen.
+    // `rather`: what it had better not hide either (the commands).
+    void SetKeepClear(std::function<std::vector<QRect>()> keepClear,
+                      std::function<std::vector<QRect>()> rather = {}) {
+        keepClear_ = std::move(keepClear);
+        rather_ = std::move(rather);
+    }
 
   protected:
     void moveEvent(QMoveEvent* e) override;
@@ -73,13 +82,19 @@ class HintWindow : public QMainWindow {
     QWidget* board_ = nullptr;
     SettingsStore* store_ = nullptr;
     std::optional<QPoint> placed_;  // where the person put the window
+    std::function<std::vector<QRect>()> keepClear_, rather_;
     bool placing_ = false;          // the window is being moved by the program
 };
 
-// Where the hint window opens on the free part of a screen: to the right of the
-// game window, else to its left, so the board stays in view; when neither side
-// has room, in the screen's bottom right corner. Always wholly on the screen.
-QPoint HintWindowPlace(const QRect& mainFrame, const QSize& hintFrame, const QRect& screenFree);
+// Where the hint window opens on the free part of a screen, and how large: to
+// the right of the game window, else to its left, at its size; when neither side
+// has room, where it covers the least of `keepClear` (the board and the hint
+// text), then of `rather` (the commands), then of the game window; smaller if
+// that covers less, down to 60 % and never below `smallest`. Always wholly on
+// the screen.
+QRect HintWindowPlace(const QRect& mainFrame, const QSize& hintFrame, const QRect& screenFree,
+                      const std::vector<QRect>& keepClear = {}, QSize smallest = {},
+                      const std::vector<QRect>& rather = {});
 
 // "Screenshots" beside the program, or in the data folder when the program's
 // folder can't be written; made when missing. Empty when neither can be made.

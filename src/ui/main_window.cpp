@@ -69,12 +69,21 @@ MainWindow::MainWindow(Game& game, Options& options, const LibraryFolders& folde
     timer_->start();
 
     setWindowIcon(QIcon(SiteEmblem(64, 1.0)));
-    setMinimumSize(760, 560);
-    // The window opens centred on the screen, as large as it comfortably fits.
+    // No larger a least size than the controls need, so that the window fits a
+    // screen of 960 x 540 (a 1920 x 1080 screen at twice the scale) with its
+    // title bar.
+    setMinimumSize(centralWidget()->minimumSizeHint());
+    // The window opens centred on the screen, as large as it comfortably fits,
+    // and larger on a large screen, so that board and texts grow with it.
     QSize start(1000, 760);
     if (const QScreen* screen = this->screen()) {
         const QRect free = screen->availableGeometry();
-        start = start.boundedTo(free.size() * 0.92).expandedTo(minimumSize());
+        const double grow = std::clamp(free.height() * 0.8 / start.height(), 1.0, 1.5);
+        // As wide as the board at the full height needs, beside the commands.
+        const int height = std::min(int(start.height() * grow), int(free.height() * 0.92));
+        start = QSize(std::max(start.width(), height * 145 / 100), height)
+                    .boundedTo(free.size() * 0.92)
+                    .expandedTo(minimumSize());
         resize(start);
         move(free.center() - QPoint(start.width() / 2, start.height() / 2));
     } else {
@@ -249,6 +258,17 @@ HintWindow* MainWindow::Hints() {
         hints_ = new HintWindow(game_, folders_, this);
         hints_->setWindowFlag(Qt::Window);
         hints_->SetStore(store_);
+        // The board and the hint text stay in view.
+        hints_->SetKeepClear([this] {
+            const BoardWidget* board = area_->Board();
+            const QRect grid = board->Layout().BoardRect();
+            return std::vector<QRect>{
+                QRect(board->mapToGlobal(grid.topLeft()), grid.size()),
+                QRect(textHint_->mapToGlobal(QPoint(0, 0)), textHint_->size())};
+        }, [this] {
+            const QWidget* buttons = commands_[0]->parentWidget();
+            return std::vector<QRect>{QRect(buttons->mapToGlobal(QPoint(0, 0)), buttons->size())};
+        });
         hints_->Refresh();
     }
     return hints_;

@@ -140,19 +140,38 @@ TEST_F(HintWindowTest, PrintingWithoutAPrinterDoesNoHarm) {
     EXPECT_TRUE(dialogSeen);
 }
 
-TEST(HintWindowPlace, BesideTheGameWindowElseInTheCornerAndAlwaysOnTheScreen) {
+TEST(HintWindowPlace, BesideTheGameWindowElseWhereItHidesTheLeastAndAlwaysOnTheScreen) {
     const QRect screen(0, 0, 1920, 1040);
     const QSize hint(400, 420);
     // Room on the right; then only on the left; the top follows the game window.
-    EXPECT_EQ(HintWindowPlace(QRect(100, 50, 1000, 700), hint, screen), QPoint(1108, 50));
-    EXPECT_EQ(HintWindowPlace(QRect(700, 900, 1000, 100), hint, screen), QPoint(292, 620));
-    // A game window filling a small screen: the corner, away from the board.
+    EXPECT_EQ(HintWindowPlace(QRect(100, 50, 1000, 700), hint, screen).topLeft(), QPoint(1108, 50));
+    EXPECT_EQ(HintWindowPlace(QRect(700, 900, 1000, 100), hint, screen).topLeft(),
+              QPoint(292, 620));
+    // A game window filling a small screen, its board on the left and its hint
+    // text at the right below the commands: the window hides neither.
     const QRect small(0, 0, 1366, 740);
-    const QPoint corner = HintWindowPlace(QRect(20, 10, 1257, 707), hint, small);
-    EXPECT_EQ(corner, QPoint(966, 320));
-    // A hint window larger than the screen keeps its top left corner on it.
+    const QRect main(20, 10, 1257, 707);
+    const std::vector<QRect> keep = {QRect(30, 40, 860, 640), QRect(990, 380, 270, 280)};
+    const QRect at = HintWindowPlace(main, hint, small, keep, QSize(190, 209));
+    EXPECT_TRUE(small.contains(at));
+    for (const QRect& k : keep)
+        EXPECT_FALSE(at.intersects(k)) << k.x();
+    // Over a screen it fills at twice the scale, the board and text keep clear
+    // where the smallest window allows, and the window stays wholly on screen.
+    const QRect half(0, 0, 960, 510);
+    for (const QRect& mainHalf : {QRect(0, 0, 960, 510), QRect(100, 40, 800, 460)}) {
+        const std::vector<QRect> keepHalf = {
+            QRect(mainHalf.left() + 10, mainHalf.top() + 30, 470, 460),
+            QRect(mainHalf.right() - 250, mainHalf.top() + 280, 240, 150)};
+        const QRect there = HintWindowPlace(mainHalf, hint, half, keepHalf, QSize(190, 209));
+        EXPECT_TRUE(half.contains(there));
+        EXPECT_GE(there.width(), 190);
+        for (const QRect& k : keepHalf)
+            EXPECT_FALSE(there.intersects(k));
+    }
+    // A hint window larger than the screen is made to fit it.
     EXPECT_EQ(HintWindowPlace(QRect(0, 0, 800, 600), QSize(900, 900), QRect(0, 0, 800, 600)),
-              QPoint(0, 0));
+              QRect(0, 0, 800, 600));
 }
 
 TEST(ReadableInk, MarksStandOutOnEveryHintColour) {

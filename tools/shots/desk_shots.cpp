@@ -70,11 +70,13 @@ class DeskShots : public WindowFixture {
 };
 
 TEST_F(DeskShots, MainAndHintWindowOnTheScreen) {
-    MainWindow& w = Open();
+    // As the program opens it: its own size and place on the screen.
+    Started();
+    window.emplace(*game, options, folders);
+    MainWindow& w = *window;
+    w.show();
+    QApplication::processEvents();
     options.HintWindow = true;
-    // As the program opens it: sized to the screen.
-    w.resize(QGuiApplication::primaryScreen()->availableGeometry().size() * 0.92);
-    w.move(20, 10);
     Press("CommandNew");
     for (int i = 0; i < 3; ++i) {
         auto [cell, digit] = FirstOpenCell();
