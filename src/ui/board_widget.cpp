@@ -55,6 +55,15 @@ void BoardWidget::paintEvent(QPaintEvent*) {
     picture.cursor = cursor_;
     picture.cursorFocused = hasFocus();
     if (game_.GridEnabled()) AddHighlight(picture, cursor_, game_.options());
+    // Without pencil marks the mark under the pointer shows, faintly, the digit a
+    // click there would place.
+    if (hover_.kind == BoardSpot::Cell && hover_.digit) {
+        const auto bit = std::uint16_t(1u << (hover_.digit - 1));
+        if (picture.bareMarks[hover_.index] & bit) {
+            picture.bareMarks[hover_.index] &= std::uint16_t(~bit);
+            picture.dimmed[hover_.index] |= bit;
+        }
+    }
     PaintBoard(p, layout_, picture, ScreenLook(palette()), &glyphs_);
     if (!notice_.isEmpty()) PaintNotice(p);
 }

@@ -72,5 +72,33 @@ TEST_F(Highlight, HintAndBrushColoursDrawAboveIt) {
     }
 }
 
+class HoverWindow : public WindowFixture {};
+
+// Without pencil marks the marks show nothing, but the one under the pointer
+// shows the digit a click there would place, and only while the pointer is on it.
+TEST_F(HoverWindow, WithoutPencilmarksTheMarkUnderThePointerShowsItsDigit) {
+    Open();
+    options.PencilmarksOff = true;
+    game->OptionType(1);
+    Press("CommandNew");
+    ASSERT_FALSE(game->MarkCaptionsShown());
+    auto [cell, digit] = FirstOpenCell();
+    const int other = digit % 9 + 1;
+    EXPECT_EQ(InkIn(BoardImage(), MarkRect(digit, cell)), 0);
+    QTest::mouseMove(Board(), MarkCentre(digit, cell));
+    QApplication::processEvents();
+    QImage image = BoardImage();
+    EXPECT_GT(InkIn(image, MarkRect(digit, cell)) +
+                  CountIn(image, MarkRect(digit, cell),
+                          [](QRgb p) { return qBlue(p) > 150 && qRed(p) < 100; }),
+              3);
+    EXPECT_EQ(InkIn(image, MarkRect(other, cell)), 0);
+    QTest::mouseMove(Board(), MarkCentre(other, cell));
+    QApplication::processEvents();
+    image = BoardImage();
+    EXPECT_EQ(InkIn(image, MarkRect(digit, cell)), 0);
+    EXPECT_EQ(game->CurrentStep(), 0);
+}
+
 }  // namespace
 }  // namespace tavi::ui
