@@ -4,7 +4,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QGuiApplication>
-#include <QInputDialog>
+#include <QFileDialog>
 #include <QMenuBar>
 #include <QMoveEvent>
 #include <QPainter>
@@ -12,6 +12,7 @@
 #include <QPrinter>
 #include <QRegularExpression>
 #include <QScreen>
+#include <QStandardPaths>
 
 #include <algorithm>
 #include <tuple>
@@ -48,10 +49,7 @@ class SnapshotView : public QWidget {
     const HintSnapshot& snapshot_;
 };
 
-QString AskWithInputBox(QWidget* parent, const QString& title, const QString& prompt,
-                        const QString& suggested, bool* ok) {
-    return QInputDialog::getText(parent, title, prompt, QLineEdit::Normal, suggested, ok);
-}
+
 
 }  // namespace
 
@@ -74,11 +72,10 @@ HintWindow::HintWindow(const Game& game, LibraryFolders folders, QWidget* parent
     item("mnuWindowPrint", "&Print", [this] { Print(); });
     item("mnuWindowClose", "&Close", [this] { close(); });
 
-    askName_ = [this](const QString& title, const QString& prompt,
-                      const QString& suggested) -> std::optional<QString> {
-        bool ok = false;
-        const QString answer = AskWithInputBox(this, title, prompt, suggested, &ok);
-        if (!ok) return std::nullopt;
+    askPath_ = [this](const QString& title, const QString& suggested) -> std::optional<QString> {
+        const QString answer =
+            QFileDialog::getSaveFileName(this, title, suggested, QString::fromLatin1(kBmpFilter));
+        if (answer.isEmpty()) return std::nullopt;
         return answer;
     };
     TakeSnapshot();
@@ -257,15 +254,6 @@ QImage HintWindow::Picture() {
     return grab().toImage();
 }
 
-QString ScreenshotsFolder(const LibraryFolders& folders) {
-    for (const auto& base : {folders.AppFolder, folders.DataFolder}) {
-        const QString dir =
-            QDir(QString::fromStdString(base.string())).filePath(QStringLiteral("Screenshots"));
-        if (QDir().mkpath(dir) && QFileInfo(dir).isWritable()) return dir;
-    }
-    return {};
-}
-
 QString PictureFileName(QString answer) {
     answer = answer.trimmed();
     if (answer.endsWith(QStringLiteral(".bmp"), Qt::CaseInsensitive)) answer.chop(4);
@@ -285,16 +273,34 @@ QString SuggestedPictureName(const QString& caption, const QString& folder) {
     }
 }
 
+QString HintWindow::PictureFolder() const {
+    if (!pictureFolder_.isEmpty()) return pictureFolder_;
+    if (store_) {
+        const QString kept = QString::fromStdString(
+            store_->Read(kPictureFolderSection, kPictureFolderKey, ""));
+        if (!kept.isEmpty()) return kept;
+    }
+    const QString pictures = QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);
+    return pictures.isEmpty() ? QDir::homePath() : pictures;
+}
+
 QString HintWindow::SaveAsBmp() {
-    const QString folder = ScreenshotsFolder(folders_);
-    const auto answer =
-        askName_(QString::fromLatin1(kSaveAsTitle), QString::fromLatin1(kSaveAsPrompt),
-                 SuggestedPictureName(windowTitle(), folder));
-    if (!answer || folder.isEmpty()) return {};
-    const QString name = PictureFileName(*answer);
+    const QString folder = PictureFolder();
+    const auto answer = askPath_(QString::fromLatin1(kSaveAsTitle),
+                                 QDir(folder).filePath(SuggestedPictureName(windowTitle(), folder) +
+                                                       QStringLiteral(".bmp")));
+    if (!answer) return {};
+    const QFileInfo chosen(*answer);
+    const QString name = PictureFileName(chosen.fileName());
     if (name.isEmpty()) return {};
-    const QString file = QDir(folder).filePath(name + QStringLiteral(".bmp"));
-    return Picture().save(file, "BMP") ? file : QString();
+    const QString dir = chosen.absolutePath();
+    // The folder is made only now, for a picture that is written.
+    if (!QDir().mkpath(dir)) return {};
+    const QString file = QDir(dir).filePath(name + QStringLiteral(".bmp"));
+    if (!Picture().save(file, "BMP")) return {};
+    pictureFolder_ = dir;
+    if (store_) store_->Write(kPictureFolderSection, kPictureFolderKey, dir.toStdString());
+    return file;
 }
 
 bool HintWindow::PrintTo(QPrinter& printer) {
