@@ -50,8 +50,6 @@ bool ChangeByConclusions(const HintTruth& t, const Board& now, int cell) {
     return true;
 }
 
-
-
 }  // namespace
 
 std::optional<CellReport> HintFlow::WrongNumber(const Board& b) {

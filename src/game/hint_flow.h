@@ -27,7 +27,7 @@ struct HintTruth {
     std::vector<Conclusion> conclusions;  // a technique's hint
     Digits grid{};                        // the board the hint was shown on
     std::array<CandidateMask, 81> marks{};
-    std::string text;        // what the hint wrote in the hint box
+    std::string text;         // what the hint wrote in the hint box
     bool pickedCell = false;  // it picked the cell's row and column for Reset Cell
 };
 

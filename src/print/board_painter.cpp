@@ -68,8 +68,7 @@ void PaintHighlight(QPainter& p, const BoardGeometry& g, const BoardPicture& s,
             p.fillRect(g.CellRect(c), look.digitTint);
         else if (s.tinted[c])
             p.fillRect(g.CellRect(c), look.tint);
-        if (!d || s.digits[c] || !s.MarkShown(d, c) || (s.bareMarks[c] & (1u << (d - 1))))
-            continue;
+        if (!d || s.digits[c] || !s.MarkShown(d, c) || (s.bareMarks[c] & (1u << (d - 1)))) continue;
         const QRectF spot = QRectF(MarkBox(g, d, c, look.markMargin)).adjusted(1, 1, -1, -1);
         p.save();
         p.setRenderHint(QPainter::Antialiasing);

@@ -59,7 +59,7 @@ struct BoardLook {
     QColor tint = QColor(233, 239, 250);       // the highlight's cells
     QColor digitTint = QColor(196, 214, 246);  // the cells of the emphasised digit
     QColor markTint = QColor(160, 192, 245);   // a spot under each of its marks
-    QString digitFamily;  // empty: the painter's font
+    QString digitFamily;                       // empty: the painter's font
     QString headerFamily;
     // With a family the font starts fresh, with this hint for fontconfig's
     // choice, and takes nothing of the painter's font.

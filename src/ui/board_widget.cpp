@@ -95,7 +95,8 @@ void BoardWidget::PaintNotice(QPainter& p) {
         box.moveTop(cell.bottom() + pad / 2);
     else
         box.moveBottom(cell.top() - pad / 2);
-    box.moveLeft(std::clamp(box.left(), grid.left(), std::max(grid.left(), grid.right() - box.width())));
+    box.moveLeft(
+        std::clamp(box.left(), grid.left(), std::max(grid.left(), grid.right() - box.width())));
     p.setRenderHint(QPainter::Antialiasing);
     p.setPen(Qt::NoPen);
     p.setBrush(QColor(38, 44, 64, 235));

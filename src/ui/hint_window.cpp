@@ -2,9 +2,9 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QFileDialog>
 #include <QFileInfo>
 #include <QGuiApplication>
-#include <QFileDialog>
 #include <QMenuBar>
 #include <QMoveEvent>
 #include <QPainter>
@@ -48,8 +48,6 @@ class SnapshotView : public QWidget {
   private:
     const HintSnapshot& snapshot_;
 };
-
-
 
 }  // namespace
 
@@ -276,8 +274,8 @@ QString SuggestedPictureName(const QString& caption, const QString& folder) {
 QString HintWindow::PictureFolder() const {
     if (!pictureFolder_.isEmpty()) return pictureFolder_;
     if (store_) {
-        const QString kept = QString::fromStdString(
-            store_->Read(kPictureFolderSection, kPictureFolderKey, ""));
+        const QString kept =
+            QString::fromStdString(store_->Read(kPictureFolderSection, kPictureFolderKey, ""));
         if (!kept.isEmpty()) return kept;
     }
     const QString pictures = QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);

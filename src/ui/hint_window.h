@@ -89,7 +89,7 @@ class HintWindow : public QMainWindow {
     SettingsStore* store_ = nullptr;
     std::optional<QPoint> placed_;  // where the person put the window
     std::function<std::vector<QRect>()> keepClear_, rather_;
-    bool placing_ = false;          // the window is being moved by the program
+    bool placing_ = false;  // the window is being moved by the program
 };
 
 // Where the hint window opens on the free part of a screen, and how large: to

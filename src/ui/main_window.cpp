@@ -259,16 +259,19 @@ HintWindow* MainWindow::Hints() {
         hints_->setWindowFlag(Qt::Window);
         hints_->SetStore(store_);
         // The board and the hint text stay in view.
-        hints_->SetKeepClear([this] {
-            const BoardWidget* board = area_->Board();
-            const QRect grid = board->Layout().BoardRect();
-            return std::vector<QRect>{
-                QRect(board->mapToGlobal(grid.topLeft()), grid.size()),
-                QRect(textHint_->mapToGlobal(QPoint(0, 0)), textHint_->size())};
-        }, [this] {
-            const QWidget* buttons = commands_[0]->parentWidget();
-            return std::vector<QRect>{QRect(buttons->mapToGlobal(QPoint(0, 0)), buttons->size())};
-        });
+        hints_->SetKeepClear(
+            [this] {
+                const BoardWidget* board = area_->Board();
+                const QRect grid = board->Layout().BoardRect();
+                return std::vector<QRect>{
+                    QRect(board->mapToGlobal(grid.topLeft()), grid.size()),
+                    QRect(textHint_->mapToGlobal(QPoint(0, 0)), textHint_->size())};
+            },
+            [this] {
+                const QWidget* buttons = commands_[0]->parentWidget();
+                return std::vector<QRect>{
+                    QRect(buttons->mapToGlobal(QPoint(0, 0)), buttons->size())};
+            });
         hints_->Refresh();
     }
     return hints_;

@@ -131,8 +131,8 @@ QWidget* OptionsDialog::MakeHighlightFrame() {
     column->setSpacing(8);
     column->addWidget(Check("CheckHighlightHouses", "Row, column and box of the cursor",
                             &OptionsForm::HighlightHouses));
-    column->addWidget(
-        Check("CheckHighlightDigit", "Every place of the cursor's digit", &OptionsForm::HighlightDigit));
+    column->addWidget(Check("CheckHighlightDigit", "Every place of the cursor's digit",
+                            &OptionsForm::HighlightDigit));
     return frame;
 }
 

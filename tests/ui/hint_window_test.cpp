@@ -102,7 +102,6 @@ TEST_F(HintWindowTest, SaveAsBmpGoesToTheFolderChosenLastAndMakesAFolderOnlyForA
     EXPECT_FALSE(std::filesystem::exists(folders.AppFolder / "Screenshots"));
 
     // The folder kept in the store is offered; a cancel there makes nothing.
-    MemorySettingsStore store;
     const QString kept = QString::fromStdString((root / "pictures" / "kept").string());
     store.Write(kPictureFolderSection, kPictureFolderKey, kept.toStdString());
     w.SetStore(&store);
