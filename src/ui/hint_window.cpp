@@ -13,6 +13,7 @@
 #include <QRegularExpression>
 #include <QScreen>
 #include <QStandardPaths>
+#include <QStyle>
 
 #include <algorithm>
 #include <tuple>
@@ -200,8 +201,15 @@ void HintWindow::Place() {
     QScreen* screen = main ? main->screen() : this->screen();
     if (!screen) return;
     // The frame is only known once shown; before, the size stands for it.
-    const QSize frame = frameGeometry().size().expandedTo(size());
-    const QSize decoration = frame - size();
+    // Before the first showing the window manager has not told the frame yet:
+    // a title bar and borders are reckoned with, so the frame stays on screen.
+    QSize decoration = frameGeometry().size().expandedTo(size()) - size();
+    if (decoration.isNull() && QGuiApplication::platformName() != QLatin1String("offscreen")) {
+        const int border = style()->pixelMetric(QStyle::PM_MdiSubWindowFrameWidth);
+        decoration =
+            QSize(2 * border, style()->pixelMetric(QStyle::PM_TitleBarHeight) + 2 * border);
+    }
+    const QSize frame = size() + decoration;
     const QRect free = screen->availableGeometry();
     const std::vector<QRect> keepClear = keepClear_ ? keepClear_() : std::vector<QRect>{};
     if (placed_) {
