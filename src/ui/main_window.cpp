@@ -11,6 +11,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScreen>
+#include <QStyle>
 #include <QTimer>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -69,23 +70,27 @@ MainWindow::MainWindow(Game& game, Options& options, const LibraryFolders& folde
     timer_->start();
 
     setWindowIcon(QIcon(SiteEmblem(64, 1.0)));
-    // No larger a least size than the controls need, so that the window fits a
-    // screen of 960 x 540 (a 1920 x 1080 screen at twice the scale) with its
-    // title bar.
-    setMinimumSize(centralWidget()->minimumSizeHint());
+    // The least size is what the controls need (the layout sees to it), so that
+    // the window fits a screen of 960 x 540 (a 1920 x 1080 screen at twice the
+    // scale) with its title bar.
     // The window opens centred on the screen, as large as it comfortably fits,
     // and larger on a large screen, so that board and texts grow with it.
     QSize start(1000, 760);
     if (const QScreen* screen = this->screen()) {
         const QRect free = screen->availableGeometry();
+        // The title bar, which the window manager adds above, is reckoned with.
+        const int title = QGuiApplication::platformName() == QLatin1String("offscreen")
+                              ? 0
+                              : style()->pixelMetric(QStyle::PM_TitleBarHeight) + 8;
         const double grow = std::clamp(free.height() * 0.8 / start.height(), 1.0, 1.5);
         // As wide as the board at the full height needs, beside the commands.
-        const int height = std::min(int(start.height() * grow), int(free.height() * 0.92));
+        const int height = std::min(int(start.height() * grow),
+                                    std::min(int(free.height() * 0.92), free.height() - title - 4));
         start = QSize(std::max(start.width(), height * 145 / 100), height)
-                    .boundedTo(free.size() * 0.92)
-                    .expandedTo(minimumSize());
+                    .boundedTo(QSize(int(free.width() * 0.92), height))
+                    .expandedTo(minimumSizeHint());
         resize(start);
-        move(free.center() - QPoint(start.width() / 2, start.height() / 2));
+        move(free.center() - QPoint(start.width() / 2, (start.height() + title) / 2));
     } else {
         resize(start);
     }

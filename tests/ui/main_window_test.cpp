@@ -244,3 +244,33 @@ TEST_F(MainWindowTest, AHintShowsInTheSmallWindowWhenAskedForAndOnADoubleClick) 
 
 }  // namespace
 }  // namespace tavi::ui
+
+namespace tavi::ui {
+namespace {
+
+class WindowSize : public WindowFixture {};
+
+// The least size of the game window fits a 1920 x 1080 screen at twice the scale
+// (960 x 540, with a title bar), and no control is squeezed below its own least
+// size there.
+TEST_F(WindowSize, TheLeastSizeFitsNineSixtyByFiveForty) {
+    MainWindow& w = Open();
+    EXPECT_LE(w.minimumSizeHint().width(), 960);
+    EXPECT_LE(w.minimumSizeHint().height(), 540 - 40);
+    w.resize(QSize(200, 200));  // the layout keeps it at its least size
+    QApplication::processEvents();
+    EXPECT_EQ(w.size(), w.minimumSizeHint());
+    QApplication::processEvents();
+    for (auto* button : w.findChildren<QPushButton*>()) {
+        // The digit buttons are laid out by the board, square with its cells.
+        if (button->objectName().startsWith("Command1_")) continue;
+        EXPECT_GE(button->width(), button->minimumSizeHint().width())
+            << button->objectName().toStdString();
+        EXPECT_GE(button->height(), button->minimumSizeHint().height());
+    }
+    const BoardGeometry& board = Board()->Layout();
+    EXPECT_GE(board.CellSize(), 30);
+}
+
+}  // namespace
+}  // namespace tavi::ui
