@@ -103,6 +103,19 @@ TEST_F(DeskShots, DimmedMarksOnHintColours) {
     Shot(*Board(), "dimmed-marks");
 }
 
+// A key that can do nothing: the cell flashes and the note says why.
+TEST_F(DeskShots, KeyboardNotice) {
+    Open({1000, 720});
+    Press("CommandNew");
+    auto [cell, digit] = FirstOpenCell();
+    int gone = 0;
+    for (int d = 1; d <= 9 && !gone; ++d)
+        if (d != digit && game->MarkVisible(d, cell)) gone = d;
+    ClickMark(gone, cell, Qt::RightButton);
+    QTest::keyClick(Board(), Qt::Key(Qt::Key_0 + gone));
+    Shot(*Board(), "keyboard-notice");
+}
+
 TEST_F(DeskShots, DialogsOnTheScreen) {
     MainWindow& w = Open();
     PrintSettings print;
