@@ -200,11 +200,10 @@ void HintWindow::Place() {
     const QWidget* main = parentWidget() ? parentWidget()->window() : nullptr;
     QScreen* screen = main ? main->screen() : this->screen();
     if (!screen) return;
-    // The frame is only known once shown; before, the size stands for it.
     // Before the first showing the window manager has not told the frame yet:
     // a title bar and borders are reckoned with, so the frame stays on screen.
     QSize decoration = frameGeometry().size().expandedTo(size()) - size();
-    if (decoration.isNull() && QGuiApplication::platformName() != QLatin1String("offscreen")) {
+    if (decoration.isNull()) {
         const int border = style()->pixelMetric(QStyle::PM_MdiSubWindowFrameWidth);
         decoration =
             QSize(2 * border, style()->pixelMetric(QStyle::PM_TitleBarHeight) + 2 * border);

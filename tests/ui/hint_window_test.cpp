@@ -223,5 +223,24 @@ TEST_F(HintWindowInGame, AnotherGameReplacesTheCopyOfTheOneBefore) {
     }
 }
 
+// A place kept in the store that no screen shows any more is dropped: the
+// window opens wholly on the screen.
+TEST_F(HintWindowInGame, ARememberedPlaceOffTheScreensIsDropped) {
+    store.Write("FormHint", "Left", "5000");
+    store.Write("FormHint", "Top", "-3000");
+    OpenPlaying();
+    window->SetStore(&store);
+    options.HintWindow = true;
+    Press("CommandHint");
+    auto* hints = window->findChild<HintWindow*>(QStringLiteral("FormHint"));
+    ASSERT_NE(hints, nullptr);
+    ASSERT_TRUE(hints->isVisible());
+    const QRect screen = hints->screen()->availableGeometry();
+    EXPECT_TRUE(screen.contains(hints->frameGeometry()))
+        << hints->frameGeometry().x() << "," << hints->frameGeometry().y() << " "
+        << hints->frameGeometry().width() << "x" << hints->frameGeometry().height() << " on "
+        << screen.width() << "x" << screen.height();
+}
+
 }  // namespace
 }  // namespace tavi::ui
