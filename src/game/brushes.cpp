@@ -119,6 +119,19 @@ void Brushes::ApplyPaints(const std::vector<HintPaint>& paints,
     hintColors_ = colors;
 }
 
+void Brushes::WipeHint() {
+    // The hint's paint list played on an empty board tells what it left where.
+    Brushes hint;
+    hint.ApplyPaints(hintPaints_, hintColors_);
+    for (int c = 0; c < 81; ++c) {
+        if (hint.cellPaint_[c] && cellPaint_[c] == hint.cellPaint_[c]) cellPaint_[c].reset();
+        for (int d = 0; d < 9; ++d)
+            if (hint.markPaint_[c][d] && markPaint_[c][d] == hint.markPaint_[c][d])
+                markPaint_[c][d].reset();
+    }
+    hintPaints_.clear();
+}
+
 void Brushes::Recolour(const std::array<Color, 9>& colors) {
     for (const HintPaint& p : hintPaints_) {
         if (p.what == HintPaint::Erase) continue;

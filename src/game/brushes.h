@@ -67,6 +67,8 @@ class Brushes {
     void ToggleCellPaint(int cell, Color color);
     // Colours of a hint, by role.
     void ApplyPaints(const std::vector<HintPaint>& paints, const std::array<Color, 9>& colors);
+    // The hint's colours off the board; a place painted over since keeps its paint.
+    void WipeHint();
     // New hint colours: the hint on the board takes them at once.
     void Recolour(const std::array<Color, 9>& colors);
 

@@ -71,6 +71,9 @@ inline constexpr std::string_view kAutosolvedText =
     "Sudoku autosolved. Press [New] for the next sudoku.";
 inline constexpr std::string_view kSolutionText =
     "This is the solution. Press [New] for the next sudoku.";
+inline constexpr std::string_view kSolutionQuestionTitle = "Show the solution";
+inline constexpr std::string_view kSolutionQuestion =
+    "Showing the solution ends the current sudoku, without a best time. Show the solution ?";
 inline constexpr std::string_view kScanDoneText = "Scan completed.";
 inline constexpr std::string_view kScanStoppedText = "Scan stopped.";
 inline constexpr int kNoHover = 729;
@@ -159,6 +162,9 @@ class Game : private MoveListener {
     const std::string& HintWindowCaption() const { return hints_.WindowCaption(); }
     // Counts the hint windows the model asked for (a hint shown with the option on).
     int HintWindowShows() const { return hints_.WindowShows(); }
+    // Counts the boards laid out (a game loaded, Make and its end): a copy of an
+    // earlier one is of another game.
+    int Generation() const { return generation_; }
     // A search is running: the window takes no other command meanwhile.
     bool Busy() const { return busy_; }
     // Colours of a hint on the board.
@@ -252,7 +258,7 @@ class Game : private MoveListener {
     struct View {
         Digits grid{};
         std::array<CandidateMask, 81> marks{};
-        int row = 0, column = 0, hover = 0, level = 0, hintShows = 0;
+        int row = 0, column = 0, hover = 0, level = 0, hintShows = 0, generation = 0;
         bool enabled = false, captions = false, wellsShown = false;
         Brushes paint;
         CommandStates commands;
@@ -352,6 +358,10 @@ class Game : private MoveListener {
     bool ReportStillMarked(bool penalty);
     bool ReportCell(const std::optional<CellReport>& report, bool penalty);
     void ShowTechniqueHint();
+    // The hint just shown, of `kind` at `cell`, with the board and text it was
+    // shown on; ForgetStaleHint takes it off once a change made it false.
+    void ShowingHint(HintTruth::Kind kind, int cell);
+    void ForgetStaleHint();
     // A Sue-de-Coq found for a hint is shown at once, and the player is asked
     // whether they can spot it; true for OK.
     bool SueDeCoqSpotted();
@@ -368,6 +378,8 @@ class Game : private MoveListener {
     GameClock clock_;
     Brushes brushes_;
     HintFlow hints_;
+    HintTruth truth_;     // what keeps the hint on the board true
+    int generation_ = 0;  // counts the boards laid out: new games, Make, its end
     CommandStates commands_;
     std::array<std::array<bool, 9>, 10> wells_{};
     bool gridEnabled_ = false;

@@ -32,6 +32,7 @@ Game::View Game::Look() const {
     v.hover = HoverCell;
     v.level = position().ChosenLevel;
     v.hintShows = hints_.WindowShows();
+    v.generation = generation_;
     v.enabled = gridEnabled_;
     v.captions = MarkCaptionsShown();
     v.wellsShown = options_.Wells;
@@ -68,7 +69,8 @@ void Game::Announce() {
     if (now.wells != was.wells || now.wellsShown != was.wellsShown) changes |= kChangeWells;
     if (now.caption != was.caption) changes |= kChangeTitle;
     if (now.level != was.level) changes |= kChangeLevel;
-    if (now.hintShows != was.hintShows) changes |= kChangeHintWindow;
+    if (now.hintShows != was.hintShows || now.generation != was.generation)
+        changes |= kChangeHintWindow;
     seen_ = std::move(now);
     if (changes.Any() && events_) events_(changes);
 }

@@ -18,7 +18,7 @@ enum Change : unsigned {
     kChangeTitle = 1u << 6,       // the window's caption
     kChangeBrush = 1u << 7,       // the palette's captions and the pointer
     kChangeLevel = 1u << 8,       // the level chosen
-    kChangeHintWindow = 1u << 9,  // a hint to show in the small hint window
+    kChangeHintWindow = 1u << 9,  // a hint to show in the small hint window, or another game
 };
 
 // A set of changes.

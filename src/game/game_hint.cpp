@@ -48,6 +48,10 @@ bool Game::ReportCell(const std::optional<CellReport>& report, bool penalty) {
     }
     textHint_ = report->text;
     ApplyPaints(report->paints);
+    ShowingHint(report->kind, report->cell);
+    truth_.digit = report->kind == HintTruth::kLostCandidate ? ctx_.board.Solution[report->cell]
+                                                             : ctx_.board.CurrentGrid[report->cell];
+    truth_.pickedCell = report->picksCell;
     hints_.Duplicate();
     if (penalty) Penalty(report->penalty);
     return true;
@@ -68,6 +72,8 @@ bool Game::ReportStillMarked(bool penalty) {
 void Game::ShowTechniqueHint() {
     textHint_ = SchrijfHint(ctx_.hint, ctx_.board);
     ApplyPaints(PaintHint(ctx_.hint, ctx_.board));
+    ShowingHint(HintTruth::kTechnique, ctx_.hint.HintCell);
+    truth_.conclusions.assign(ctx_.hint.Conclusions.begin(), ctx_.hint.Conclusions.end());
     hints_.Shown(ctx_.hint, options_.HintWindow);
 }
 
@@ -92,11 +98,11 @@ void Game::SpecialHint() {
         return;
     }
     Speel(kSoundPenalty);
-    WisKleuren();
-    brushes_.SetCellPaint(hit->cell, options_.colors.HintColor[kBaseCell]);
+    ApplyPaints({{HintPaint::Erase}, {HintPaint::Cell, hit->cell, 0, kBaseCell}});
     hints_.ShowMe(hit->cell, hit->digit);
     commands_.HintCaption = "Show Me";
     textHint_ = std::string(kSpecialHintText);
+    ShowingHint(HintTruth::kShowMe, hit->cell);
     hints_.Duplicate();
     Penalty(15);
 }
@@ -107,11 +113,12 @@ void Game::CommandHint() {
     if (hints_.Stage() != 0) {
         // The second stage of a hint without pencil marks: the digit too.
         Speel(kSoundPenalty);
-        WisKleuren();
-        brushes_.SetCellPaint(hints_.ShowMeCell(), options_.colors.HintColor[kBaseCell]);
-        brushes_.SetMarkPaint(hints_.ShowMeNumber(), hints_.ShowMeCell(),
-                              options_.colors.HintColor[kBaseCandidates]);
+        const int cell = hints_.ShowMeCell();
+        ApplyPaints({{HintPaint::Erase},
+                     {HintPaint::Cell, cell, 0, kBaseCell},
+                     {HintPaint::Digit, cell, hints_.ShowMeNumber(), kBaseCandidates}});
         textHint_ = std::string(kSpecialHintText);
+        ShowingHint(HintTruth::kShowMe, cell);
         Penalty(15);
         ResetHintStage();
         return;
@@ -199,6 +206,25 @@ void Game::CommandAutoSolve() {
     // A game Autosolve has touched can't be saved any more.
     session_.position().SudokuAutosolved = true;
     AutoSolveBoard();
+    ForgetStaleHint();
+}
+
+void Game::ShowingHint(HintTruth::Kind kind, int cell) {
+    truth_ = {};
+    truth_.kind = kind;
+    truth_.cell = cell;
+    truth_.grid = ctx_.board.CurrentGrid;
+    truth_.marks = ctx_.board.Candidates;
+    truth_.text = textHint_;
+}
+
+void Game::ForgetStaleHint() {
+    if (truth_.kind == HintTruth::kNone || HintStillTrue(truth_, ctx_.board)) return;
+    brushes_.WipeHint();
+    if (textHint_ == truth_.text) textHint_ = std::string(kPlayingHintText);
+    if (truth_.pickedCell && SelectedRow == truth_.cell / 9 && SelectedColumn == truth_.cell % 9)
+        SelectedRow = SelectedColumn = kNoLine;
+    truth_ = {};
 }
 
 void Game::CommandScan() {

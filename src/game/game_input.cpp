@@ -29,6 +29,7 @@ bool Game::BoardSolved() const {
 // The end of every click on the board: the wells follow, and a full and right
 // board ends the game (once).
 void Game::EndTest() {
+    ForgetStaleHint();
     if (options_.Wells) SetupWells();
     if (!position().SudokuSolved && BoardSolved()) ZetOpgelost();
 }
@@ -175,6 +176,7 @@ void Game::CommandResetCell() {
     step.LogOwnMarks = kAllCandidates & ~ctx_.board.Candidates[cell];
     ctx_.board.Candidates[cell] = kAllCandidates;
     ctx_.board.CurrentGrid[cell] = 0;
+    ForgetStaleHint();
     if (options_.Wells) SetupWells();
 }
 

@@ -98,6 +98,10 @@ void Game::StartMaking() {
     session_.position().SudokuAutosolved = false;
     EnableGrid();
     MakeMode = true;
+    // Nothing of the game before stays: its wells and its title.
+    for (auto& digit : wells_)
+        digit.fill(false);
+    caption_ = WindowTitle;
 
     commands_.Open = commands_.Save = commands_.Print = false;
     commands_.MakeCaption = "Validate";
@@ -248,6 +252,9 @@ void Game::EndMaking() {
     ClearSudokuData();
     DisableGrid();
     MakeMode = false;
+    for (auto& digit : wells_)
+        digit.fill(false);
+    caption_ = WindowTitle;
     commands_.Open = commands_.Print = commands_.New = true;
     commands_.Save = false;
     commands_.MakeCaption = "Make";

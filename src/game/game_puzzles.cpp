@@ -261,6 +261,11 @@ bool Game::SaveGame() {
 void Game::CommandSolution() {
     const ChangeScope scope(*this);
     if (busy_) return;  // a search is running
+    // One slip would end the game and its best time: a game in play asks first.
+    if (!position().SudokuSolved && !MakeMode &&
+        services_.prompter.Ask(kSolutionQuestionTitle, kSolutionQuestion, Buttons::YesNo,
+                               Icon::Question) != Answer::Yes)
+        return;
     clock_.Stop();
     Speel(kSoundSolution);
     ResetHintStage();

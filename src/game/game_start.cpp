@@ -233,6 +233,8 @@ bool Game::QueryUnload() {
 }
 
 void Game::ClearGrid() {
+    ++generation_;
+    truth_ = {};
     ctx_.board.Candidates.fill(kAllCandidates);
     ctx_.board.CurrentGrid.fill(0);
     brushes_.WisKleuren();

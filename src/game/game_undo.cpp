@@ -12,6 +12,7 @@ void Game::CommandUndo() {
     Speel(kSoundUndoRedo);
     commands_.Redo = true;
     moves_.Undo(ctx_.board);
+    ForgetStaleHint();
     ShowStepCount();
     if (options_.Wells) SetupWells();
     if (moves_.CurrentStep() == 0) commands_.Undo = false;
@@ -24,6 +25,7 @@ void Game::CommandRedo() {
     ResetHintStage();
     Speel(kSoundUndoRedo);
     moves_.Redo(ctx_.board);
+    ForgetStaleHint();
     ShowStepCount();
     commands_.Undo = true;
     if (options_.Wells) SetupWells();

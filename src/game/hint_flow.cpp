@@ -11,11 +11,43 @@ namespace tavi {
 namespace {
 
 // A cell whose digit or marks are wrong: it is shown as attacked.
-CellReport ReportCell(const Board& b, int cell, const std::string& text) {
+CellReport ReportCell(const Board& b, HintTruth::Kind kind, int cell, const std::string& text) {
     HintPainter painter(b);
     painter.WisKleuren();
     painter.ZetHintVak(cell, kAttackedCell);
-    return {cell, text, painter.paints()};
+    return {kind, cell, text, painter.paints()};
+}
+
+bool IsPeer(int a, int b) {
+    for (int p : Peers[a])
+        if (p == b) return true;
+    return false;
+}
+
+// Whether the change of `cell` from `then` to `now` is the work of the
+// conclusions: a digit they place, or a candidate they take away (directly, or
+// as a peer of a digit they place).
+bool ChangeByConclusions(const HintTruth& t, const Board& now, int cell) {
+    const int was = t.grid[cell], is = now.CurrentGrid[cell];
+    auto places = [&](int c, int d) {
+        for (const Conclusion& k : t.conclusions)
+            if (k.placed && k.cell == c && k.digit == d) return true;
+        return false;
+    };
+    if (was != is) return was == 0 && places(cell, is);
+    if (is) return true;
+    const unsigned added = now.Candidates[cell] & ~t.marks[cell];
+    if (added) return false;
+    unsigned removed = t.marks[cell] & ~now.Candidates[cell];
+    for (int d = 1; d <= 9 && removed; ++d) {
+        if (!(removed & DigitBit(d))) continue;
+        bool explained = false;
+        for (const Conclusion& k : t.conclusions)
+            explained |= k.digit == d && (k.placed ? IsPeer(k.cell, cell) : k.cell == cell);
+        if (!explained) return false;
+        removed &= ~unsigned(DigitBit(d));
+    }
+    return true;
 }
 
 }  // namespace
@@ -23,7 +55,7 @@ CellReport ReportCell(const Board& b, int cell, const std::string& text) {
 std::optional<CellReport> HintFlow::WrongNumber(const Board& b) {
     for (int c = 0; c < 81; ++c) {
         if (!b.Solution[c] || !b.CurrentGrid[c] || b.Solution[c] == b.CurrentGrid[c]) continue;
-        return ReportCell(b, c,
+        return ReportCell(b, HintTruth::kWrongNumber, c,
                           "Incorrect number (" + std::to_string(b.CurrentGrid[c]) + ") at cell " +
                               CellName(c) + " - Use [Undo] or [Reset Cell]");
     }
@@ -33,7 +65,7 @@ std::optional<CellReport> HintFlow::WrongNumber(const Board& b) {
 std::optional<CellReport> HintFlow::LostCandidate(const Board& b) {
     for (int c = 0; c < 81; ++c) {
         if (b.CurrentGrid[c] || !b.Solution[c] || b.Has(b.Solution[c], c)) continue;
-        return ReportCell(b, c,
+        return ReportCell(b, HintTruth::kLostCandidate, c,
                           "The correct number is no longer shown as a possibility at cell " +
                               CellName(c) + " - Use [Undo] or [Reset Cell]");
     }
@@ -45,6 +77,7 @@ std::optional<CellReport> HintFlow::StillMarked(const Board& b) {
         const int d = b.CurrentGrid[c];
         if (!d || !Exclude(b, d, c)) continue;
         CellReport report;
+        report.kind = HintTruth::kStillMarked;
         report.cell = c;
         report.sound = kSoundStillMarked;
         report.penalty = 20;
@@ -65,6 +98,32 @@ std::optional<CellReport> HintFlow::StillMarked(const Board& b) {
         return report;
     }
     return std::nullopt;
+}
+
+bool HintStillTrue(const HintTruth& t, const Board& now) {
+    const int c = t.cell;
+    switch (t.kind) {
+        case HintTruth::kNone: return false;
+        case HintTruth::kWrongNumber: return now.CurrentGrid[c] == t.digit;
+        case HintTruth::kLostCandidate: return !now.CurrentGrid[c] && !now.Has(t.digit, c);
+        case HintTruth::kStillMarked:
+            return now.CurrentGrid[c] == t.digit && Exclude(now, t.digit, c);
+        case HintTruth::kShowMe:
+            if (now.CurrentGrid[c]) return false;
+            for (int i = 0; i < 81; ++i)
+                if (t.grid[i] && now.CurrentGrid[i] != t.grid[i]) return false;
+            return true;
+        case HintTruth::kTechnique: break;
+    }
+    if (now.CurrentGrid == t.grid && now.Candidates == t.marks) return true;
+    for (int i = 0; i < 81; ++i)
+        if (!ChangeByConclusions(t, now, i)) return false;
+    for (const Conclusion& k : t.conclusions) {
+        const bool done = k.placed ? now.CurrentGrid[k.cell] == k.digit
+                                   : now.CurrentGrid[k.cell] || !now.Has(k.digit, k.cell);
+        if (!done) return true;
+    }
+    return false;
 }
 
 void HintFlow::ShowMe(int cell, int digit) {

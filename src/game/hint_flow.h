@@ -5,6 +5,7 @@
 // the board; the game shows what they report.
 #pragma once
 
+#include <array>
 #include <optional>
 #include <string>
 #include <vector>
@@ -16,9 +17,32 @@
 
 namespace tavi {
 
+// What keeps a hint on the board true. The hint goes (its colours, its text, the
+// headers it picked) as soon as a change of the board makes it false.
+struct HintTruth {
+    enum Kind { kNone, kWrongNumber, kLostCandidate, kStillMarked, kTechnique, kShowMe };
+    Kind kind = kNone;
+    int cell = -1;
+    int digit = 0;
+    std::vector<Conclusion> conclusions;  // a technique's hint
+    Digits grid{};                        // the board the hint was shown on
+    std::array<CandidateMask, 81> marks{};
+    std::string text;         // what the hint wrote in the hint box
+    bool pickedCell = false;  // it picked the cell's row and column for Reset Cell
+};
+
+// Whether the hint `truth` describes still holds on `now`. A wrong digit, a lost
+// candidate or a digit still marked holds while the cell is as reported. A
+// technique's hint holds while the board differs from the one it was shown on
+// only by some of its own conclusions, and one of them is still to be done.
+// The cell of a hint without pencil marks holds while it is empty and no digit
+// was taken back.
+bool HintStillTrue(const HintTruth& truth, const Board& now);
+
 // What a check found: the cell, the text for the hint box, the paint, the
 // sound, the price on the clock, and whether the cell is picked for Reset Cell.
 struct CellReport {
+    HintTruth::Kind kind = HintTruth::kWrongNumber;
     int cell = 0;
     std::string text;
     std::vector<HintPaint> paints;

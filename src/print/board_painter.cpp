@@ -79,9 +79,30 @@ QColor RingFor(const QColor& mark, const QColor& cell) {
     return Distance(dark, cell) >= Distance(light, cell) ? dark : light;
 }
 
+// The highlight layer: under the paints of hints and brushes, which always show.
+void PaintHighlight(QPainter& p, const BoardGeometry& g, const BoardPicture& s,
+                    const BoardLook& look) {
+    const int d = s.emphasised;
+    for (int c = 0; c < 81; ++c) {
+        if (d && s.digits[c] == d)
+            p.fillRect(g.CellRect(c), look.digitTint);
+        else if (s.tinted[c])
+            p.fillRect(g.CellRect(c), look.tint);
+        if (!d || s.digits[c] || !s.MarkShown(d, c) || (s.bareMarks[c] & (1u << (d - 1)))) continue;
+        const QRectF spot = QRectF(MarkBox(g, d, c, look.markMargin)).adjusted(1, 1, -1, -1);
+        p.save();
+        p.setRenderHint(QPainter::Antialiasing);
+        p.setPen(Qt::NoPen);
+        p.setBrush(look.markTint);
+        p.drawEllipse(spot);
+        p.restore();
+    }
+}
+
 void PaintBackgrounds(QPainter& p, const BoardGeometry& g, const BoardPicture& s,
                       const BoardLook& look) {
     p.fillRect(g.GridRect(), look.base);
+    PaintHighlight(p, g, s, look);
     const int inset = std::max(1, g.ThinLine());
     for (int c = 0; c < 81; ++c) {
         if (s.cellPaint[c]) p.fillRect(g.CellRect(c), ColorOf(*s.cellPaint[c]));

@@ -34,6 +34,10 @@ struct BoardPicture {
     int selectedColumn = -1;
     int cursor = -1;            // the keyboard's cell, framed; -1 for none
     bool cursorFocused = true;  // the keys reach the board: the frame in full colour
+    // The highlight, drawn under every paint: cells in a light tint, and the
+    // cells and marks of one digit (0 for none) emphasised.
+    std::array<bool, 81> tinted{};
+    int emphasised = 0;
     std::array<std::optional<Color>, 81> cellPaint{};
     std::array<std::array<std::optional<Color>, 9>, 81> markPaint{};
 
@@ -52,7 +56,10 @@ struct BoardLook {
     QColor thinLine = QColor(150, 156, 170);
     QColor thickLine = QColor(38, 44, 64);
     QColor headerText = QColor(70, 76, 92);
-    QString digitFamily;  // empty: the painter's font
+    QColor tint = QColor(233, 239, 250);       // the highlight's cells
+    QColor digitTint = QColor(196, 214, 246);  // the cells of the emphasised digit
+    QColor markTint = QColor(160, 192, 245);   // a spot under each of its marks
+    QString digitFamily;                       // empty: the painter's font
     QString headerFamily;
     // With a family the font starts fresh, with this hint for fontconfig's
     // choice, and takes nothing of the painter's font.

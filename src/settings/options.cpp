@@ -26,6 +26,14 @@ constexpr OptionKey kOptionKeys[] = {
 };
 constexpr std::string_view kLogfiles = "Logfiles";
 
+// The highlighting keeps a section of its own, so the keys of "Options" stay as
+// they have always been.
+constexpr std::string_view kHighlight = "Highlight";
+constexpr OptionKey kHighlightKeys[] = {
+    {"Houses", &Options::HighlightHouses},
+    {"Digit", &Options::HighlightDigit},
+};
+
 }  // namespace
 
 void HaalOpties(const SettingsStore& store, Options& options) {
@@ -33,6 +41,8 @@ void HaalOpties(const SettingsStore& store, Options& options) {
     for (const auto& [key, field] : kOptionKeys)
         options.*field = ReadBool(store, kOptions, key, defaults.*field);
     options.LogfilesMade = ReadBool(store, kOptions, kLogfiles, defaults.LogfilesMade);
+    for (const auto& [key, field] : kHighlightKeys)
+        options.*field = ReadBool(store, kHighlight, key, defaults.*field);
     options.VersionMain = ReadInt(store, kVersion, "Main", defaults.VersionMain);
     options.VersionSub = ReadInt(store, kVersion, "Sub", defaults.VersionSub);
     ReadTechniqueTables(store, options.techniques);
@@ -42,6 +52,8 @@ void HaalOpties(const SettingsStore& store, Options& options) {
 void SchrijfOpties(SettingsStore& store, const Options& options) {
     for (const auto& [key, field] : kOptionKeys)
         WriteBool(store, kOptions, key, options.*field);
+    for (const auto& [key, field] : kHighlightKeys)
+        WriteBool(store, kHighlight, key, options.*field);
     WriteTechniqueTables(store, options.techniques);
 }
 

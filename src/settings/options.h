@@ -24,6 +24,11 @@ struct Options {
     bool AutoErase = true;      // erase the progress of a solved puzzle without asking
     bool LogfilesMade = false;  // key "Logfiles"
 
+    // Section "Highlight", beside the keys of "Options": the board's help in
+    // finding the cursor and its digit.
+    bool HighlightHouses = true;  // the cursor's row, column and box in a light tint
+    bool HighlightDigit = true;   // the cursor's digit: its cells and its marks
+
     // Section "Version".
     int VersionMain = 0;
     int VersionSub = 0;
@@ -36,8 +41,8 @@ struct Options {
 // the colours. Missing keys and values that can't be read as their type take the
 // defaults.
 void HaalOpties(const SettingsStore& store, Options& options);
-// The eleven options of section "Options" (not "Logfiles"), then the technique
-// tables.
+// The eleven options of section "Options" (not "Logfiles"), the highlighting of
+// section "Highlight", then the technique tables.
 void SchrijfOpties(SettingsStore& store, const Options& options);
 // "Logfiles", written as soon as the log files exist.
 void SchrijfOptieSudLog(SettingsStore& store, const Options& options);

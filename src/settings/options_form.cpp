@@ -18,6 +18,8 @@ OptionsForm OptionsForm::From(const Options& o) {
     f.AutoErase = o.AutoErase;
     f.PencilmarksOff = o.PencilmarksOff;
     f.Dimmed = o.Dimmed;
+    f.HighlightHouses = o.HighlightHouses;
+    f.HighlightDigit = o.HighlightDigit;
     f.Save = SaveChoiceOf(o.AutoSave, o.AskSave);
     return f;
 }
@@ -32,6 +34,8 @@ void OptionsForm::ApplyTo(Options& o) const {
     o.AutoErase = AutoErase;
     o.PencilmarksOff = PencilmarksOff;
     o.Dimmed = Dimmed;
+    o.HighlightHouses = HighlightHouses;
+    o.HighlightDigit = HighlightDigit;
     // "Allways" saves without asking and still counts as asking; "Never" does neither.
     o.AutoSave = Save == SaveChoice::Allways;
     o.AskSave = Save != SaveChoice::Never;

@@ -19,6 +19,8 @@ struct OptionsForm {
     bool AutoErase = true;        // "Auto-erase if solved"
     bool PencilmarksOff = false;  // "Pencilmarks off in first 3 levels"
     bool Dimmed = false;          // "Dimmed pencilmarks"
+    bool HighlightHouses = true;  // "Row, column and box of the cursor"
+    bool HighlightDigit = true;   // "Every place of the cursor's digit"
     SaveChoice Save = SaveChoice::Allways;
 
     // The copy of the options in force, as the window opens.

@@ -1,5 +1,7 @@
 #include "ui/board_snapshot.h"
 
+#include "grid/tables.h"
+
 namespace tavi::ui {
 
 BoardPicture PictureOf(const Game& game) {
@@ -28,6 +30,15 @@ HintSnapshot SnapshotOf(const Game& game) {
     s.enabled = true;
     s.selectedRow = s.selectedColumn = -1;
     return s;
+}
+
+void AddHighlight(BoardPicture& picture, int cursor, const Options& options) {
+    if (cursor < 0 || cursor > 80) return;
+    if (options.HighlightHouses)
+        for (int c = 0; c < 81; ++c)
+            picture.tinted[c] = c / 9 == cursor / 9 || c % 9 == cursor % 9 ||
+                                Global::BoxOfCell[c] == Global::BoxOfCell[cursor];
+    if (options.HighlightDigit) picture.emphasised = picture.digits[cursor];
 }
 
 BoardLook ScreenLook(const QPalette& palette) {

@@ -21,6 +21,10 @@ BoardPicture PictureOf(const Game& game);
 // and drawn as a board that answers.
 HintSnapshot SnapshotOf(const Game& game);
 
+// The highlight of the options around the cursor's cell (-1 for none): its row,
+// column and box tinted, and every cell and mark of its digit emphasised.
+void AddHighlight(BoardPicture& picture, int cursor, const Options& options);
+
 // The screen's look: window, base and text colours from `palette`.
 BoardLook ScreenLook(const QPalette& palette);
 

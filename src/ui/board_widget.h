@@ -25,9 +25,18 @@ class BoardWidget : public QWidget {
     // the cell itself (digit 0) when the square holds no mark, or a header.
     BoardSpot TargetAt(QPoint p) const;
 
-    // The keyboard's cursor: a cell, or -1 while the keyboard has not been used.
+    // The keyboard's cursor: a cell, or -1 while neither a key nor a click has
+    // chosen one. A click on a cell moves it there.
     int CursorCell() const { return cursor_; }
     void SetCursorCell(int cell);
+
+    // A short answer to a key that could do nothing: the cell flashes and the
+    // text stands over the board for a moment.
+    void Notify(int cell, const QString& text);
+    const QString& Notice() const { return notice_; }
+    // The share of a cell's side along its edges where a click chooses the cell
+    // and places nothing.
+    static constexpr int kEdgeShare = 12;  // one twelfth
 
     QSize sizeHint() const override { return {460, 460}; }
     QSize minimumSizeHint() const override { return {200, 200}; }
@@ -45,6 +54,7 @@ class BoardWidget : public QWidget {
 
   private:
     void Hover(const BoardSpot& spot);
+    void PaintNotice(QPainter& p);
 
     Game& game_;
     BoardGeometry layout_;
@@ -53,6 +63,9 @@ class BoardWidget : public QWidget {
     Qt::MouseButton pressedButton_ = Qt::NoButton;
     BoardSpot hover_;
     int cursor_ = -1;
+    int noticeCell_ = -1;
+    QString notice_;
+    class QTimer* noticeTimer_ = nullptr;
 };
 
 }  // namespace tavi::ui

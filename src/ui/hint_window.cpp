@@ -2,9 +2,9 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QFileDialog>
 #include <QFileInfo>
 #include <QGuiApplication>
-#include <QInputDialog>
 #include <QMenuBar>
 #include <QMoveEvent>
 #include <QPainter>
@@ -12,8 +12,11 @@
 #include <QPrinter>
 #include <QRegularExpression>
 #include <QScreen>
+#include <QStandardPaths>
+#include <QStyle>
 
 #include <algorithm>
+#include <tuple>
 
 #include "hints/hint_kinds.h"
 #include "ui/qt_convert.h"
@@ -47,11 +50,6 @@ class SnapshotView : public QWidget {
     const HintSnapshot& snapshot_;
 };
 
-QString AskWithInputBox(QWidget* parent, const QString& title, const QString& prompt,
-                        const QString& suggested, bool* ok) {
-    return QInputDialog::getText(parent, title, prompt, QLineEdit::Normal, suggested, ok);
-}
-
 }  // namespace
 
 HintWindow::HintWindow(const Game& game, LibraryFolders folders, QWidget* parent)
@@ -73,11 +71,10 @@ HintWindow::HintWindow(const Game& game, LibraryFolders folders, QWidget* parent
     item("mnuWindowPrint", "&Print", [this] { Print(); });
     item("mnuWindowClose", "&Close", [this] { close(); });
 
-    askName_ = [this](const QString& title, const QString& prompt,
-                      const QString& suggested) -> std::optional<QString> {
-        bool ok = false;
-        const QString answer = AskWithInputBox(this, title, prompt, suggested, &ok);
-        if (!ok) return std::nullopt;
+    askPath_ = [this](const QString& title, const QString& suggested) -> std::optional<QString> {
+        const QString answer =
+            QFileDialog::getSaveFileName(this, title, suggested, QString::fromLatin1(kBmpFilter));
+        if (answer.isEmpty()) return std::nullopt;
         return answer;
     };
     TakeSnapshot();
@@ -102,17 +99,92 @@ void HintWindow::Present() {
     raise();
 }
 
-QPoint HintWindowPlace(const QRect& mainFrame, const QSize& hintFrame, const QRect& screenFree) {
+namespace {
+
+long Overlap(const QRect& a, const QRect& b) {
+    const QRect both = a.intersected(b);
+    return both.isEmpty() ? 0 : long(both.width()) * both.height();
+}
+
+// How much a window at `r` hides: of what must stay clear, of what had better
+// stay clear, of the game window.
+using Hidden = std::tuple<long, long, long>;
+
+Hidden HiddenBy(const QRect& r, const QRect& mainFrame, const std::vector<QRect>& keepClear,
+                const std::vector<QRect>& rather) {
+    long keep = 0, better = 0;
+    for (const QRect& k : keepClear)
+        keep += Overlap(r, k);
+    for (const QRect& k : rather)
+        better += Overlap(r, k);
+    return {keep, better, Overlap(r, mainFrame)};
+}
+
+// The best place of a window of `size` among places along the screen's edges
+// and beside every part to keep clear.
+std::pair<Hidden, QPoint> BestPlace(const QRect& mainFrame, const QSize& size, const QRect& free,
+                                    const std::vector<QRect>& keepClear,
+                                    const std::vector<QRect>& rather) {
+    constexpr int kGap = 8;
+    const int w = size.width(), h = size.height();
+    std::vector<int> xs = {free.left(), free.right() + 1 - w, mainFrame.left(),
+                           mainFrame.right() + 1 - w};
+    std::vector<int> ys = {free.top(), free.bottom() + 1 - h, mainFrame.top(),
+                           mainFrame.bottom() + 1 - h};
+    for (const auto* list : {&keepClear, &rather})
+        for (const QRect& r : *list) {
+            xs.insert(xs.end(), {r.right() + 1 + kGap, r.left() - kGap - w, r.left()});
+            ys.insert(ys.end(), {r.bottom() + 1 + kGap, r.top() - kGap - h, r.top()});
+        }
+    auto clampTo = [](int v, int low, int high) { return std::max(low, std::min(v, high)); };
+    std::optional<std::pair<Hidden, QPoint>> best;
+    for (int x : xs)
+        for (int y : ys) {
+            const QPoint at(clampTo(x, free.left(), free.right() + 1 - w),
+                            clampTo(y, free.top(), free.bottom() + 1 - h));
+            const Hidden hidden = HiddenBy(QRect(at, size), mainFrame, keepClear, rather);
+            // Ties go to the lower right, where the game window keeps the least.
+            if (!best || hidden < best->first ||
+                (hidden == best->first && at.x() + at.y() > best->second.x() + best->second.y()))
+                best = {hidden, at};
+        }
+    return *best;
+}
+
+}  // namespace
+
+QRect HintWindowPlace(const QRect& mainFrame, const QSize& hintFrame, const QRect& screenFree,
+                      const std::vector<QRect>& keepClear, QSize smallest,
+                      const std::vector<QRect>& rather) {
     constexpr int kGap = 8;
     const int top =
         std::clamp(mainFrame.top(), screenFree.top(),
                    std::max(screenFree.top(), screenFree.bottom() + 1 - hintFrame.height()));
     const int right = mainFrame.right() + 1 + kGap;
-    if (right + hintFrame.width() <= screenFree.right() + 1) return {right, top};
+    if (right + hintFrame.width() <= screenFree.right() + 1 &&
+        hintFrame.height() <= screenFree.height())
+        return {QPoint(right, top), hintFrame};
     const int left = mainFrame.left() - kGap - hintFrame.width();
-    if (left >= screenFree.left()) return {left, top};
-    return {std::max(screenFree.left(), screenFree.right() + 1 - hintFrame.width()),
-            std::max(screenFree.top(), screenFree.bottom() + 1 - hintFrame.height())};
+    if (left >= screenFree.left() && hintFrame.height() <= screenFree.height())
+        return {QPoint(left, top), hintFrame};
+    // No room beside: over the game window where it hides the least, and
+    // smaller (down to 60 %) when that hides less.
+    const QSize fitting = hintFrame.boundedTo(screenFree.size());
+    smallest = smallest.expandedTo(fitting * 0.6).boundedTo(fitting);
+    auto best = BestPlace(mainFrame, fitting, screenFree, keepClear, rather);
+    QSize size = fitting;
+    for (int step = 1; (std::get<0>(best.first) > 0 || std::get<1>(best.first) > 0) && step <= 6;
+         ++step) {
+        const QSize smaller(fitting.width() - (fitting.width() - smallest.width()) * step / 6,
+                            fitting.height() - (fitting.height() - smallest.height()) * step / 6);
+        const auto there = BestPlace(mainFrame, smaller, screenFree, keepClear, rather);
+        const auto key = [](const Hidden& h) { return std::pair(std::get<0>(h), std::get<1>(h)); };
+        if (key(there.first) < key(best.first)) {
+            best = there;
+            size = smaller;
+        }
+    }
+    return {best.second, size};
 }
 
 void HintWindow::SetStore(SettingsStore* store) {
@@ -128,19 +200,40 @@ void HintWindow::Place() {
     const QWidget* main = parentWidget() ? parentWidget()->window() : nullptr;
     QScreen* screen = main ? main->screen() : this->screen();
     if (!screen) return;
-    // The frame is only known once shown; before, the size stands for it.
-    const QSize frame = frameGeometry().size().expandedTo(size());
-    const QRect free = screen->availableGeometry();
-    QPoint at;
-    if (placed_ && QGuiApplication::screenAt(*placed_ + QPoint(20, 20))) {
-        at = *placed_;  // the person's place, while a screen still shows it
-    } else if (main) {
-        at = HintWindowPlace(main->frameGeometry(), frame, free);
-    } else {
-        return;
+    // Before the first showing the window manager has not told the frame yet:
+    // a title bar and borders are reckoned with, so the frame stays on screen.
+    QSize decoration = frameGeometry().size().expandedTo(size()) - size();
+    if (decoration.isNull()) {
+        const int border = style()->pixelMetric(QStyle::PM_MdiSubWindowFrameWidth);
+        decoration =
+            QSize(2 * border, style()->pixelMetric(QStyle::PM_TitleBarHeight) + 2 * border);
     }
+    const QSize frame = size() + decoration;
+    const QRect free = screen->availableGeometry();
+    const std::vector<QRect> keepClear = keepClear_ ? keepClear_() : std::vector<QRect>{};
+    if (placed_) {
+        // The person's place, while it is wholly on a screen and hides neither
+        // the board nor the hint text; else it is dropped.
+        const QRect there(*placed_, frame);
+        const QScreen* on = QGuiApplication::screenAt(there.center());
+        bool clear = on && on->availableGeometry().contains(there);
+        for (const QRect& k : keepClear)
+            clear = clear && !there.intersects(k);
+        if (clear) {
+            placing_ = true;
+            move(*placed_);
+            placing_ = false;
+            return;
+        }
+        placed_.reset();
+    }
+    if (!main) return;
+    const std::vector<QRect> rather = rather_ ? rather_() : std::vector<QRect>{};
+    const QRect at = HintWindowPlace(main->frameGeometry(), frame, free, keepClear,
+                                     minimumSizeHint() + decoration, rather);
     placing_ = true;
-    move(at);
+    if (at.size() != frame) resize(at.size() - decoration);
+    move(at.topLeft());
     placing_ = false;
 }
 
@@ -166,15 +259,6 @@ QImage HintWindow::Picture() {
     return grab().toImage();
 }
 
-QString ScreenshotsFolder(const LibraryFolders& folders) {
-    for (const auto& base : {folders.AppFolder, folders.DataFolder}) {
-        const QString dir =
-            QDir(QString::fromStdString(base.string())).filePath(QStringLiteral("Screenshots"));
-        if (QDir().mkpath(dir) && QFileInfo(dir).isWritable()) return dir;
-    }
-    return {};
-}
-
 QString PictureFileName(QString answer) {
     answer = answer.trimmed();
     if (answer.endsWith(QStringLiteral(".bmp"), Qt::CaseInsensitive)) answer.chop(4);
@@ -194,16 +278,34 @@ QString SuggestedPictureName(const QString& caption, const QString& folder) {
     }
 }
 
+QString HintWindow::PictureFolder() const {
+    if (!pictureFolder_.isEmpty()) return pictureFolder_;
+    if (store_) {
+        const QString kept =
+            QString::fromStdString(store_->Read(kPictureFolderSection, kPictureFolderKey, ""));
+        if (!kept.isEmpty()) return kept;
+    }
+    const QString pictures = QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);
+    return pictures.isEmpty() ? QDir::homePath() : pictures;
+}
+
 QString HintWindow::SaveAsBmp() {
-    const QString folder = ScreenshotsFolder(folders_);
-    const auto answer =
-        askName_(QString::fromLatin1(kSaveAsTitle), QString::fromLatin1(kSaveAsPrompt),
-                 SuggestedPictureName(windowTitle(), folder));
-    if (!answer || folder.isEmpty()) return {};
-    const QString name = PictureFileName(*answer);
+    const QString folder = PictureFolder();
+    const auto answer = askPath_(QString::fromLatin1(kSaveAsTitle),
+                                 QDir(folder).filePath(SuggestedPictureName(windowTitle(), folder) +
+                                                       QStringLiteral(".bmp")));
+    if (!answer) return {};
+    const QFileInfo chosen(*answer);
+    const QString name = PictureFileName(chosen.fileName());
     if (name.isEmpty()) return {};
-    const QString file = QDir(folder).filePath(name + QStringLiteral(".bmp"));
-    return Picture().save(file, "BMP") ? file : QString();
+    const QString dir = chosen.absolutePath();
+    // The folder is made only now, for a picture that is written.
+    if (!QDir().mkpath(dir)) return {};
+    const QString file = QDir(dir).filePath(name + QStringLiteral(".bmp"));
+    if (!Picture().save(file, "BMP")) return {};
+    pictureFolder_ = dir;
+    if (store_) store_->Write(kPictureFolderSection, kPictureFolderKey, dir.toStdString());
+    return file;
 }
 
 bool HintWindow::PrintTo(QPrinter& printer) {

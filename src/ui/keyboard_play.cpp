@@ -7,6 +7,7 @@
 #include <QWidget>
 #include <algorithm>
 
+#include "grid/tables.h"
 #include "ui/board_widget.h"
 
 namespace tavi::ui {
@@ -110,12 +111,28 @@ void KeyboardPlay::MoveCursor(int rows, int columns) {
     board_->SetCursorCell(row * 9 + column);
 }
 
+QString KeyRefusal(const Game& game, int digit, int cell) {
+    if (!game.GridEnabled() || game.brush().BrushActive) return {};
+    const QString name = QString::fromStdString(CellName(cell));
+    if (const int there = game.board().CurrentGrid[cell]) {
+        if (game.IsClue(cell)) return QStringLiteral("%1 holds the clue %2").arg(name).arg(there);
+        if (there == digit) return QStringLiteral("%1 holds %2 already").arg(name).arg(there);
+        return QStringLiteral("%1 holds %2: Delete empties it").arg(name).arg(there);
+    }
+    if (!game.FilterOn(digit))
+        return QStringLiteral("The marks of %1 are hidden by the digit filter").arg(digit);
+    if (!game.MarkVisible(digit, cell))
+        return QStringLiteral("%1 is not a candidate of %2").arg(digit).arg(name);
+    return {};
+}
+
 // A digit as the left click on its mark, a mark taken away as the right click.
 void KeyboardPlay::Digit(int digit, bool mark) {
     const int cell = board_->CursorCell();
     if (cell < 0 || game_.Busy()) return;
-    // A mark that is not there takes no click, and no key either: say so.
-    if (!game_.board().CurrentGrid[cell] && !game_.MarkVisible(digit, cell)) QApplication::beep();
+    // A mark that is not there takes no click, and no key either: say why.
+    if (const QString why = KeyRefusal(game_, digit, cell); !why.isEmpty())
+        board_->Notify(cell, why);
     game_.MarkMouseUp(digit, cell, mark ? MouseButton::Right : MouseButton::Left, true);
 }
 

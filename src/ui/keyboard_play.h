@@ -7,6 +7,7 @@
 #pragma once
 
 #include <QObject>
+#include <QString>
 
 #include "game/game.h"
 
@@ -15,6 +16,10 @@ class QWidget;
 namespace tavi::ui {
 
 class BoardWidget;
+
+// Why digit `digit` typed at `cell` can do nothing ("4 is not a candidate of
+// B3"); empty when the key does what the click on the mark would.
+QString KeyRefusal(const Game& game, int digit, int cell);
 
 class KeyboardPlay : public QObject {
   public:

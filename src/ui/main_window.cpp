@@ -11,6 +11,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScreen>
+#include <QStyle>
 #include <QTimer>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -69,14 +70,27 @@ MainWindow::MainWindow(Game& game, Options& options, const LibraryFolders& folde
     timer_->start();
 
     setWindowIcon(QIcon(SiteEmblem(64, 1.0)));
-    setMinimumSize(760, 560);
-    // The window opens centred on the screen, as large as it comfortably fits.
+    // The least size is what the controls need (the layout sees to it), so that
+    // the window fits a screen of 960 x 540 (a 1920 x 1080 screen at twice the
+    // scale) with its title bar.
+    // The window opens centred on the screen, as large as it comfortably fits,
+    // and larger on a large screen, so that board and texts grow with it.
     QSize start(1000, 760);
     if (const QScreen* screen = this->screen()) {
         const QRect free = screen->availableGeometry();
-        start = start.boundedTo(free.size() * 0.92).expandedTo(minimumSize());
+        // The title bar, which the window manager adds above, is reckoned with.
+        const int title = QGuiApplication::platformName() == QLatin1String("offscreen")
+                              ? 0
+                              : style()->pixelMetric(QStyle::PM_TitleBarHeight) + 8;
+        const double grow = std::clamp(free.height() * 0.8 / start.height(), 1.0, 1.5);
+        // As wide as the board at the full height needs, beside the commands.
+        const int height = std::min(int(start.height() * grow),
+                                    std::min(int(free.height() * 0.92), free.height() - title - 4));
+        start = QSize(std::max(start.width(), height * 145 / 100), height)
+                    .boundedTo(QSize(int(free.width() * 0.92), height))
+                    .expandedTo(minimumSizeHint());
         resize(start);
-        move(free.center() - QPoint(start.width() / 2, start.height() / 2));
+        move(free.center() - QPoint(start.width() / 2, (start.height() + title) / 2));
     } else {
         resize(start);
     }
@@ -100,6 +114,10 @@ void MainWindow::ConnectBoard() {
 void MainWindow::Do(const std::function<void()>& handler) {
     if (game_.Busy()) return;
     handler();
+}
+
+void MainWindow::ReturnFocus() {
+    if (!exiting_) area_->Board()->setFocus(Qt::OtherFocusReason);
 }
 
 void MainWindow::Breathe() {
@@ -138,6 +156,11 @@ void MainWindow::Show(Changes c) {
     if (c.Has(kChangeHintWindow) && game_.HintWindowShows() != hintShows_) {
         hintShows_ = game_.HintWindowShows();
         Hints()->ShowHint();
+    }
+    // Another game on the board: the hint window's copy of the one before goes.
+    if (c.Has(kChangeHintWindow) && game_.Generation() != generation_) {
+        generation_ = game_.Generation();
+        if (hints_) hints_->Refresh();
     }
 }
 
@@ -240,6 +263,20 @@ HintWindow* MainWindow::Hints() {
         hints_ = new HintWindow(game_, folders_, this);
         hints_->setWindowFlag(Qt::Window);
         hints_->SetStore(store_);
+        // The board and the hint text stay in view.
+        hints_->SetKeepClear(
+            [this] {
+                const BoardWidget* board = area_->Board();
+                const QRect grid = board->Layout().BoardRect();
+                return std::vector<QRect>{
+                    QRect(board->mapToGlobal(grid.topLeft()), grid.size()),
+                    QRect(textHint_->mapToGlobal(QPoint(0, 0)), textHint_->size())};
+            },
+            [this] {
+                const QWidget* buttons = commands_[0]->parentWidget();
+                return std::vector<QRect>{
+                    QRect(buttons->mapToGlobal(QPoint(0, 0)), buttons->size())};
+            });
         hints_->Refresh();
     }
     return hints_;

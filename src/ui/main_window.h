@@ -92,6 +92,8 @@ class MainWindow : public QMainWindow {
     // no other command.
     void Do(const std::function<void()>& handler);
     void Exit();
+    // The board takes the keys back, so arrows and digits work at once.
+    void ReturnFocus();
     void ShowRevisions();
     void ShowWorkbench();
     void ShowOptions();
@@ -119,11 +121,12 @@ class MainWindow : public QMainWindow {
     QLabel* labelTijd_ = nullptr;
     SudTekstLine* sudTekst_ = nullptr;
     QTimer* timer_ = nullptr;
-    AboutWindow* revisions_ = nullptr;  // the About box, with the revision history
+    AboutWindow* revisions_ = nullptr;    // the About box, with the revision history
     std::optional<PrintSettings> print_;  // the print window's, from its first opening on
     class CheckWindow* workbench_ = nullptr;
     HintWindow* hints_ = nullptr;
     int hintShows_ = 0;       // the hint window's showings the game asked for and got
+    int generation_ = 0;      // the game whose board the hint window may copy
     bool exiting_ = false;    // Exit has asked already: the close goes through
     bool minimised_ = false;  // the clock is paused
 };

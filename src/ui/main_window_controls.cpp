@@ -73,6 +73,7 @@ QWidget* MainWindow::BuildLevels() {
     for (int level = 1; level <= kLevelCount; ++level) {
         auto* option = new QRadioButton(ToQString(LevelName(level)), box);
         option->setObjectName(QStringLiteral("OptionType_%1").arg(level));
+        option->setFocusPolicy(Qt::TabFocus);  // a click leaves the keys on the board
         group->addButton(option, level);
         grid->addWidget(option, (level - 1) / 3, (level - 1) % 3);
         levels_[level] = option;
@@ -95,8 +96,12 @@ QWidget* MainWindow::BuildCommands() {
         grid->addWidget(button, id / 3, id % 3);
         commands_[id] = button;
     }
+    // After any command the keys play on at once.
     auto on = [this](CommandId id, std::function<void()> run) {
-        connect(commands_[id], &QPushButton::clicked, this, [this, run] { Do(run); });
+        connect(commands_[id], &QPushButton::clicked, this, [this, run] {
+            Do(run);
+            ReturnFocus();
+        });
     };
     on(kNew, [this] { game_.CommandNew(); });
     on(kOpen, [this] { game_.CommandOpen(); });
@@ -110,10 +115,22 @@ QWidget* MainWindow::BuildCommands() {
     on(kAutoSolve, [this] { game_.CommandAutoSolve(); });
     on(kMake, [this] { game_.CommandMake(); });
     // Scan answers also while it runs: its "Stop" ends the run.
-    connect(commands_[kScan], &QPushButton::clicked, this, [this] { game_.CommandScan(); });
-    connect(commands_[kOptions], &QPushButton::clicked, this, &MainWindow::ShowOptions);
-    connect(commands_[kPrint], &QPushButton::clicked, this, &MainWindow::ShowPrint);
-    connect(commands_[kExit], &QPushButton::clicked, this, &MainWindow::Exit);
+    connect(commands_[kScan], &QPushButton::clicked, this, [this] {
+        game_.CommandScan();
+        ReturnFocus();
+    });
+    connect(commands_[kOptions], &QPushButton::clicked, this, [this] {
+        ShowOptions();
+        ReturnFocus();
+    });
+    connect(commands_[kPrint], &QPushButton::clicked, this, [this] {
+        ShowPrint();
+        ReturnFocus();
+    });
+    connect(commands_[kExit], &QPushButton::clicked, this, [this] {
+        Exit();
+        ReturnFocus();
+    });
     return box;
 }
 

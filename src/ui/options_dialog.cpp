@@ -22,6 +22,7 @@ OptionsDialog::OptionsDialog(Options& options, bool soundAvailable, QWidget* par
     frames->setSpacing(10);
     frames->addWidget(MakeTimeFrame());
     frames->addWidget(MakeProgressFrame());
+    frames->addWidget(MakeHighlightFrame());
 
     auto* top = new QHBoxLayout;
     top->setSpacing(18);
@@ -123,6 +124,18 @@ QWidget* OptionsDialog::MakeProgressFrame() {
     return frame;
 }
 
+QWidget* OptionsDialog::MakeHighlightFrame() {
+    auto* frame = new QGroupBox(QStringLiteral("Highlight"));
+    frame->setObjectName(QStringLiteral("FrameHighlight"));
+    auto* column = new QVBoxLayout(frame);
+    column->setSpacing(8);
+    column->addWidget(Check("CheckHighlightHouses", "Row, column and box of the cursor",
+                            &OptionsForm::HighlightHouses));
+    column->addWidget(Check("CheckHighlightDigit", "Every place of the cursor's digit",
+                            &OptionsForm::HighlightDigit));
+    return frame;
+}
+
 QWidget* OptionsDialog::MakeButtons() {
     auto* panel = new QWidget;
     auto* row = new QHBoxLayout(panel);
@@ -164,7 +177,9 @@ void OptionsDialog::SetColorsAction(std::function<void(QWidget*)> action) {
 
 // Every control from the copy; the timer choices answer only while the clock is kept.
 void OptionsDialog::ShowForm() {
-    const std::array<std::pair<const char*, bool>, 8> checks = {{
+    const std::array<std::pair<const char*, bool>, 10> checks = {{
+        {"CheckHighlightHouses", form_.HighlightHouses},
+        {"CheckHighlightDigit", form_.HighlightDigit},
         {"Check1", form_.Pencilmarks},
         {"Check2", form_.TimeOn},
         {"Check3", form_.Wells},

@@ -39,6 +39,7 @@ class OptionsDialog : public QDialog {
 
   private:
     QWidget* MakeChecks();
+    QWidget* MakeHighlightFrame();
     QWidget* MakeTimeFrame();
     QWidget* MakeProgressFrame();
     QWidget* MakeButtons();

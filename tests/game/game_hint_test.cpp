@@ -152,6 +152,7 @@ TEST_F(Hints, WithoutPencilmarksTheHintComesInTwoStages) {
     g.CommandSave();
     EXPECT_EQ(g.commands().HintCaption, "Hint");
     g.CommandHint();
+    prompter.answers = {Answer::Yes};
     g.CommandSolution();
     EXPECT_EQ(g.commands().HintCaption, "Hint");
     EXPECT_EQ(g.TextHint(), kSolutionText);

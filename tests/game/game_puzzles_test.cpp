@@ -233,6 +233,15 @@ TEST_F(Puzzles, SolutionShowsTheBoardAndEndsTheGame) {
     Game& g = Playing(4);
     options.Sounds = true;
     PlaceOne();
+    // A game in play asks first; No keeps it as it is.
+    const auto before = testing::GridAndMarks(g.board());
+    prompter.answers = {Answer::No};
+    g.CommandSolution();
+    EXPECT_EQ(prompter.Last(), TitleText(kSolutionQuestionTitle, kSolutionQuestion));
+    EXPECT_EQ(testing::GridAndMarks(g.board()), before);
+    EXPECT_FALSE(g.position().SudokuSolved);
+    EXPECT_TRUE(g.TimerRunning());
+    prompter.answers = {Answer::Yes};
     g.CommandSolution();
     EXPECT_EQ(g.board().CurrentGrid, g.board().Solution);
     EXPECT_EQ(sounds.played.back(), kSoundSolution);
@@ -290,6 +299,7 @@ TEST_F(Puzzles, WellsFollowThePlacedDigits) {
     EXPECT_TRUE(g.WellFilled(digit, box));
     g.CommandUndo();
     EXPECT_FALSE(g.WellFilled(digit, box));
+    prompter.answers = {Answer::Yes};
     g.CommandSolution();
     for (int d = 1; d <= 9; ++d)
         EXPECT_TRUE(g.DigitCompleted(d));

@@ -23,6 +23,7 @@ TEST(HaalOpties, AnEmptyStoreGivesEveryDefault) {
     Options o;
     o.Dimmed = o.Sounds = o.LogfilesMade = o.PencilmarksOff = o.HintWindow = true;
     o.Wells = o.TimeOn = o.TimeShow = o.AutoSave = o.AskSave = o.AutoErase = o.Pencilmarks = false;
+    o.HighlightHouses = o.HighlightDigit = false;
     o.VersionMain = o.VersionSub = 3;
     o.techniques.OnOff[12] = 0;
     o.techniques.Halt[20] = 1;
@@ -44,6 +45,7 @@ TEST(SchrijfOpties, WritesTheElevenOptionsAndTheTechniqueTablesAsText) {
     MemorySettingsStore store;
     Options o;
     o.Dimmed = true;
+    o.HighlightDigit = false;
     o.AutoErase = false;
     o.techniques.Order[8] = 9;
     o.techniques.Order[9] = 8;
@@ -61,6 +63,8 @@ TEST(SchrijfOpties, WritesTheElevenOptionsAndTheTechniqueTablesAsText) {
         {"Options", "AutoSave", "True"},
         {"Options", "AskSave", "True"},
         {"Options", "AutoErase", "False"},
+        {"Highlight", "Houses", "True"},
+        {"Highlight", "Digit", "False"},
     });
     for (int i = 0; i < 40; ++i) {
         const std::string n = std::to_string(i);
@@ -72,8 +76,8 @@ TEST(SchrijfOpties, WritesTheElevenOptionsAndTheTechniqueTablesAsText) {
 
     Options back;
     HaalOpties(store, back);
-    EXPECT_EQ(std::tuple(back.Dimmed, back.AutoErase, back.techniques.Order),
-              std::tuple(true, false, o.techniques.Order));
+    EXPECT_EQ(std::tuple(back.Dimmed, back.AutoErase, back.HighlightDigit, back.techniques.Order),
+              std::tuple(true, false, false, o.techniques.Order));
 }
 
 TEST(SchrijfOpties, TheLogfilesAndVersionKeysHaveWritersOfTheirOwn) {

@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QImage>
 #include <QPrinter>
 #include <QTemporaryDir>
@@ -29,20 +30,16 @@ class HintWindowTest : public tavi::testing::GameFixture {
         window->ShowHint();
         return *window;
     }
-    QString Screenshots(const std::filesystem::path& base) const {
-        return QDir(QString::fromStdString(base.string())).filePath("Screenshots");
-    }
-    // Answers the name box with `answer` and keeps what it was offered.
+    // Answers the file box with `answer` and keeps what it was offered.
     void Answer(std::optional<QString> answer) {
-        window->SetNameAsker(
-            [this, answer](const QString& title, const QString& prompt, const QString& suggested) {
-                asked.push_back({title, prompt, suggested});
-                return answer;
-            });
+        window->SetPathAsker([this, answer](const QString& title, const QString& suggested) {
+            asked.push_back({title, suggested});
+            return answer;
+        });
     }
 
     std::optional<HintWindow> window;
-    std::vector<std::array<QString, 3>> asked;
+    std::vector<std::array<QString, 2>> asked;
 };
 
 TEST_F(HintWindowTest, TheCopyHoldsTheBoardAsShownWithTheHintsColours) {
@@ -93,32 +90,39 @@ TEST_F(HintWindowTest, CaptionRefreshAndAFrozenCopy) {
     EXPECT_FALSE(w.isVisible());
 }
 
-TEST_F(HintWindowTest, SaveAsBmpWritesIntoScreenshotsBesideTheProgramOrInTheDataFolder) {
+TEST_F(HintWindowTest, SaveAsBmpGoesToTheFolderChosenLastAndMakesAFolderOnlyForAPicture) {
     HintWindow& w = WithHint();
     const QString name = w.windowTitle().mid(7);
+    // At first the user's pictures folder is offered; a cancel makes nothing.
     Answer(std::nullopt);
     EXPECT_TRUE(w.SaveAsBmp().isEmpty());
     ASSERT_EQ(asked.size(), 1u);
     EXPECT_EQ(asked[0][0], "Save as... Filename[.bmp]");
-    EXPECT_TRUE(asked[0][1].startsWith("Enter a valid filename (without the extension)"));
-    EXPECT_EQ(asked[0][2], PictureFileName(name) + "_0001");
+    EXPECT_EQ(QFileInfo(asked[0][1]).fileName(), PictureFileName(name) + "_0001.bmp");
+    EXPECT_FALSE(std::filesystem::exists(folders.AppFolder / "Screenshots"));
 
-    Answer(asked[0][2]);
+    // The folder kept in the store is offered; a cancel there makes nothing.
+    const QString kept = QString::fromStdString((root / "pictures" / "kept").string());
+    store.Write(kPictureFolderSection, kPictureFolderKey, kept.toStdString());
+    w.SetStore(&store);
+    w.SaveAsBmp();
+    EXPECT_EQ(QFileInfo(asked.back()[1]).absolutePath(), kept);
+    EXPECT_FALSE(QFileInfo::exists(kept));
+
+    // A picture written into a folder that is not there yet: the folder is made,
+    // and kept for the next picture, whose number does not overwrite this one.
+    const QString chosen = QString::fromStdString((root / "pictures" / "new").string());
+    Answer(QDir(chosen).filePath("a:b.BMP"));
     const QString file = w.SaveAsBmp();
-    EXPECT_EQ(file, QDir(Screenshots(folders.AppFolder)).filePath(asked[0][2] + ".bmp"));
+    EXPECT_EQ(file, QDir(chosen).filePath("a-b.bmp"));
     QImage saved(file, "BMP");
     EXPECT_EQ(saved.size(), w.size());
-    // A typed extension and path signs don't lead out of the folder; the next
-    // offer does not overwrite the picture just saved.
-    Answer(QString("a/b:c.BMP"));
-    EXPECT_TRUE(w.SaveAsBmp().endsWith("/Screenshots/a-b-c.bmp"));
-    EXPECT_EQ(asked.back()[2], PictureFileName(name) + "_0002");
-
-    // A file where the folder should be: the pictures go to the data folder.
-    const auto blocked = root / "blocked";
-    std::ofstream(blocked) << "not a folder";
-    EXPECT_EQ(ScreenshotsFolder({blocked, folders.DataFolder}), Screenshots(folders.DataFolder));
-    EXPECT_TRUE(ScreenshotsFolder({blocked, blocked}).isEmpty());
+    EXPECT_EQ(store.Read(kPictureFolderSection, kPictureFolderKey, ""), chosen.toStdString());
+    Answer(QDir(chosen).filePath(PictureFileName(name) + "_0001"));
+    w.SaveAsBmp();
+    Answer(std::nullopt);
+    w.SaveAsBmp();
+    EXPECT_EQ(asked.back()[1], QDir(chosen).filePath(PictureFileName(name) + "_0002.bmp"));
 }
 
 TEST_F(HintWindowTest, PrintingWithoutAPrinterDoesNoHarm) {
@@ -140,19 +144,38 @@ TEST_F(HintWindowTest, PrintingWithoutAPrinterDoesNoHarm) {
     EXPECT_TRUE(dialogSeen);
 }
 
-TEST(HintWindowPlace, BesideTheGameWindowElseInTheCornerAndAlwaysOnTheScreen) {
+TEST(HintWindowPlace, BesideTheGameWindowElseWhereItHidesTheLeastAndAlwaysOnTheScreen) {
     const QRect screen(0, 0, 1920, 1040);
     const QSize hint(400, 420);
     // Room on the right; then only on the left; the top follows the game window.
-    EXPECT_EQ(HintWindowPlace(QRect(100, 50, 1000, 700), hint, screen), QPoint(1108, 50));
-    EXPECT_EQ(HintWindowPlace(QRect(700, 900, 1000, 100), hint, screen), QPoint(292, 620));
-    // A game window filling a small screen: the corner, away from the board.
+    EXPECT_EQ(HintWindowPlace(QRect(100, 50, 1000, 700), hint, screen).topLeft(), QPoint(1108, 50));
+    EXPECT_EQ(HintWindowPlace(QRect(700, 900, 1000, 100), hint, screen).topLeft(),
+              QPoint(292, 620));
+    // A game window filling a small screen, its board on the left and its hint
+    // text at the right below the commands: the window hides neither.
     const QRect small(0, 0, 1366, 740);
-    const QPoint corner = HintWindowPlace(QRect(20, 10, 1257, 707), hint, small);
-    EXPECT_EQ(corner, QPoint(966, 320));
-    // A hint window larger than the screen keeps its top left corner on it.
+    const QRect main(20, 10, 1257, 707);
+    const std::vector<QRect> keep = {QRect(30, 40, 860, 640), QRect(990, 380, 270, 280)};
+    const QRect at = HintWindowPlace(main, hint, small, keep, QSize(190, 209));
+    EXPECT_TRUE(small.contains(at));
+    for (const QRect& k : keep)
+        EXPECT_FALSE(at.intersects(k)) << k.x();
+    // Over a screen it fills at twice the scale, the board and text keep clear
+    // where the smallest window allows, and the window stays wholly on screen.
+    const QRect half(0, 0, 960, 510);
+    for (const QRect& mainHalf : {QRect(0, 0, 960, 510), QRect(100, 40, 800, 460)}) {
+        const std::vector<QRect> keepHalf = {
+            QRect(mainHalf.left() + 10, mainHalf.top() + 30, 470, 460),
+            QRect(mainHalf.right() - 250, mainHalf.top() + 280, 240, 150)};
+        const QRect there = HintWindowPlace(mainHalf, hint, half, keepHalf, QSize(190, 209));
+        EXPECT_TRUE(half.contains(there));
+        EXPECT_GE(there.width(), 190);
+        for (const QRect& k : keepHalf)
+            EXPECT_FALSE(there.intersects(k));
+    }
+    // A hint window larger than the screen is made to fit it.
     EXPECT_EQ(HintWindowPlace(QRect(0, 0, 800, 600), QSize(900, 900), QRect(0, 0, 800, 600)),
-              QPoint(0, 0));
+              QRect(0, 0, 800, 600));
 }
 
 TEST(ReadableInk, MarksStandOutOnEveryHintColour) {
@@ -167,6 +190,56 @@ TEST(ReadableInk, MarksStandOutOnEveryHintColour) {
     // Ink that reads already is left alone, and so is ink on no paint.
     EXPECT_EQ(ReadableOn(Qt::black, Color(0x00FFFFFF)), QColor(Qt::black));
     EXPECT_EQ(ReadableOn(ColorOf(kDimmedMarkColor), std::nullopt), ColorOf(kDimmedMarkColor));
+}
+
+}  // namespace
+}  // namespace tavi::ui
+
+namespace tavi::ui {
+namespace {
+
+class HintWindowInGame : public WindowFixture {};
+
+// The hint window never shows a board of the game before: New, Make and the end
+// of Make give it a fresh copy, as "Main Duplicate".
+TEST_F(HintWindowInGame, AnotherGameReplacesTheCopyOfTheOneBefore) {
+    OpenPlaying();
+    options.HintWindow = true;
+    Press("CommandHint");
+    auto* hints = window->findChild<HintWindow*>(QStringLiteral("FormHint"));
+    ASSERT_NE(hints, nullptr);
+    ASSERT_TRUE(hints->windowTitle().startsWith("Hint - "));
+    for (const char* command : {"CommandNew", "CommandMake", "CommandMake"}) {
+        hints->ShowHint();  // a copy of the board as it is before the command
+        const HintSnapshot before = hints->Snapshot();
+        if (std::string_view(command) == "CommandMake" && game->MakeMode)
+            prompter.answers = {Answer::Yes};  // Validate an empty entry: abort it
+        Press(command);
+        EXPECT_EQ(hints->windowTitle(), "Main Duplicate") << command;
+        EXPECT_EQ(hints->Snapshot(), SnapshotOf(*game)) << command;
+        // An empty entry ends on an empty board, as it began.
+        if (!game->MakeMode && std::string_view(command) == "CommandMake") continue;
+        EXPECT_NE(hints->Snapshot(), before) << command;
+    }
+}
+
+// A place kept in the store that no screen shows any more is dropped: the
+// window opens wholly on the screen.
+TEST_F(HintWindowInGame, ARememberedPlaceOffTheScreensIsDropped) {
+    store.Write("FormHint", "Left", "5000");
+    store.Write("FormHint", "Top", "-3000");
+    OpenPlaying();
+    window->SetStore(&store);
+    options.HintWindow = true;
+    Press("CommandHint");
+    auto* hints = window->findChild<HintWindow*>(QStringLiteral("FormHint"));
+    ASSERT_NE(hints, nullptr);
+    ASSERT_TRUE(hints->isVisible());
+    const QRect screen = hints->screen()->availableGeometry();
+    EXPECT_TRUE(screen.contains(hints->frameGeometry()))
+        << hints->frameGeometry().x() << "," << hints->frameGeometry().y() << " "
+        << hints->frameGeometry().width() << "x" << hints->frameGeometry().height() << " on "
+        << screen.width() << "x" << screen.height();
 }
 
 }  // namespace

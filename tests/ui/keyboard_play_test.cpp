@@ -1,6 +1,7 @@
 // Keyboard play against mouse play: two windows over the same generated library,
 // one played with clicks and one with keys, must end in the same game.
 #include <QApplication>
+#include <QRadioButton>
 #include <QShortcut>
 
 #include "grid/tables.h"
@@ -105,10 +106,53 @@ TEST(KeyboardPlay, ToolTipsNameTheShortcuts) {
     EXPECT_EQ(p.Button("CommandUndo")->toolTip(), "Undo (Ctrl+Z)");
     EXPECT_EQ(p.Button("CommandRedo")->toolTip(), "Redo (Ctrl+Y, Ctrl+Shift+Z)");
     EXPECT_EQ(p.Button("CommandHint")->toolTip(), "Hint (H)");
-    // The mouse alone shows no cursor.
+}
+
+// The mouse and the keys share one cursor and one focus: a click chooses the
+// cell for the keys, a click on a cell's edge only chooses it, and after a
+// command or a level the keys reach the board at once.
+TEST(KeyboardPlay, MouseAndKeysAsOne) {
+    Player p;
+    p.OpenActive();
     p.Press("CommandNew");
-    p.ClickMark(1, 0);
+    EXPECT_TRUE(p.Board()->hasFocus());
     EXPECT_EQ(p.Board()->CursorCell(), -1);
+
+    auto [cell, digit] = p.FirstOpenCell();
+    const int wrong = p.WrongMark(cell);
+    ASSERT_NE(wrong, 0);
+    p.ClickMark(wrong, cell, Qt::RightButton);
+    EXPECT_EQ(p.Board()->CursorCell(), cell);
+    const int steps = p.game->CurrentStep();
+
+    // The edge of another cell: chosen, nothing placed; the keys go on from there.
+    const int other = cell == 80 ? 79 : cell + 1;
+    const QRect box = p.Board()->Layout().CellRect(other);
+    QTest::mouseClick(p.Board(), Qt::LeftButton, {}, QPoint(box.left() + 1, box.center().y()));
+    EXPECT_EQ(p.Board()->CursorCell(), other);
+    EXPECT_EQ(p.game->CurrentStep(), steps);
+    p.Key(Qt::Key_Left);
+    EXPECT_EQ(p.Board()->CursorCell(), other % 9 ? other - 1 : other);
+
+    // A level picked, a command: the keys still play on the board.
+    QTest::mouseClick(p.Find<QRadioButton>("OptionType_5"), Qt::LeftButton);
+    EXPECT_TRUE(p.Board()->hasFocus());
+    p.Press("CommandUndo");
+    EXPECT_TRUE(p.Board()->hasFocus());
+    EXPECT_EQ(p.game->CurrentStep(), steps - 1);
+
+    // A digit that is no candidate: the answer says why, and nothing happens.
+    p.CursorTo(cell);
+    p.Key(Qt::Key_0 + wrong, Qt::ControlModifier);
+    const int gone = wrong;
+    p.Key(Qt::Key_0 + gone);
+    EXPECT_EQ(p.Board()->Notice(), QStringLiteral("%1 is not a candidate of %2")
+                                       .arg(gone)
+                                       .arg(QString::fromStdString(CellName(cell))));
+    EXPECT_EQ(p.game->board().CurrentGrid[cell], 0);
+    p.Key(Qt::Key_0 + digit);
+    p.Key(Qt::Key_0 + digit);
+    EXPECT_TRUE(p.Board()->Notice().endsWith(QStringLiteral("holds %1 already").arg(digit)));
 }
 
 }  // namespace

@@ -54,7 +54,10 @@ TEST_F(MainWindowTest, ALeftClickOnAMarkPlacesTheDigitAndTheBoardDrawsIt) {
     EXPECT_EQ(Find<QLabel>("LabelStap")->text(), "1");
     EXPECT_TRUE(Button("CommandUndo")->isEnabled());
     // The big digit fills the middle of the cell, in the player's colour rather
-    // than the clues' blue, and no mark is left in the corners.
+    // than the clues' blue, and no mark is left in the corners (the cursor the
+    // click left there aside).
+    EXPECT_EQ(Board()->CursorCell(), cell);
+    Board()->SetCursorCell(-1);
     const QImage image = BoardImage();
     const QRect middle = Part(box, 0.35, 0.3, 0.65, 0.7);
     EXPECT_GT(InkIn(image, middle), 3 * inkBefore + 10);
@@ -101,6 +104,7 @@ TEST_F(MainWindowTest, AClickCountsOnlyWhenReleasedOverTheMarkItWasPressedOn) {
     EXPECT_FALSE(game->MarkVisible(other, cell));
     EXPECT_EQ(game->MoveLog().back().LogDigit, -other);
     EXPECT_EQ(Board()->TargetAt(MarkCentre(other, cell)), (BoardSpot{BoardSpot::Cell, cell, 0}));
+    Board()->SetCursorCell(-1);
     EXPECT_EQ(InkIn(BoardImage(), MarkRect(other, cell)), 0);
 }
 
@@ -236,6 +240,36 @@ TEST_F(MainWindowTest, AHintShowsInTheSmallWindowWhenAskedForAndOnADoubleClick) 
     Press("CommandHint");
     EXPECT_TRUE(hints->isVisible());
     EXPECT_EQ(hints->windowTitle().toStdString(), game->HintWindowCaption());
+}
+
+}  // namespace
+}  // namespace tavi::ui
+
+namespace tavi::ui {
+namespace {
+
+class WindowSize : public WindowFixture {};
+
+// The least size of the game window fits a 1920 x 1080 screen at twice the scale
+// (960 x 540, with a title bar), and no control is squeezed below its own least
+// size there.
+TEST_F(WindowSize, TheLeastSizeFitsNineSixtyByFiveForty) {
+    MainWindow& w = Open();
+    EXPECT_LE(w.minimumSizeHint().width(), 960);
+    EXPECT_LE(w.minimumSizeHint().height(), 540 - 40);
+    w.resize(QSize(200, 200));  // the layout keeps it at its least size
+    QApplication::processEvents();
+    EXPECT_EQ(w.size(), w.minimumSizeHint());
+    QApplication::processEvents();
+    for (auto* button : w.findChildren<QPushButton*>()) {
+        // The digit buttons are laid out by the board, square with its cells.
+        if (button->objectName().startsWith("Command1_")) continue;
+        EXPECT_GE(button->width(), button->minimumSizeHint().width())
+            << button->objectName().toStdString();
+        EXPECT_GE(button->height(), button->minimumSizeHint().height());
+    }
+    const BoardGeometry& board = Board()->Layout();
+    EXPECT_GE(board.CellSize(), 30);
 }
 
 }  // namespace

@@ -70,11 +70,13 @@ class DeskShots : public WindowFixture {
 };
 
 TEST_F(DeskShots, MainAndHintWindowOnTheScreen) {
-    MainWindow& w = Open();
+    // As the program opens it: its own size and place on the screen.
+    Started();
+    window.emplace(*game, options, folders);
+    MainWindow& w = *window;
+    w.show();
+    QApplication::processEvents();
     options.HintWindow = true;
-    // As the program opens it: sized to the screen.
-    w.resize(QGuiApplication::primaryScreen()->availableGeometry().size() * 0.92);
-    w.move(20, 10);
     Press("CommandNew");
     for (int i = 0; i < 3; ++i) {
         auto [cell, digit] = FirstOpenCell();
@@ -99,6 +101,19 @@ TEST_F(DeskShots, DimmedMarksOnHintColours) {
     Press("CommandNew");
     Press("CommandHint");
     Shot(*Board(), "dimmed-marks");
+}
+
+// A key that can do nothing: the cell flashes and the note says why.
+TEST_F(DeskShots, KeyboardNotice) {
+    Open({1000, 720});
+    Press("CommandNew");
+    auto [cell, digit] = FirstOpenCell();
+    int gone = 0;
+    for (int d = 1; d <= 9 && !gone; ++d)
+        if (d != digit && game->MarkVisible(d, cell)) gone = d;
+    ClickMark(gone, cell, Qt::RightButton);
+    QTest::keyClick(Board(), Qt::Key(Qt::Key_0 + gone));
+    Shot(*Board(), "keyboard-notice");
 }
 
 TEST_F(DeskShots, DialogsOnTheScreen) {
