@@ -187,7 +187,8 @@ TEST(CliLibrary, ImportWithoutALevelRatesAndFilesEachPuzzle) {
     EXPECT_EQ(LibraryImportCommand(file, dir.path(), out, err), 2);
     EXPECT_NE(err.str().find("foreign.txt, line 2: no puzzle"), std::string::npos) << err.str();
     EXPECT_NE(out.str().find("2 sudokus imported: "), std::string::npos) << out.str();
-    EXPECT_NE(out.str().find("1 already in the library, 1 malformed (line 2)."), std::string::npos)
+    EXPECT_NE(out.str().find("1 already in the library (line 4), 1 malformed (line 2)."),
+              std::string::npos)
         << out.str();
 }
 
