@@ -237,7 +237,7 @@ int ExportLibrary(const fs::path& sdsFile, std::ostream& out, std::ostream& err)
                     << " It was left out.\n";
             continue;
         }
-        out << FormatDigits(r.Puzzle) << '\t' << FormatDigits(r.Solution) << '\t' << BestTime(r)
+        out << FormatDigits(r.Puzzle, '.') << '\t' << FormatDigits(r.Solution) << '\t' << BestTime(r)
             << '\n';
     }
     if (damaged > long(kNamedLines))

@@ -23,6 +23,10 @@ namespace {
 
 constexpr std::string_view kReportTitle = "Sudoku solve report";
 constexpr std::string_view kScanTitle = "Sudoku scan report";
+constexpr std::string_view kNoSolutionText =
+    "This Sudoku has no solution: it is not rated and stays where it is.";
+constexpr std::string_view kSeveralSolutionsText =
+    "This Sudoku has more than one solution: it is not rated and stays where it is.";
 
 }  // namespace
 
@@ -98,6 +102,8 @@ void Workbench::Command1(int level) {
     const auto n = AskNumber("Sudoku number",
                              "Enter a value between 1 and " + std::to_string(count), 1, count, "1");
     if (!n) return;
+    // The table of hardest techniques belongs to the level it was counted on.
+    if (level != workLevel_) hardest_ = {};
     workLevel_ = level;
     currentNumber_[level] = *n;
     recordCount_ = count;
@@ -323,6 +329,11 @@ void Workbench::CommandSolve(bool right, bool inside) {
         return Changed();
     }
 
+    // No solution, or several: no rating would mean anything, so it stays.
+    if (const int solutions = Solutions(record_.Puzzle, 2).count; solutions != 1) {
+        prompter_.Message(kReportTitle, solutions == 0 ? kNoSolutionText : kSeveralSolutionsText);
+        return Changed();
+    }
     const bool solved = SolveOpen(false);
     const int rating = solved ? ctx_.SolvingLevel : kOutlaw;
     if (!solved && workLevel_ == kOutlaw) {

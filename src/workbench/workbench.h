@@ -103,6 +103,9 @@ class Workbench {
     // Imports the puzzles of a foreign file (workbench/import.h), with the
     // progress frame, and reports where they went and what was refused.
     void CommandImport(const std::filesystem::path& file);
+    // Writes records `from` to `to` of the open library to a text file
+    // (workbench/export.h) and says how many.
+    void CommandExport(const std::filesystem::path& file, long from, long to);
 
     // --- State for the window ---------------------------------------------------
     int WorkLevel() const { return workLevel_; }
