@@ -7,6 +7,7 @@
 #include "library/pair_guard.h"
 #include "library/pair_rewrite.h"
 #include "library/record_checks.h"
+#include "library/records.h"
 #include "solver/brute_force.h"
 #include "solver/ladder.h"
 #include "solver/solutions.h"
@@ -447,6 +448,39 @@ void Workbench::CheckRange(long from, long to, bool brute) {
     Changed();
 }
 
+namespace {
+
+// The records of a run read in order through one open stream per file: a run
+// reads each record once, ahead of the ones it writes back, so what it reads is
+// never stale. A record that does not read here is read again the plain way,
+// which says why.
+class RunReader {
+  public:
+    RunReader(const std::filesystem::path& sds, const std::filesystem::path& sdl, long from)
+        : sds_(sds, std::ios::binary), sdl_(sdl, std::ios::binary) {
+        sds_.seekg(std::streamoff(from - 1) * std::streamoff(kSudokuRecordSize));
+        sdl_.seekg(std::streamoff(from - 1) * std::streamoff(kSudokuLogRecordSize));
+    }
+    // Record after record; false when it must be read the plain way.
+    bool Next(SudokuRecord& record, SudokuLogRecord& log) {
+        if (!sds_.read(reinterpret_cast<char*>(sdsBytes_.data()),
+                       std::streamsize(sdsBytes_.size())) ||
+            !sdl_.read(reinterpret_cast<char*>(sdlBytes_.data()),
+                       std::streamsize(sdlBytes_.size())))
+            return false;
+        record = SudokuRecordFromBytes(sdsBytes_);
+        log = SudokuLogRecordFromBytes(sdlBytes_);
+        return CheckSudokuRecord(record).empty() && CheckSudokuLogRecord(log).empty();
+    }
+
+  private:
+    std::ifstream sds_, sdl_;
+    SudokuRecordBytes sdsBytes_;
+    SudokuLogRecordBytes sdlBytes_;
+};
+
+}  // namespace
+
 // The puzzles are read and filed here, one after the other; only their rating is
 // shared out over the threads, and its results are taken in the order of the
 // records, so the files and the report are those of a run on one core.
@@ -462,6 +496,8 @@ void Workbench::CheckByLogic(long from, long to, RunCounters& count, long& total
         std::string damaged;  // empty when the record reads
     };
     std::deque<InHand> inHand;
+    const auto stem = LevelStem(workLevel_);
+    RunReader reader(PuzzleFile(dataFolder_, stem), LogFile(dataFolder_, stem), from);
     RatingPool pool(threads_, order_);
     const std::size_t ahead = std::size_t(4 * pool.Threads());
     long next = from, done = from - 1;
@@ -471,7 +507,8 @@ void Workbench::CheckByLogic(long from, long to, RunCounters& count, long& total
         while (next <= to && inHand.size() < ahead) {
             InHand& read = inHand.emplace_back();
             read.number = next++;
-            if (ReadAt(read.number, read.record, read.log, read.damaged))
+            if (reader.Next(read.record, read.log) ||
+                ReadAt(read.number, read.record, read.log, read.damaged))
                 pool.Submit(read.record.Puzzle);
         }
         InHand& first = inHand.front();
@@ -512,7 +549,8 @@ void Workbench::CheckByLogic(long from, long to, RunCounters& count, long& total
             ctx_.board.Solution = record_.Solution;
             if (rated->level == workLevel_) {
                 ++count.unchanged;
-                WriteInPlace();
+                // Written back only when the solution on file was not this one.
+                if (record_.Solution != first.record.Solution) WriteInPlace();
             } else if (MoveTo(journal, rated->level)) {
                 ++(rated->solved ? count.moved : count.outlaw);
             } else {

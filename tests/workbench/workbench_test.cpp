@@ -236,16 +236,21 @@ TEST_F(WorkbenchTest, AnAbortAfterTheThirdOfTenTreatsOnlyThree) {
 TEST_F(WorkbenchTest, SolveRatesInPlaceOrMovesAndDeleteOfTheOnlyRecordLeavesNoFile) {
     Add(1, easy[0]);
     Add(1, Broken(0));
+    Add(1, other[0]);
     Open(1).CommandSolve();
     EXPECT_TRUE(prompter.Showed("Sudoku solved and rated as Easy"));
-    EXPECT_EQ(Count(1), 2);
+    EXPECT_EQ(Count(1), 3);
     bench.CommandNext();
     bench.CommandSolve();
     EXPECT_EQ(prompter.shown.back().text,
-              "This Sudoku could not be solved by the program and is rated as Outlaw!");
-    EXPECT_EQ(Count(1), 1);
-    EXPECT_EQ(Count(9), 1);
-    EXPECT_EQ(bench.CurrentNumber(1), 1) << "the last record is shown";
+              "This Sudoku has more than one solution: it is not rated and stays where it is.");
+    EXPECT_EQ(Count(1), 3);
+    EXPECT_EQ(Count(9), 0);
+    bench.CommandNext();
+    bench.CommandSolve();
+    EXPECT_EQ(Count(1), 2) << "a puzzle of another level moves";
+    EXPECT_EQ(bench.CurrentNumber(1), 2) << "the last record is shown";
+    bench.CommandDelete();
     bench.CommandDelete();
     EXPECT_FALSE(fs::exists(PuzzleFile(root, LevelStem(1))));
     EXPECT_FALSE(fs::exists(LogFile(root, LevelStem(1))));
