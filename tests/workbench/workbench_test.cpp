@@ -418,3 +418,31 @@ TEST_F(WorkbenchTest, AnEmptiedLevelStaysEmptyAndTakesMovesIn) {
 
 }  // namespace
 }  // namespace tavi
+
+namespace tavi {
+namespace {
+
+// Export writes the records of a range, '.' for empty cells and the level after
+// each, and the import reads the file back as the same puzzles.
+TEST_F(WorkbenchTest, ExportWritesWhatTheImportReadsBack) {
+    for (int i = 0; i < 12; ++i)
+        Add(2, other[i]);
+    Open(2).CommandExport(root / "out.txt", 3, 10);
+    EXPECT_EQ(prompter.shown.back().text, "8 Medium sudokus exported to out.txt.");
+    std::ifstream in(root / "out.txt");
+    std::vector<std::string> lines;
+    for (std::string line; std::getline(in, line);)
+        lines.push_back(line);
+    ASSERT_EQ(lines.size(), 8u);
+    EXPECT_EQ(lines[0], FormatDigits(other[2].puzzle, '.') + "\t2\tMedium");
+    in.clear();
+    in.seekg(0);
+    const ForeignPuzzles read = ReadForeignPuzzles(in);
+    ASSERT_EQ(read.puzzles.size(), 8u);
+    for (int i = 0; i < 8; ++i)
+        EXPECT_EQ(read.puzzles[size_t(i)].puzzle, other[size_t(i + 2)].puzzle);
+    EXPECT_TRUE(read.problems.empty());
+}
+
+}  // namespace
+}  // namespace tavi
