@@ -520,7 +520,9 @@ void Workbench::CheckByLogic(long from, long to, RunCounters& count, long& total
             rated = pool.Next(std::max(wait, std::chrono::milliseconds(1)));
             if (!rated) {
                 // A long puzzle: the window shows how far its rating has come.
-                progress_.LabelSolvingLevel = pool.Progress(false, &progress_.Bar2);
+                int level = 0;
+                progress_.LabelSolvingLevel = pool.Progress(false, &level);
+                progress_.Bar2 = std::min(level, kLevelCount - 1);
                 BreatheWhenDue();
                 if ((aborted = abortRequested_)) break;
                 continue;
@@ -562,7 +564,14 @@ void Workbench::CheckByLogic(long from, long to, RunCounters& count, long& total
         progress_.LabelImportProgress = "Checking Sudoku : " + std::to_string(i) + " of " +
                                         std::to_string(to) + " from " + plural;
         progress_.Bar1 = i - from + 1;
-        progress_.LabelSolvingLevel = pool.Progress(false, &progress_.Bar2);
+        // The rating under way on the next puzzle, or else the last one's.
+        int level = 0;
+        progress_.LabelSolvingLevel = pool.Progress(false, &level);
+        if (progress_.LabelSolvingLevel.empty() && rated && rated->rated) {
+            level = rated->level;
+            progress_.LabelSolvingLevel = "Solving Sudoku : Rated " + std::string(LevelName(level));
+        }
+        progress_.Bar2 = std::min(level, kLevelCount - 1);
         BreatheWhenDue();
         if ((aborted = abortRequested_)) break;
     }

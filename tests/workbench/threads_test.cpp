@@ -125,5 +125,31 @@ TEST(WorkbenchThreads, ImportFilesWhatOneThreadFiles) {
     EXPECT_NE(one.second.find("already in the library (lines"), std::string::npos) << one.second;
 }
 
+// An import aborted after its third puzzle files three, says so, and counts the
+// lines it did not read, for one thread and for several.
+TEST(WorkbenchThreads, AnAbortedImportSaysHowManyLinesWereNotRead) {
+    std::string text = "# twelve puzzles\n";
+    for (int i = 0; i < 12; ++i)
+        text += FormatDigits(testing::GeneratedPuzzles(12, 5)[size_t(i)].puzzle, '.') + "\n";
+    for (int threads : {1, 3}) {
+        testing::TempDir dir;
+        std::istringstream in(text);
+        ImportRun run;
+        run.threads = threads;
+        long done = 0;
+        run.progress = [&](long n, long) { done = n; };
+        run.abort = [&] { return done >= 3; };
+        const ImportReport report = ImportPuzzles(dir.path(), in, run);
+        long added = 0;
+        for (long n : report.added)
+            added += n;
+        EXPECT_EQ(added, 3);
+        EXPECT_TRUE(report.aborted);
+        EXPECT_NE(report.Text().find("The import was aborted after line 4; 9 lines were not read."),
+                  std::string::npos)
+            << report.Text();
+    }
+}
+
 }  // namespace
 }  // namespace tavi
