@@ -140,7 +140,7 @@ ImportReport ImportPuzzles(const std::filesystem::path& dataFolder, std::istream
     };
     std::deque<InHand> inHand;
     RatingPool pool(run.threads, run.order);
-    const std::size_t ahead = std::size_t(4 * pool.Threads());
+    const std::size_t ahead = std::size_t(64 * pool.Threads());
     long done = 0;
     bool aborted = false;
     auto breathe = [&] {

@@ -499,7 +499,7 @@ void Workbench::CheckByLogic(long from, long to, RunCounters& count, long& total
     const auto stem = LevelStem(workLevel_);
     RunReader reader(PuzzleFile(dataFolder_, stem), LogFile(dataFolder_, stem), from);
     RatingPool pool(threads_, order_);
-    const std::size_t ahead = std::size_t(4 * pool.Threads());
+    const std::size_t ahead = std::size_t(64 * pool.Threads());
     long next = from, done = from - 1;
     bool aborted = false;
     while (!inHand.empty() || next <= to) {
