@@ -5,7 +5,10 @@
 #include <filesystem>
 #include <fstream>
 #include <random>
+#include <sstream>
+#include <thread>
 
+#include "cli/library_commands.h"
 #include "grid/levels.h"
 #include "library/library_files.h"
 #include "library/library_pair.h"
@@ -50,12 +53,21 @@ fs::path MakeLibrary(long count) {
     return folder;
 }
 
+// Check All in the window's model on N threads (the argument), with the window's
+// redraw pacing: each redraw here costs what a repaint of the window costs
+// (about 2 ms), and the count of redraws is reported.
 void BM_CheckAll_10000(benchmark::State& state) {
+    long redraws = 0;
     for (auto _ : state) {
         state.PauseTiming();
         const fs::path folder = MakeLibrary(10000);
         Silent silent;
         Workbench bench(silent, folder);
+        bench.SetThreads(int(state.range(0)));
+        bench.SetChanged([&] {
+            ++redraws;
+            std::this_thread::sleep_for(std::chrono::milliseconds(2));
+        });
         bench.Command1(3);
         state.ResumeTiming();
         bench.CommandCheckAll();
@@ -64,8 +76,35 @@ void BM_CheckAll_10000(benchmark::State& state) {
         state.ResumeTiming();
     }
     state.SetItemsProcessed(state.iterations() * 10000);
+    state.counters["redraws"] = double(redraws);
 }
-BENCHMARK(BM_CheckAll_10000)->Unit(benchmark::kSecond)->Iterations(1);
+BENCHMARK(BM_CheckAll_10000)
+    ->Arg(1)
+    ->Arg(2)
+    ->Unit(benchmark::kSecond)
+    ->Iterations(1)
+    ->UseRealTime();
+
+// `library check DIR --level 3 --threads N` over the same library.
+void BM_LibraryCheck_10000(benchmark::State& state) {
+    for (auto _ : state) {
+        state.PauseTiming();
+        const fs::path folder = MakeLibrary(10000);
+        std::ostringstream out, err;
+        state.ResumeTiming();
+        cli::LibraryCheckCommand(folder, 3, out, err, int(state.range(0)));
+        state.PauseTiming();
+        fs::remove_all(folder);
+        state.ResumeTiming();
+    }
+    state.SetItemsProcessed(state.iterations() * 10000);
+}
+BENCHMARK(BM_LibraryCheck_10000)
+    ->Arg(1)
+    ->Arg(2)
+    ->Unit(benchmark::kSecond)
+    ->Iterations(1)
+    ->UseRealTime();
 
 void BM_RemoveDuplicates_50000(benchmark::State& state) {
     for (auto _ : state) {

@@ -1,5 +1,7 @@
 // library check: the workbench's Check All over the libraries of a folder, from
 // the command line. Moves and rewrites are the workbench's own.
+#include <algorithm>
+#include <array>
 #include <fstream>
 #include <iostream>
 
@@ -14,8 +16,8 @@ namespace tavi::cli {
 
 namespace {
 
-// The workbench's boxes as lines: the reports are written, a record number is
-// always the first.
+// The workbench's boxes as lines: the reports are written, and the numbers it
+// asks for are the ones given beforehand (else the first record).
 class LinePrompter : public Prompter {
   public:
     explicit LinePrompter(std::ostream& out) : out_(out) {}
@@ -26,17 +28,22 @@ class LinePrompter : public Prompter {
     }
     std::optional<std::string> Input(std::string_view, std::string_view,
                                      std::string_view) override {
-        return "1";
+        if (answers_.empty()) return "1";
+        std::string next = answers_.front();
+        answers_.erase(answers_.begin());
+        return next;
     }
+    void Script(std::vector<std::string> answers) { answers_ = std::move(answers); }
 
   private:
     std::ostream& out_;
+    std::vector<std::string> answers_;
 };
 
 }  // namespace
 
 int LibraryCheckCommand(const std::filesystem::path& folder, int onlyLevel, std::ostream& out,
-                        std::ostream& err) {
+                        std::ostream& err, int threads) {
     std::error_code ec;
     if (!std::filesystem::is_directory(folder, ec)) {
         err << "tavi-sudoku-cli: " << folder.string() << " is no folder\n";
@@ -44,8 +51,14 @@ int LibraryCheckCommand(const std::filesystem::path& folder, int onlyLevel, std:
     }
     LinePrompter prompter(out);
     Workbench bench(prompter, folder);
+    bench.SetThreads(threads);
     HardestCounts hardest{};
     long unreadable = 0;
+    // Each level's own records: a puzzle moved into a later level was checked in
+    // its old one, and is not checked (nor counted) a second time.
+    std::array<long, kLevelCount + 1> own{};
+    for (int level = 1; level <= kLevelCount; ++level)
+        own[level] = WholeRecords(PuzzleFile(folder, LevelStem(level)), kSudokuRecordSize);
     for (int level = 1; level <= kLevelCount; ++level) {
         if (onlyLevel && level != onlyLevel) continue;
         const auto stem = LevelStem(level);
@@ -53,7 +66,14 @@ int LibraryCheckCommand(const std::filesystem::path& folder, int onlyLevel, std:
         out << LevelPlural(level) << '\n';
         bench.Command1(level);
         if (bench.WorkLevel() != level) continue;  // no record, or a pair refused
-        bench.CommandCheckAll();
+        const long movedIn =
+            std::max(0L, WholeRecords(PuzzleFile(folder, stem), kSudokuRecordSize) - own[level]);
+        if (movedIn == 0) {
+            bench.CommandCheckAll();
+        } else if (bench.RecordCount() > movedIn) {
+            prompter.Script({"1", std::to_string(bench.RecordCount() - movedIn)});
+            bench.CommandCheckSome();
+        }
         unreadable += bench.Unreadable();
         for (int t = 0; t < kTechniqueCount; ++t)
             hardest[t] += bench.Hardest()[t];
@@ -74,7 +94,7 @@ int LibraryCheckCommand(const std::filesystem::path& folder, int onlyLevel, std:
 }
 
 int LibraryImportCommand(const std::filesystem::path& file, const std::filesystem::path& folder,
-                         std::ostream& out, std::ostream& err) {
+                         std::ostream& out, std::ostream& err, int threads) {
     if (const std::string problem = InputFileProblem(file.string()); !problem.empty()) {
         err << "tavi-sudoku-cli: " << problem << '\n';
         return kExitBadInput;
@@ -85,7 +105,9 @@ int LibraryImportCommand(const std::filesystem::path& file, const std::filesyste
         return kExitBadInput;
     }
     std::ifstream in(file, std::ios::binary);
-    const ImportReport report = ImportPuzzles(folder, in);
+    ImportRun run;
+    run.threads = threads;
+    const ImportReport report = ImportPuzzles(folder, in, run);
     for (const LineCount* lines : {&report.malformed, &report.unwritten}) {
         for (std::size_t i = 0; i < lines->first.size(); ++i)
             err << Where(file.string(), lines->first[i]) << lines->why[i] << '\n';

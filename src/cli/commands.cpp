@@ -56,6 +56,12 @@ int Rate(std::istream& in, std::ostream& out, std::ostream& err, const RateOptio
                 out << p.text << "\tinvalid\tclashing givens\n";
                 return;
             }
+            // No solution, or several: no level means anything.
+            if (Solutions(p.digits, 2).count != 1) {
+                ++invalid;
+                out << p.text << "\t0\tno unique solution\n";
+                return;
+            }
             const int level = RatePuzzle(ctx, p.digits, run);
             ++perLevel[level];
             ++total;

@@ -17,7 +17,8 @@ struct RateOptions {
 
 // Per puzzle: the 81 characters, the level 1..9 and its name; the workbench
 // ladder in the default order, Outlaw when it fails. A puzzle with clashing
-// givens gets "invalid" in place of its level and name.
+// givens gets "invalid" in place of its level and name; one with no solution or
+// several, level 0 and "no unique solution".
 int Rate(std::istream& in, std::ostream& out, std::ostream& err, const RateOptions& options = {},
          std::string_view source = "standard input");
 

@@ -237,7 +237,7 @@ int ExportLibrary(const fs::path& sdsFile, std::ostream& out, std::ostream& err)
                     << " It was left out.\n";
             continue;
         }
-        out << FormatDigits(r.Puzzle) << '\t' << FormatDigits(r.Solution) << '\t' << BestTime(r)
+        out << FormatDigits(r.Puzzle, '.') << '\t' << FormatDigits(r.Solution) << '\t' << BestTime(r)
             << '\n';
     }
     if (damaged > long(kNamedLines))
@@ -360,20 +360,26 @@ int LibraryCommand(const std::vector<std::string>& args, std::ostream& out, std:
         return ExportLibrary(a.positional[0], out, err);
     }
     if (action == "check") {
-        const Arguments a = Parse(args, 2, {"level"});
+        const Arguments a = Parse(args, 2, {"level", "threads"});
         if (!a.problem.empty()) return Problem(err, a.problem);
         const auto level = Number(a.Get("level"), 1);
         if (a.positional.size() != 1 || (a.Get("level") && (!level || *level > kLevelCount)))
             return Problem(err, "library check needs DIR, and --level L with L from 1 to 9");
-        return LibraryCheckCommand(a.positional[0], a.Get("level") ? int(*level) : 0, out, err);
+        const auto threads = Threads(a.Get("threads"));
+        if (!threads) return Problem(err, kThreadsProblem);
+        return LibraryCheckCommand(a.positional[0], a.Get("level") ? int(*level) : 0, out, err,
+                                   *threads);
     }
     if (action == "import") {
-        const Arguments a = Parse(args, 2, {"level", "dir"});
+        const Arguments a = Parse(args, 2, {"level", "dir", "threads"});
         if (!a.problem.empty()) return Problem(err, a.problem);
         if (a.positional.size() != 1 || !a.Get("dir"))
             return Problem(err, "library import needs TEXTFILE and --dir DIR");
+        const auto threads = Threads(a.Get("threads"));
+        if (!threads) return Problem(err, kThreadsProblem);
         // Without a level the workbench's reader files each puzzle by its own level.
-        if (!a.Get("level")) return LibraryImportCommand(a.positional[0], *a.Get("dir"), out, err);
+        if (!a.Get("level"))
+            return LibraryImportCommand(a.positional[0], *a.Get("dir"), out, err, *threads);
         const auto level = Number(a.Get("level"), 1);
         if (!level || *level > kLevelCount)
             return Problem(err, "library import needs --level 1..9");

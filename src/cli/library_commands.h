@@ -52,10 +52,11 @@ int LibraryCommand(const std::vector<std::string>& args, std::ostream& out, std:
 // (81-character lines, 729-character candidate lines, 9-line grids): each puzzle
 // with one solution that is new to the library is rated and appended to the pair
 // of its level; the report says where they went and what was refused.
+// Both rate on `threads` threads; the files and reports are the same for any number.
 int LibraryImportCommand(const std::filesystem::path& file, const std::filesystem::path& folder,
-                         std::ostream& out, std::ostream& err);
+                         std::ostream& out, std::ostream& err, int threads = 1);
 
 int LibraryCheckCommand(const std::filesystem::path& folder, int onlyLevel, std::ostream& out,
-                        std::ostream& err);
+                        std::ostream& err, int threads = 1);
 
 }  // namespace tavi::cli

@@ -4,11 +4,15 @@
 // adds it to the library of the level it reached.
 #include <algorithm>
 #include <fstream>
+#include <sstream>
 
 #include "game/game.h"
 #include "game/make_entry.h"
 #include "grid/candidates.h"
 #include "grid/levels.h"
+#include "grid/tables.h"
+#include "library/find_puzzle.h"
+#include "library/foreign_puzzles.h"
 #include "library/library_pair.h"
 #include "solver/brute_force.h"
 #include "solver/ladder.h"
@@ -52,6 +56,37 @@ std::optional<std::string> ClueCharacters(std::string_view text, std::string* wh
     return chars;
 }
 
+std::optional<std::string> ClueText(std::string_view text, std::string* why) {
+    if (auto chars = ClueCharacters(text, why)) return chars;
+    std::istringstream in{std::string(text)};
+    std::optional<std::string> found;
+    ReadForeignPuzzles(
+        in,
+        [&](const ForeignPuzzle& p) {
+            found = FormatDigits(p.puzzle, '.');
+            return false;
+        },
+        [](const ForeignProblem&) {});
+    if (found && why) why->clear();
+    return found;
+}
+
+std::string ClueClash(const Digits& clues) {
+    for (int unit = 0; unit < 27; ++unit) {
+        int seen[10] = {};
+        for (int c : UnitCells[unit]) {
+            const int d = clues[c];
+            if (!d || ++seen[d] < 2) continue;
+            const int index = unit % 9;
+            const std::string name =
+                unit < 9 ? std::string("row ") + char(Global::RowLetter[index])
+                         : (unit < 18 ? "column " : "box ") + std::to_string(index + 1);
+            return "two " + std::to_string(d) + "s in " + name;
+        }
+    }
+    return {};
+}
+
 std::optional<DropRefusal> RefuseDrop(const std::vector<std::filesystem::path>& files) {
     if (files.size() != 1) return DropRefusal{kDropErrorTitle, kDropOneFileText};
     std::error_code ignored;
@@ -66,12 +101,12 @@ std::optional<DropRefusal> RefuseDrop(const std::vector<std::filesystem::path>& 
 std::optional<std::string> ReadDroppedHead(const std::filesystem::path& file) {
     std::ifstream in(file, std::ios::binary);
     if (!in) return std::nullopt;
-    std::string head(84, '\0');
+    std::string head(4096 + 3, '\0');
     in.read(head.data(), std::streamsize(head.size()));
     if (in.bad()) return std::nullopt;
     head.resize(size_t(in.gcount()));
     if (head.starts_with("\xEF\xBB\xBF")) head.erase(0, 3);  // a byte order mark
-    if (head.size() > 81) head.resize(81);
+    if (head.size() > 4096) head.resize(4096);
     return head;
 }
 
@@ -136,7 +171,7 @@ void Game::SudTekstDrop(const std::vector<std::filesystem::path>& files) {
 
 std::optional<std::string> Game::EnterClues(std::string_view text, std::string_view title) {
     std::string why;
-    const auto chars = ClueCharacters(text, &why);
+    const auto chars = ClueText(text, &why);
     if (!chars) {
         services_.prompter.Ask(title, why, Buttons::Ok, Icon::Exclamation);
         return chars;
@@ -156,7 +191,18 @@ std::optional<std::string> Game::EnterClues(std::string_view text, std::string_v
 void Game::Validate() {
     Prompter& say = services_.prompter;
     Board& board = ctx_.board;
-    if (!SudMeetRestrictions(board, &say)) {
+    // Clues that clash are named before anything else looks at them.
+    const std::string clash = ClueClash(board.CurrentGrid);
+    if (!clash.empty()) say.Message(kClashTitle, "The clues clash: " + clash + ".");
+    // A puzzle the library holds already would stand twice.
+    const auto already = clash.empty()
+                             ? FindInLibrary(session_.folders().DataFolder, board.CurrentGrid)
+                             : std::nullopt;
+    if (already)
+        say.Message(kAlreadyTitle, "This sudoku is already in the library: " +
+                                       std::string(LevelName(already->level)) + " number " +
+                                       std::to_string(already->number) + ".");
+    if (!clash.empty() || already || !SudMeetRestrictions(board, &say)) {
         if (say.Ask(kMakeErrorTitle, kAbortMakingText, Buttons::YesNo, Icon::Question) ==
             Answer::Yes)
             EndMaking();
@@ -189,8 +235,6 @@ void Game::Validate() {
             say.Message(kInvalidTitle, kNotUniqueText);
             return EndMaking();
         }
-        say.Beep();
-        say.Message("Sudoku solved", SolvedMessage(ctx_.SolvingLevel));
         level = std::max(ctx_.SolvingLevel, 1);
     } else {
         say.Beep();
@@ -219,6 +263,15 @@ void Game::Validate() {
         // Both files are as they were; the clues stay for another try.
         RestoreClues();
         return;
+    }
+    // Where it went, so that Open finds it by its number.
+    const std::string stored = "It is stored as " + std::string(LevelName(level)) + " number " +
+                               std::to_string(session_.position().PuzzleNumber[level]) + ".";
+    if (solved) {
+        say.Beep();
+        say.Message("Sudoku solved", SolvedMessage(ctx_.SolvingLevel) + "\n" + stored);
+    } else {
+        say.Message("Sudoku stored", stored);
     }
     session_.position().ChosenLevel = level;
     EndMaking();

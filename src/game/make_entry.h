@@ -9,6 +9,8 @@
 #include <string_view>
 #include <vector>
 
+#include "grid/board.h"
+
 namespace tavi {
 
 inline constexpr std::string_view kMakePrompt =
@@ -47,6 +49,20 @@ inline constexpr std::string_view kReadErrorTitle = "File Error";
 // only its digits would enter clues in the wrong cells.
 std::optional<std::string> ClueCharacters(std::string_view text, std::string* why = nullptr);
 
+// The clues of a text: one line of 81 characters as ClueCharacters reads it, or
+// else the first puzzle of any layout the workbench's import reads (a grid of
+// nine lines, digits with blanks between them, a number or name before them),
+// as 81 characters with '.' for an empty cell.
+std::optional<std::string> ClueText(std::string_view text, std::string* why = nullptr);
+
+// The first clash among clues, as "two 4s in row A" ("column 3", "box 5");
+// empty when none.
+std::string ClueClash(const Digits& clues);
+inline constexpr std::string_view kClashTitle = "Invalid Sudoku";
+
+// Where a puzzle already stands in the library: "Hard number 31".
+inline constexpr std::string_view kAlreadyTitle = "Sudoku already in the library";
+
 // Why files dropped on the puzzle line are refused, as the title and text of the
 // message; nothing when there is exactly one file that may be read.
 struct DropRefusal {
@@ -54,8 +70,8 @@ struct DropRefusal {
 };
 std::optional<DropRefusal> RefuseDrop(const std::vector<std::filesystem::path>& files);
 
-// The head of a dropped file, at most 81 bytes after a byte order mark. Nothing
-// when the file can't be read.
+// The head of a dropped file, at most 4,096 bytes after a byte order mark (a
+// grid of nine lines fits). Nothing when the file can't be read.
 std::optional<std::string> ReadDroppedHead(const std::filesystem::path& file);
 
 }  // namespace tavi

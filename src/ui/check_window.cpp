@@ -1,20 +1,27 @@
 #include "ui/check_window.h"
 
 #include <QApplication>
+#include <QCloseEvent>
+#include <QDialogButtonBox>
+#include <QFile>
 #include <QFileDialog>
+#include <QFormLayout>
 #include <QFrame>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
+#include <QMessageBox>
 #include <QPainter>
 #include <QProgressBar>
+#include <QSpinBox>
 #include <QTableWidget>
 #include <QVBoxLayout>
 
 #include "solver/ladder.h"
 #include "ui/qt_convert.h"
 #include "ui/release_controls.h"
+#include "workbench/rating_pool.h"
 
 namespace tavi::ui {
 
@@ -57,8 +64,12 @@ CheckWindow::CheckWindow(std::filesystem::path dataFolder, const TechniqueOrder*
       bench_(prompter ? *prompter : prompter_, std::move(dataFolder)) {
     setObjectName(QStringLiteral("FormCheck"));
     bench_.SetOrder(order);
+    bench_.SetThreads(AllCoresCount());
     bench_.SetYield([] { QApplication::processEvents(); });
     bench_.SetChanged([this] { Refresh(); });
+    // The window's own report of an import, with the full list a button away;
+    // a scripted prompter (the tests) hears the plain message.
+    if (!prompter) bench_.SetImportReport([this](const ImportReport& r) { ShowImportReport(r); });
 
     auto* levels = new QGridLayout;
     for (int level = 1; level <= kLevelCount; ++level) {
@@ -109,7 +120,9 @@ CheckWindow::CheckWindow(std::filesystem::path dataFolder, const TechniqueOrder*
     duplicates_ = Command("CommandRemoveDuplicates", QStringLiteral("Remove Duplicates"));
     abort_ = Command("CommandAbort", QStringLiteral("Abort"));
     import_ = Command("CommandImport", QStringLiteral("Import..."));
-    auto* close = Command("CommandClose", QStringLiteral("Close"));
+    export_ = Command("CommandExport", QStringLiteral("Export..."));
+    close_ = Command("CommandClose", QStringLiteral("Close"));
+    auto* close = close_;
     const QString brute = QStringLiteral("Right button: by brute force");
     for (auto* b : {solve_, checkAll_, checkSome_})
         b->setToolTip(brute);
@@ -138,13 +151,15 @@ CheckWindow::CheckWindow(std::filesystem::path dataFolder, const TechniqueOrder*
                 if (!file.isEmpty())
                     bench_.CommandImport(std::filesystem::path(file.toStdString()));
             }));
+    connect(export_, &ReleaseButton::Released, this, left([this] { Export(); }));
     connect(close, &ReleaseButton::Released, this, left([this] {
                 if (!bench_.BatchRunning()) accept();
             }));
     auto* commands = new QGridLayout;
     int i = 0;
-    for (auto* b : {solve_, checkAll_, checkSome_, delete_, duplicates_, import_, abort_, close})
-        commands->addWidget(b, i / 4, i % 4), ++i;
+    for (auto* b :
+         {solve_, checkAll_, checkSome_, delete_, duplicates_, import_, export_, abort_, close})
+        commands->addWidget(b, i / 5, i % 5), ++i;
 
     picture1_ = new QFrame(this);
     picture1_->setObjectName(QStringLiteral("Picture1"));
@@ -182,22 +197,31 @@ CheckWindow::CheckWindow(std::filesystem::path dataFolder, const TechniqueOrder*
     hardest_->horizontalHeader()->setSectionResizeMode(1, QHeaderView::ResizeToContents);
     hardest_->verticalHeader()->hide();
     hardest_->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    hardest_->setMaximumHeight(160);
+
+    // Below the commands, in a space kept for them whether shown or not, so that
+    // no button moves: the progress frame during a run, else why the shown record
+    // can't be read and the table of the last check.
+    below_ = new QWidget(this);
+    auto* belowLayout = new QVBoxLayout(below_);
+    belowLayout->setContentsMargins(0, 0, 0, 0);
+    // A record that can't be read is shown empty; this line says which and why.
+    damaged_ = new QLabel(below_);
+    damaged_->setObjectName(QStringLiteral("LabelDamaged"));
+    damaged_->setWordWrap(true);
+    damaged_->setStyleSheet(QStringLiteral("color: #b00020;"));
+    belowLayout->addWidget(damaged_);
+    belowLayout->addWidget(picture1_);
+    belowLayout->addWidget(hardest_);
+    belowLayout->addStretch(1);
+    below_->setFixedHeight(std::max(picture1_->sizeHint().height(), 190));
 
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(levels);
     layout->addLayout(navigation);
     layout->addLayout(boards, 1);
-    // A record that can't be read is shown empty; this line says which and why.
-    damaged_ = new QLabel(this);
-    damaged_->setObjectName(QStringLiteral("LabelDamaged"));
-    damaged_->setWordWrap(true);
-    damaged_->setStyleSheet(QStringLiteral("color: #b00020;"));
-    layout->addWidget(damaged_);
     layout->addLayout(commands);
-    layout->addWidget(picture1_);
-    layout->addWidget(hardest_);
-    resize(620, 640);
+    layout->addWidget(below_);
+    resize(640, 700);
     Refresh();
 }
 
@@ -220,6 +244,8 @@ void CheckWindow::Refresh() {
     delete_->setEnabled(idle && c.Delete);
     duplicates_->setEnabled(idle && c.RemoveDuplicates);
     import_->setEnabled(idle);
+    export_->setEnabled(idle && IsLevel(bench_.WorkLevel()) && bench_.RecordCount() > 0);
+    close_->setEnabled(idle);
     abort_->setEnabled(!idle);
     const int level = bench_.WorkLevel();
     number_->setText(
@@ -256,8 +282,74 @@ void CheckWindow::Refresh() {
         hardest_->setItem(row, 1, new QTableWidgetItem(QString::number(hardest[t])));
     }
     hardest_->setVisible(hardest_->rowCount() > 0 && !p.Shown);
+    hardest_->setMaximumHeight(bench_.Damaged().empty() || p.Shown ? 180 : 120);
     board1_->update();
     board2_->update();
+}
+
+void CheckWindow::reject() {
+    if (bench_.BatchRunning()) return bench_.CommandAbort();
+    QDialog::reject();
+}
+
+void CheckWindow::closeEvent(QCloseEvent* e) {
+    if (bench_.BatchRunning()) return e->ignore();
+    QDialog::closeEvent(e);
+}
+
+void CheckWindow::ShowImportReport(const ImportReport& report) {
+    QMessageBox box(QMessageBox::Information, QStringLiteral("Sudoku import report"),
+                    QString::fromStdString(report.Text()), QMessageBox::Ok, this);
+    QPushButton* save = nullptr;
+    if (report.Cut() || !report.FullList().empty())
+        save = box.addButton(QStringLiteral("Save full list..."), QMessageBox::ActionRole);
+    box.exec();
+    if (box.clickedButton() != save || !save) return;
+    const QString file = QFileDialog::getSaveFileName(
+        this, QStringLiteral("Save the full list"), QStringLiteral("import-report.txt"),
+        QStringLiteral("Text files (*.txt);;All files (*)"));
+    if (file.isEmpty()) return;
+    QFile out(file);
+    const QByteArray text = QByteArray::fromStdString(report.FullList());
+    if (!out.open(QIODevice::WriteOnly | QIODevice::Truncate) || out.write(text) != text.size())
+        QMessageBox::warning(this, QStringLiteral("File Error"),
+                             QStringLiteral("Can't write ") + file);
+}
+
+// Which records of the shown level, and where to: the whole level unless a
+// range is asked for.
+void CheckWindow::Export() {
+    const int level = bench_.WorkLevel();
+    if (bench_.BatchRunning() || !IsLevel(level) || bench_.RecordCount() < 1) return;
+    QDialog ask(this);
+    ask.setWindowTitle(QStringLiteral("Export %1 sudokus").arg(ToQString(LevelName(level))));
+    auto* from = new QSpinBox(&ask);
+    auto* to = new QSpinBox(&ask);
+    from->setObjectName(QStringLiteral("ExportFrom"));
+    to->setObjectName(QStringLiteral("ExportTo"));
+    for (auto* box : {from, to})
+        box->setRange(1, int(std::min<long>(bench_.RecordCount(), 1000000)));
+    from->setValue(1);
+    to->setValue(int(bench_.RecordCount()));
+    auto* form = new QFormLayout(&ask);
+    form->addRow(new QLabel(QStringLiteral("One puzzle a line, with its level; '.' for an empty "
+                                           "cell."),
+                            &ask));
+    form->addRow(QStringLiteral("From number"), from);
+    form->addRow(QStringLiteral("To number"), to);
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, &ask);
+    connect(buttons, &QDialogButtonBox::accepted, &ask, &QDialog::accept);
+    connect(buttons, &QDialogButtonBox::rejected, &ask, &QDialog::reject);
+    form->addRow(buttons);
+    if (ask.exec() != QDialog::Accepted) return;
+    const QString file =
+        QFileDialog::getSaveFileName(this, QStringLiteral("Export sudokus"),
+                                     QStringLiteral("%1.txt").arg(ToQString(LevelName(level))),
+                                     QStringLiteral("Text files (*.txt);;All files (*)"));
+    if (file.isEmpty()) return;
+    bench_.CommandExport(std::filesystem::path(file.toStdU16String()),
+                         std::min(from->value(), to->value()),
+                         std::max(from->value(), to->value()));
 }
 
 }  // namespace tavi::ui

@@ -48,14 +48,24 @@ class CheckWindow : public QDialog {
     Workbench& Model() { return bench_; }
     void Refresh();
 
+    // While a run goes on the window stays: Escape aborts the run, and a close
+    // is refused.
+    void reject() override;
+
+  protected:
+    void closeEvent(QCloseEvent* e) override;
+
   private:
     ReleaseButton* Command(const char* name, const QString& caption);
+    void ShowImportReport(const ImportReport& report);
+    void Export();
 
     QtPrompter prompter_;
     Workbench bench_;
     std::array<QPushButton*, 10> levels_{};
     ReleaseButton *first_, *previous_, *next_, *last_, *goTo_;
-    ReleaseButton *solve_, *checkAll_, *checkSome_, *delete_, *duplicates_, *abort_, *import_;
+    ReleaseButton *solve_, *checkAll_, *checkSome_, *delete_, *duplicates_, *abort_, *import_,
+        *export_, *close_;
     QLabel* number_;
     QLabel* damaged_;  // why the shown record can't be read, when it can't
     TextBoard *board1_, *board2_;
@@ -63,6 +73,7 @@ class CheckWindow : public QDialog {
     QLabel *label4_, *label5_, *label6_, *importProgress_, *solvingLevel_;
     QProgressBar *bar1_, *bar2_;
     QTableWidget* hardest_;
+    QWidget* below_;  // the progress frame or the table, in a space kept for them
 };
 
 }  // namespace tavi::ui

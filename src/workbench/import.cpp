@@ -1,5 +1,6 @@
 #include "workbench/import.h"
 
+#include <deque>
 #include <fstream>
 #include <string_view>
 
@@ -10,6 +11,7 @@
 #include "solver/ladder.h"
 #include "solver/solutions.h"
 #include "workbench/duplicates.h"
+#include "workbench/rating_pool.h"
 
 namespace tavi {
 
@@ -26,8 +28,9 @@ void LineCount::Note(int line, std::string reason) {
     ++count;
     if (first.size() < kNamed) {
         first.push_back(line);
-        why.push_back(std::move(reason));
+        why.push_back(reason);
     }
+    all.emplace_back(line, std::move(reason));
 }
 
 std::string LineCount::Lines() const {
@@ -58,12 +61,36 @@ std::string ImportReport::Text() const {
             rejected += (rejected.empty() ? "" : ", ") + std::to_string(n.count) + " " + why +
                         (lines ? n.Lines() : "");
     };
-    reason(noSolution, "without a solution", false);
-    reason(severalSolutions, "with several solutions", false);
-    reason(duplicates, "already in the library", false);
+    reason(noSolution, "without a solution", true);
+    reason(severalSolutions, "with several solutions", true);
+    reason(duplicates, "already in the library", true);
     reason(unwritten, "that could not be written", true);
     reason(malformed, "malformed", true);
     if (!rejected.empty()) text += " Rejected: " + rejected + ".";
+    if (aborted)
+        text += " The import was aborted after line " + std::to_string(lastLine) +
+                (unread > 0 ? "; " + std::to_string(unread) + " lines were not read." : ".");
+    return text;
+}
+
+bool ImportReport::Cut() const {
+    for (const LineCount* n : {&noSolution, &severalSolutions, &duplicates, &unwritten, &malformed})
+        if (n->count > long(n->first.size())) return true;
+    return false;
+}
+
+std::string ImportReport::FullList() const {
+    std::string text;
+    auto list = [&](const LineCount& n, const char* what) {
+        for (const auto& [line, why] : n.all)
+            text += "line " + std::to_string(line) + "\t" + what + (why.empty() ? "" : ": " + why) +
+                    "\n";
+    };
+    list(noSolution, "without a solution");
+    list(severalSolutions, "with several solutions");
+    list(duplicates, "already in the library");
+    list(unwritten, "could not be written");
+    list(malformed, "malformed");
     return text;
 }
 
@@ -94,48 +121,90 @@ ImportReport ImportPuzzles(const std::filesystem::path& dataFolder, std::istream
 
     // A file is counted first, for the progress; the puzzles are never all held.
     long count = 0;
+    int lines = 0;
     const auto start = in.tellg();
     if (start != std::istream::pos_type(-1) && run.progress) {
         ReadForeignPuzzles(
-            in, [&](const ForeignPuzzle&) { return ++count, true; }, [](const ForeignProblem&) {});
+            in, [&](const ForeignPuzzle&) { return ++count, true; }, [](const ForeignProblem&) {},
+            &lines);
         in.clear();
         in.seekg(start);
     }
+
+    // The puzzles are read and filed here in the order of the file; only their
+    // rating is shared out over the threads, so the library and the report are
+    // those of a run on one thread.
+    struct InHand {
+        int line;
+        Digits puzzle;
+    };
+    std::deque<InHand> inHand;
+    RatingPool pool(run.threads, run.order);
+    const std::size_t ahead = std::size_t(64 * pool.Threads());
     long done = 0;
+    bool aborted = false;
+    auto breathe = [&] {
+        if (run.progress) run.progress(done, count);
+        if (run.abort && run.abort()) aborted = true;
+        return !aborted;
+    };
+    auto file = [&](const InHand& read, RatedPuzzle r) {
+        ++done;
+        if (r.solutions == 0) return report.noSolution.Note(read.line);
+        if (r.solutions > 1) return report.severalSolutions.Note(read.line);
+        if (known.Contains(read.puzzle)) return report.duplicates.Note(read.line);
+        if (!r.rated) {
+            // Known when it was handed in, and gone since: rated here.
+            SolveContext ctx;
+            r = RatePuzzle(ctx, read.puzzle, run.order);
+        }
+        long number = 0;
+        std::string why;
+        if (AppendToPair(dataFolder, LevelStem(r.level), {read.puzzle, r.solution, 0, 0}, {},
+                         &number, &why)) {
+            ++report.added[r.level];
+            known.Add(read.puzzle, Place(r.level, number));
+        } else {
+            report.unwritten.Note(read.line, why);
+        }
+    };
+    // Files the puzzles in hand until no more than `keep` are left.
+    auto fileUntil = [&](std::size_t keep) {
+        while (inHand.size() > keep && !aborted) {
+            const auto r = pool.Next(std::chrono::milliseconds(20));
+            if (!r) {
+                if (run.rating) run.rating(pool.Progress(true));
+                breathe();
+                continue;
+            }
+            file(inHand.front(), *r);
+            inHand.pop_front();
+            breathe();
+        }
+    };
     ReadForeignPuzzles(
         in,
         [&](const ForeignPuzzle& read) {
-            if (run.progress) run.progress(++done, count);
-            const Digits& puzzle = read.puzzle;
-            const SolutionCount solutions = Solutions(puzzle, 2);
-            if (solutions.count == 0) {
-                report.noSolution.Note(read.line);
-            } else if (solutions.count > 1) {
-                report.severalSolutions.Note(read.line);
-            } else if (known.Contains(puzzle)) {
-                report.duplicates.Note(read.line);
-            } else {
-                const Digits solution = solutions.first;
-                SolveContext ctx;
-                ctx.board = BoardFromPuzzle(puzzle);
-                WorkbenchRun rating;
-                rating.ImportRunning = true;
-                rating.order = run.order;
-                if (run.rating) rating.observer.progress = run.rating;
-                const int level = SolveSudoku(ctx, rating) ? ctx.SolvingLevel : kOutlaw;
-                long number = 0;
-                std::string why;
-                if (AppendToPair(dataFolder, LevelStem(level), {puzzle, solution, 0, 0}, {},
-                                 &number, &why)) {
-                    ++report.added[level];
-                    known.Add(puzzle, Place(level, number));
-                } else {
-                    report.unwritten.Note(read.line, why);
-                }
-            }
-            return !(run.abort && run.abort());
+            // A puzzle the library holds is only counted, not rated.
+            pool.Submit(read.puzzle, !known.Contains(read.puzzle));
+            inHand.push_back({read.line, read.puzzle});
+            fileUntil(ahead);
+            if (!aborted) report.lastLine = read.line;
+            return !aborted;
         },
-        [&](const ForeignProblem& p) { report.malformed.Note(p.line, p.why); });
+        [&](const ForeignProblem& p) {
+            if (!aborted) report.malformed.Note(p.line, p.why);
+        });
+    fileUntil(0);
+    if (aborted) {
+        report.aborted = true;
+        // What was read but not filed counts as not read.
+        if (!inHand.empty()) report.lastLine = inHand.front().line - 1;
+        report.unread = lines > report.lastLine ? lines - report.lastLine : 0;
+        pool.Cancel();
+        while (!pool.WaitIdle(std::chrono::milliseconds(50)))
+            if (run.progress) run.progress(done, count);
+    }
     return report;
 }
 

@@ -12,8 +12,8 @@
 #include <vector>
 
 #include "grid/levels.h"
+#include "library/foreign_puzzles.h"
 #include "settings/technique_order.h"
-#include "workbench/foreign_puzzles.h"
 
 namespace tavi {
 
@@ -23,6 +23,8 @@ struct LineCount {
     long count = 0;
     std::vector<int> first;        // at most kNamed line numbers
     std::vector<std::string> why;  // the reason of each of the first, when there is one
+    // Every line, with its reason when there is one, for the full list.
+    std::vector<std::pair<int, std::string>> all;
 
     void Note(int line, std::string reason = {});
     // " (lines 3, 7 and 12 more)"; empty with no line.
@@ -32,19 +34,27 @@ struct LineCount {
 struct ImportReport {
     std::array<long, kLevelCount + 1> added{};  // by level
     LineCount noSolution, severalSolutions, duplicates, unwritten, malformed;
+    bool aborted = false;
+    int lastLine = 0;  // the last line read and filed
+    long unread = 0;   // after an abort: the lines not read, when the file was counted
     // "12 sudokus imported: 7 Easy, 5 Hard. Rejected: 1 without a solution (line 3), ..."
     // Bounded, however long the input: counts and the first lines of each kind.
     std::string Text() const;
+    // Every line of every kind, one a line, for a file: "line 3\twithout a solution".
+    std::string FullList() const;
+    // More lines than the report names.
+    bool Cut() const;
 };
 
 struct ImportRun {
     const TechniqueOrder* order = nullptr;  // the default order when null
-    // Before each puzzle: its number and the count (0 when the input can't be
-    // counted beforehand).
+    int threads = 1;  // that rate the puzzles; the library and report are the same for any
+    // After each puzzle filed, and while a long one is rated: the puzzles done
+    // and the count (0 when the input can't be counted beforehand).
     std::function<void(long number, long count)> progress;
-    // The ladder's label text while a puzzle is rated.
+    // The ladder's label text on the puzzle waited for, before `progress`.
     std::function<void(const std::string&)> rating;
-    std::function<bool()> abort;  // asked after each puzzle
+    std::function<bool()> abort;  // asked after each `progress`
 };
 
 ImportReport ImportPuzzles(const std::filesystem::path& dataFolder, std::istream& in,

@@ -7,12 +7,15 @@
 #include "library/pair_guard.h"
 #include "library/pair_rewrite.h"
 #include "library/record_checks.h"
+#include "library/records.h"
 #include "solver/brute_force.h"
 #include "solver/ladder.h"
 #include "solver/solutions.h"
 #include "workbench/duplicates.h"
 #include "workbench/import.h"
+#include "workbench/rating_pool.h"
 
+#include <deque>
 #include <fstream>
 
 namespace tavi {
@@ -21,6 +24,10 @@ namespace {
 
 constexpr std::string_view kReportTitle = "Sudoku solve report";
 constexpr std::string_view kScanTitle = "Sudoku scan report";
+constexpr std::string_view kNoSolutionText =
+    "This Sudoku has no solution: it is not rated and stays where it is.";
+constexpr std::string_view kSeveralSolutionsText =
+    "This Sudoku has more than one solution: it is not rated and stays where it is.";
 
 }  // namespace
 
@@ -34,8 +41,13 @@ void Workbench::Changed() {
 }
 
 void Workbench::Breathe() {
+    lastRedraw_ = std::chrono::steady_clock::now();
     Changed();
     if (yield_) yield_();
+}
+
+void Workbench::BreatheWhenDue() {
+    if (std::chrono::steady_clock::now() - lastRedraw_ >= redrawEvery_) Breathe();
 }
 
 std::string Workbench::Label1(int cell) const {
@@ -91,6 +103,8 @@ void Workbench::Command1(int level) {
     const auto n = AskNumber("Sudoku number",
                              "Enter a value between 1 and " + std::to_string(count), 1, count, "1");
     if (!n) return;
+    // The table of hardest techniques belongs to the level it was counted on.
+    if (level != workLevel_) hardest_ = {};
     workLevel_ = level;
     currentNumber_[level] = *n;
     recordCount_ = count;
@@ -100,22 +114,28 @@ void Workbench::Command1(int level) {
     Changed();
 }
 
-bool Workbench::OpenSudoku() {
+bool Workbench::ReadAt(long n, SudokuRecord& record, SudokuLogRecord& log,
+                       std::string& damaged) const {
     const auto stem = LevelStem(workLevel_);
-    const long n = currentNumber_[workLevel_];
     // A record that can't be read shows what the fields hold: nothing. It is
-    // never solved, moved or written: `damaged_` says which record and why.
-    record_ = SudokuRecord{};
-    log_ = SudokuLogRecord{};
-    damaged_.clear();
+    // never solved, moved or written: `damaged` says which record and why.
+    record = SudokuRecord{};
+    log = SudokuLogRecord{};
+    damaged.clear();
     std::string why;
-    bool read = ReadSudokuRecord(PuzzleFile(dataFolder_, stem), n, record_, &why);
-    if (read) read = ReadSudokuLogRecord(LogFile(dataFolder_, stem), n, log_, &why);
+    bool read = ReadSudokuRecord(PuzzleFile(dataFolder_, stem), n, record, &why);
+    if (read) read = ReadSudokuLogRecord(LogFile(dataFolder_, stem), n, log, &why);
     if (!read) {
-        record_ = SudokuRecord{};
-        log_ = SudokuLogRecord{};
-        damaged_ = why.empty() ? "Record " + std::to_string(n) + " could not be read." : why;
+        record = SudokuRecord{};
+        log = SudokuLogRecord{};
+        damaged = why.empty() ? "Record " + std::to_string(n) + " could not be read." : why;
     }
+    return read;
+}
+
+bool Workbench::OpenSudoku() {
+    const long n = currentNumber_[workLevel_];
+    const bool read = ReadAt(n, record_, log_, damaged_);
     Board& b = ctx_.board;
     b = Board{};
     b.Puzzle = record_.Puzzle;
@@ -310,6 +330,11 @@ void Workbench::CommandSolve(bool right, bool inside) {
         return Changed();
     }
 
+    // No solution, or several: no rating would mean anything, so it stays.
+    if (const int solutions = Solutions(record_.Puzzle, 2).count; solutions != 1) {
+        prompter_.Message(kReportTitle, solutions == 0 ? kNoSolutionText : kSeveralSolutionsText);
+        return Changed();
+    }
     const bool solved = SolveOpen(false);
     const int rating = solved ? ctx_.SolvingLevel : kOutlaw;
     if (!solved && workLevel_ == kOutlaw) {
@@ -360,7 +385,7 @@ void Workbench::CheckRange(long from, long to, bool brute) {
     RunCounters count;
     hardest_ = {};
     unreadable_ = 0;
-    std::vector<std::string> unreadable;
+    notUnique_ = 0;
     runErrors_.clear();
     runErrorCount_ = 0;
     progress_ = WorkbenchProgress{};
@@ -371,48 +396,31 @@ void Workbench::CheckRange(long from, long to, bool brute) {
     batchRunning_ = true;
     abortRequested_ = false;
     long total = recordCount_;
-    // Every move of the run is noted, so that a kill can't leave a puzzle in two
-    // libraries; the moved records leave this one at the end, in one rewrite.
-    std::optional<MoveJournal> journal;
-    if (!brute) journal.emplace(dataFolder_, LevelStem(workLevel_));
+    Breathe();
 
-    for (long i = from; i <= to; ++i) {
-        progress_.LabelImportProgress =
-            brute ? "Solving Sudoku " + std::to_string(i) + " from " + plural
-                  : "Checking Sudoku : " + std::to_string(i) + " of " + std::to_string(to) +
-                        " from " + plural;
-        progress_.Bar1 = i - from + 1;
-        currentNumber_[workLevel_] = i;
-        if (!OpenSudoku()) {
-            ++unreadable_;
-            if (unreadable.size() < kNamedRecords) unreadable.push_back(damaged_);
-        } else if (brute) {
-            Board& b = ctx_.board;
-            bool contradiction = false;
-            if (BruteForceSolutions(ctx_, contradiction) == 1) {
-                record_.Solution = b.CurrentGrid;
-                WriteInPlace();
-            }
-        } else {
-            const bool solved = SolveOpen(true);
-            const int rating = solved ? ctx_.SolvingLevel : kOutlaw;
-            if (solved || workLevel_ != kOutlaw) {
-                TakeSolution(solved);
-                if (rating == workLevel_) {
-                    ++count.unchanged;
+    if (brute) {
+        for (long i = from; i <= to; ++i) {
+            progress_.LabelImportProgress =
+                "Solving Sudoku " + std::to_string(i) + " from " + plural;
+            progress_.Bar1 = i - from + 1;
+            currentNumber_[workLevel_] = i;
+            if (!OpenSudoku()) {
+                ++unreadable_;
+                if (count.unreadable.size() < kNamedRecords) count.unreadable.push_back(damaged_);
+            } else {
+                Board& b = ctx_.board;
+                bool contradiction = false;
+                if (BruteForceSolutions(ctx_, contradiction) == 1) {
+                    record_.Solution = b.CurrentGrid;
                     WriteInPlace();
-                } else if (MoveTo(*journal, rating)) {
-                    ++(solved ? count.moved : count.outlaw);
-                } else {
-                    ++count.unmoved;
                 }
+                showSolverBoard_ = false;
             }
+            BreatheWhenDue();
+            if (abortRequested_) break;
         }
-        Breathe();
-        if (abortRequested_) {
-            total = i;
-            break;
-        }
+    } else {
+        CheckByLogic(from, to, count, total);
     }
     batchRunning_ = false;
     progress_.Shown = false;
@@ -422,29 +430,194 @@ void Workbench::CheckRange(long from, long to, bool brute) {
         OpenSudoku();
         if (unreadable_ > 0 || !errors.empty())
             prompter_.Message(kFileErrorTitle,
-                              (unreadable_ ? UnreadableText(unreadable, unreadable_) : "") +
+                              (unreadable_ ? UnreadableText(count.unreadable, unreadable_) : "") +
                                   (unreadable_ && !errors.empty() ? "\n" : "") + errors);
         return Changed();
     }
 
     const CheckReport report = ReportFor(count.moved, count.outlaw, count.unchanged, total);
-    // Only what left the library goes from it: an aborted run never takes with it
-    // records it did not reach, whatever the report's case.
-    if (!journal->Moved().empty()) {
-        FinishMoves(*journal);
-    } else {
-        journal->Finish();
-        currentNumber_[workLevel_] = std::min(currentNumber_[workLevel_], recordCount_);
-        OpenSudoku();
-    }
     std::string text = report.text;
     if (count.unmoved > 0)
         text += "\n" + std::to_string(count.unmoved) +
                 " sudokus could not be moved to their level and stay where they were.";
-    if (unreadable_ > 0) text += "\n" + UnreadableText(unreadable, unreadable_);
+    if (unreadable_ > 0) text += "\n" + UnreadableText(count.unreadable, unreadable_);
     if (!errors.empty()) text += "\n" + errors;
+    if (const std::string notUnique = NotUniqueText(count.none, count.several); !notUnique.empty())
+        text += "\n" + notUnique;
     prompter_.Message(report.title, text);
     Changed();
+}
+
+namespace {
+
+// The records of a run read in order through one open stream per file: a run
+// reads each record once, ahead of the ones it writes back, so what it reads is
+// never stale. A record that does not read here is read again the plain way,
+// which says why.
+class RunReader {
+  public:
+    RunReader(const std::filesystem::path& sds, const std::filesystem::path& sdl, long from)
+        : sds_(sds, std::ios::binary), sdl_(sdl, std::ios::binary) {
+        sds_.seekg(std::streamoff(from - 1) * std::streamoff(kSudokuRecordSize));
+        sdl_.seekg(std::streamoff(from - 1) * std::streamoff(kSudokuLogRecordSize));
+    }
+    // Record after record; false when it must be read the plain way.
+    bool Next(SudokuRecord& record, SudokuLogRecord& log) {
+        if (!sds_.read(reinterpret_cast<char*>(sdsBytes_.data()),
+                       std::streamsize(sdsBytes_.size())) ||
+            !sdl_.read(reinterpret_cast<char*>(sdlBytes_.data()),
+                       std::streamsize(sdlBytes_.size())))
+            return false;
+        record = SudokuRecordFromBytes(sdsBytes_);
+        log = SudokuLogRecordFromBytes(sdlBytes_);
+        return CheckSudokuRecord(record).empty() && CheckSudokuLogRecord(log).empty();
+    }
+
+  private:
+    std::ifstream sds_, sdl_;
+    SudokuRecordBytes sdsBytes_;
+    SudokuLogRecordBytes sdlBytes_;
+};
+
+}  // namespace
+
+// The puzzles are read and filed here, one after the other; only their rating is
+// shared out over the threads, and its results are taken in the order of the
+// records, so the files and the report are those of a run on one core.
+void Workbench::CheckByLogic(long from, long to, RunCounters& count, long& total) {
+    const std::string plural = LevelPlural(workLevel_);
+    // Every move of the run is noted, so that a kill can't leave a puzzle in two
+    // libraries; the moved records leave this one at the end, in one rewrite.
+    MoveJournal journal(dataFolder_, LevelStem(workLevel_));
+    struct InHand {
+        long number;
+        SudokuRecord record;
+        SudokuLogRecord log;
+        std::string damaged;  // empty when the record reads
+    };
+    std::deque<InHand> inHand;
+    const auto stem = LevelStem(workLevel_);
+    RunReader reader(PuzzleFile(dataFolder_, stem), LogFile(dataFolder_, stem), from);
+    RatingPool pool(threads_, order_);
+    const std::size_t ahead = std::size_t(64 * pool.Threads());
+    long next = from, done = from - 1;
+    bool aborted = false;
+    while (!inHand.empty() || next <= to) {
+        // Read ahead, so that every thread has a puzzle in hand.
+        while (next <= to && inHand.size() < ahead) {
+            InHand& read = inHand.emplace_back();
+            read.number = next++;
+            if (reader.Next(read.record, read.log) ||
+                ReadAt(read.number, read.record, read.log, read.damaged))
+                pool.Submit(read.record.Puzzle);
+        }
+        InHand& first = inHand.front();
+        std::optional<RatedPuzzle> rated;
+        if (first.damaged.empty()) {
+            const auto waited = std::chrono::steady_clock::now() - lastRedraw_;
+            const auto wait =
+                std::chrono::duration_cast<std::chrono::milliseconds>(redrawEvery_ - waited);
+            rated = pool.Next(std::max(wait, std::chrono::milliseconds(1)));
+            if (!rated) {
+                // A long puzzle: the window shows how far its rating has come.
+                int level = 0;
+                progress_.LabelSolvingLevel = pool.Progress(false, &level);
+                progress_.Bar2 = std::min(level, kLevelCount - 1);
+                BreatheWhenDue();
+                if ((aborted = abortRequested_)) break;
+                continue;
+            }
+        }
+        // The record as it was read: what is filed, and what the window shows.
+        const long i = first.number;
+        currentNumber_[workLevel_] = i;
+        record_ = first.record;
+        log_ = first.log;
+        damaged_ = first.damaged;
+        caption_ = std::string(LevelName(workLevel_)) + " - " + std::to_string(i);
+        ctx_.board = Board{};
+        ctx_.board.Puzzle = record_.Puzzle;
+        showSolverBoard_ = false;
+        if (!rated) {
+            ++unreadable_;
+            if (count.unreadable.size() < kNamedRecords) count.unreadable.push_back(damaged_);
+        } else if (rated->solutions != 1) {
+            // No solution, or several: no rating means anything, so it stays.
+            ++notUnique_;
+            (rated->solutions == 0 ? count.none : count.several).Note(i);
+        } else if (rated->solved || workLevel_ != kOutlaw) {
+            if (rated->hardest) ++hardest_[rated->hardest->number];
+            record_.Solution = rated->solution;
+            ctx_.board.Solution = record_.Solution;
+            if (rated->level == workLevel_) {
+                ++count.unchanged;
+                // Written back only when the solution on file was not this one.
+                if (record_.Solution != first.record.Solution) WriteInPlace();
+            } else if (MoveTo(journal, rated->level)) {
+                ++(rated->solved ? count.moved : count.outlaw);
+            } else {
+                ++count.unmoved;
+            }
+        }
+        inHand.pop_front();
+        done = i;
+        progress_.LabelImportProgress = "Checking Sudoku : " + std::to_string(i) + " of " +
+                                        std::to_string(to) + " from " + plural;
+        progress_.Bar1 = i - from + 1;
+        // The rating under way on the next puzzle, or else the last one's.
+        int level = 0;
+        progress_.LabelSolvingLevel = pool.Progress(false, &level);
+        if (progress_.LabelSolvingLevel.empty() && rated && rated->rated) {
+            level = rated->level;
+            progress_.LabelSolvingLevel = "Solving Sudoku : Rated " + std::string(LevelName(level));
+        }
+        progress_.Bar2 = std::min(level, kLevelCount - 1);
+        BreatheWhenDue();
+        if ((aborted = abortRequested_)) break;
+    }
+    if (aborted) {
+        // The report's total is the last number done.
+        total = std::max(done, from);
+        // The puzzles in hand finish on their threads and are dropped; the
+        // window stays alive meanwhile.
+        pool.Cancel();
+        while (!pool.WaitIdle(std::chrono::milliseconds(50)))
+            Breathe();
+    }
+    // Only what left the library goes from it: an aborted run never takes with it
+    // records it did not reach, whatever the report's case.
+    if (!journal.Moved().empty()) {
+        FinishMoves(journal);
+    } else {
+        journal.Finish();
+        currentNumber_[workLevel_] = std::min(currentNumber_[workLevel_], recordCount_);
+        OpenSudoku();
+    }
+}
+
+std::string NumberList::Text() const {
+    std::string text;
+    for (std::size_t k = 0; k < first.size(); ++k)
+        text += (k == 0                                                 ? ""
+                 : k + 1 == first.size() && count == long(first.size()) ? " and "
+                                                                        : ", ") +
+                std::to_string(first[k]);
+    if (count > long(first.size()))
+        text += " and " + std::to_string(count - long(first.size())) + " more";
+    return text;
+}
+
+std::string NotUniqueText(const NumberList& none, const NumberList& several) {
+    if (!none.count && !several.count) return {};
+    std::string text = "No unique solution, not rated and left where they stand:";
+    auto kind = [&](const NumberList& list, const char* what) {
+        if (!list.count) return;
+        text += "\n" + std::to_string(list.count) + " " + what + " (record" +
+                (list.count > 1 ? "s " : " ") + list.Text() + ")";
+    };
+    kind(none, "without a solution");
+    kind(several, "with several solutions");
+    return text;
 }
 
 std::string Workbench::RunErrorsText() const {
@@ -562,24 +735,30 @@ void Workbench::CommandImport(const std::filesystem::path& file) {
     abortRequested_ = false;
     ImportRun run;
     run.order = order_;
+    run.threads = threads_;
     run.progress = [this](long n, long count) {
         progress_.LabelImportProgress =
             "Importing Sudoku " + std::to_string(n) + " of " + std::to_string(count);
         progress_.Bar1 = n;
         progress_.Bar1Max = count;
-        Breathe();
+        BreatheWhenDue();
     };
     run.rating = [this](const std::string& text) { progress_.LabelSolvingLevel = text; };
     run.abort = [this] { return abortRequested_; };
+    Breathe();
     const ImportReport report = ImportPuzzles(dataFolder_, in, run);
     batchRunning_ = false;
-    progress_.Shown = false;
+    progress_ = WorkbenchProgress{};
     if (IsLevel(workLevel_) && recordCount_ > 0) {
         recordCount_ =
             WholeRecords(PuzzleFile(dataFolder_, LevelStem(workLevel_)), kSudokuRecordSize);
         SetNavigation();
     }
-    prompter_.Message("Sudoku import report", report.Text());
+    Changed();
+    if (importReport_)
+        importReport_(report);
+    else
+        prompter_.Message("Sudoku import report", report.Text());
     Changed();
 }
 

@@ -7,6 +7,7 @@
 #pragma once
 
 #include <array>
+#include <chrono>
 #include <filesystem>
 #include <functional>
 #include <optional>
@@ -19,6 +20,7 @@
 #include "settings/technique_order.h"
 #include "solver/solve_context.h"
 #include "workbench/check_report.h"
+#include "workbench/import.h"
 
 namespace tavi {
 
@@ -44,6 +46,22 @@ struct WorkbenchProgress {
 // How many puzzles needed each technique as their hardest, in a check run.
 using HardestCounts = std::array<long, kTechniqueCount>;
 
+// Record numbers of one kind in a run: how many, and the first 20.
+struct NumberList {
+    static constexpr std::size_t kNamed = 20;
+    long count = 0;
+    std::vector<long> first;
+    void Note(long number) {
+        if (++count <= long(kNamed)) first.push_back(number);
+    }
+    // "4, 9 and 12", then "and 3 more" past the first 20.
+    std::string Text() const;
+};
+
+// The report's part on puzzles with no solution or several, "" when there are
+// none: they are not rated and stay where they are.
+std::string NotUniqueText(const NumberList& none, const NumberList& several);
+
 class Workbench {
   public:
     Workbench(Prompter& prompter, std::filesystem::path dataFolder);
@@ -54,6 +72,18 @@ class Workbench {
     void SetYield(std::function<void()> yield) { yield_ = std::move(yield); }
     // Called whenever what the window shows has changed.
     void SetChanged(std::function<void()> changed) { changed_ = std::move(changed); }
+    // How many threads rate the puzzles of Check All, Check Some and Import; the
+    // results are the same for any number.
+    void SetThreads(int threads) { threads_ = std::max(1, threads); }
+    int Threads() const { return threads_; }
+    // During a run the window is told of changes and breathes at most this often
+    // (zero: after every puzzle); the last puzzle done is shown, the counters true.
+    void SetRedrawEvery(std::chrono::milliseconds every) { redrawEvery_ = every; }
+    // Shows the report of an import in place of the plain message (the window's
+    // report can save the full list of lines).
+    void SetImportReport(std::function<void(const ImportReport&)> show) {
+        importReport_ = std::move(show);
+    }
 
     // --- The commands ---------------------------------------------------------
     void Command1(int level);  // a library by level; asks for the number to show
@@ -73,6 +103,9 @@ class Workbench {
     // Imports the puzzles of a foreign file (workbench/import.h), with the
     // progress frame, and reports where they went and what was refused.
     void CommandImport(const std::filesystem::path& file);
+    // Writes records `from` to `to` of the open library to a text file
+    // (workbench/export.h) and says how many.
+    void CommandExport(const std::filesystem::path& file, long from, long to);
 
     // --- State for the window ---------------------------------------------------
     int WorkLevel() const { return workLevel_; }
@@ -92,6 +125,9 @@ class Workbench {
     // not be read.
     const HardestCounts& Hardest() const { return hardest_; }
     long Unreadable() const { return unreadable_; }
+    // The last check run's puzzles with no solution or several: not rated, left
+    // where they stand.
+    long NotUnique() const { return notUnique_; }
     // The shown record when it could not be read ("Record 5 of Sudoku_Easy.sds is
     // damaged: ..."), else empty. Such a record is never solved, moved or written.
     const std::string& Damaged() const { return damaged_; }
@@ -101,14 +137,21 @@ class Workbench {
   private:
     struct RunCounters {
         long moved = 0, outlaw = 0, unchanged = 0;
-        long unmoved = 0;  // rated for another level, but the move failed
+        long unmoved = 0;                     // rated for another level, but the move failed
+        std::vector<std::string> unreadable;  // the first of the records that don't read
+        NumberList none, several;             // no solution, several: not rated
     };
 
     bool OpenSudoku();
+    // Record `n` of the open library; a record that can't be read leaves both
+    // empty and says why in `damaged`.
+    bool ReadAt(long n, SudokuRecord& record, SudokuLogRecord& log, std::string& damaged) const;
     void SetNavigation();
     void DisableAll();
     void Changed();
     void Breathe();
+    // Breathes when the last redraw of the run is `redrawEvery_` old.
+    void BreatheWhenDue();
     std::optional<long> AskNumber(const std::string& title, const std::string& prompt, long low,
                                   long high, const std::string& defaultText);
     // The logic on the open record: true when solved; SolvingLevel then the rating.
@@ -128,6 +171,7 @@ class Workbench {
     bool Compact(const std::vector<bool>& drop);
     bool WriteInPlace();
     void CheckRange(long from, long to, bool brute);
+    void CheckByLogic(long from, long to, RunCounters& count, long& total);
     // A box at once, or during a run a line of its report (RunErrorsText).
     void ReportFileError(const std::string& why);
     std::string RunErrorsText() const;
@@ -136,6 +180,10 @@ class Workbench {
     std::filesystem::path dataFolder_;
     const TechniqueOrder* order_ = nullptr;
     std::function<void()> yield_, changed_;
+    std::function<void(const ImportReport&)> importReport_;
+    int threads_ = 1;
+    std::chrono::milliseconds redrawEvery_{50};
+    std::chrono::steady_clock::time_point lastRedraw_{};
 
     SolveContext ctx_{Side::Workbench};
     SudokuRecord record_;
@@ -151,6 +199,7 @@ class Workbench {
     bool abortRequested_ = false;
     HardestCounts hardest_{};
     long unreadable_ = 0;
+    long notUnique_ = 0;
     std::string damaged_;
     long fileErrors_ = 0;
     std::vector<std::string> runErrors_;  // the first of a run's file errors

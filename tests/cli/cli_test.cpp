@@ -51,21 +51,25 @@ Digits FiveHoles() {
     return d;
 }
 
-TEST(CliRate, GivesTheRatingAndOutlawWhenTheLadderFails) {
+// A puzzle with no solution or several has no rating: level 0, and status 1.
+TEST(CliRate, GivesTheRatingAndLevelZeroWithoutOneSolution) {
     Digits clash = FiveHoles();
     clash[0] = clash[1];  // the same digit twice in row A
     std::string input;
     std::vector<std::string> expected;
-    for (auto [puzzle, rating] : {std::pair{FiveHoles(), "1\tEasy"},
-                                  {DeadCell(), "9\tOutlaw"},
-                                  {clash, "invalid\tclashing givens"}}) {
+    for (auto [puzzle, rating] :
+         {std::pair{FiveHoles(), "1\tEasy"},
+          {DeadCell(), "0\tno unique solution"},
+          {testing::WithoutFirstClue(testing::GeneratedPuzzles(1)[0].puzzle),
+           "0\tno unique solution"},
+          {clash, "invalid\tclashing givens"}}) {
         input += FormatDigits(puzzle, '0') + "\n";
         expected.push_back(FormatDigits(puzzle, '0') + "\t" + rating);
     }
     const Output o = RunRate(input);
     EXPECT_EQ(o.status, 1);  // the clash is reported, not rated
     EXPECT_EQ(Lines(o.out), expected);
-    EXPECT_NE(o.err.find("line 3: invalid puzzle"), std::string::npos) << o.err;
+    EXPECT_NE(o.err.find("line 4: invalid puzzle"), std::string::npos) << o.err;
 }
 
 TEST(CliRate, SummaryCountsEachLevelOnStandardError) {
@@ -73,9 +77,10 @@ TEST(CliRate, SummaryCountsEachLevelOnStandardError) {
     const Output o = RunCommand(
         [](auto& in, auto& out, auto& err) { return Rate(in, out, err, RateOptions{true}); },
         input);
-    EXPECT_EQ(o.status, 0);
+    EXPECT_EQ(o.status, 1);
     EXPECT_EQ(Lines(o.out).size(), 2u);
-    for (const char* said : {"Easy\t1\n", "Medium\t0\n", "Outlaw\t1\n", "per second"})
+    for (const char* said :
+         {"Easy\t1\n", "Medium\t0\n", "Outlaw\t0\n", "invalid\t1\n", "per second"})
         EXPECT_NE(o.err.find(said), std::string::npos) << o.err;
 }
 
@@ -270,7 +275,7 @@ TEST(CliProgram, ExitStatusTellsWhetherEveryLineWasAPuzzle) {
     const auto good = dir / "good.txt", bad = dir / "bad.txt", out = dir / "out.txt";
     std::ofstream(good) << "# two puzzles\n"
                         << Text(FiveHoles()) << "\n"
-                        << Text(DeadCell()) << "\n";
+                        << Text(testing::GeneratedPuzzles(1)[0].puzzle) << "\n";
     std::ofstream(bad) << Text(FiveHoles()) << "\nnot a puzzle\n";
     auto run = [&](const std::string& args) {
         const std::string command = std::string(TAVI_CLI_PATH) + " " + args + " > " + out.string() +
@@ -283,7 +288,9 @@ TEST(CliProgram, ExitStatusTellsWhetherEveryLineWasAPuzzle) {
         return std::string(std::istreambuf_iterator<char>(f), {});
     };
     EXPECT_EQ(run("rate " + good.string()), 0);
-    EXPECT_EQ(written(out), RunRate(Text(FiveHoles()) + "\n" + Text(DeadCell()) + "\n").out);
+    EXPECT_EQ(written(out), RunRate(Text(FiveHoles()) + "\n" +
+                                    Text(testing::GeneratedPuzzles(1)[0].puzzle) + "\n")
+                                .out);
     EXPECT_EQ(run("rate < " + good.string()), 0);
     EXPECT_EQ(Lines(written(out)).size(), 2u);
     EXPECT_EQ(run("solve " + bad.string()), 2);

@@ -10,6 +10,7 @@
 #include "library/library_test_support.h"
 #include "solver/generator.h"
 #include "solver/solutions.h"
+#include "support/puzzles.h"
 
 namespace tavi::cli {
 namespace {
@@ -150,8 +151,9 @@ TEST(CliLibrary, ExportWritesPuzzleSolutionAndBestTimeAndFlagsADamagedFile) {
     ASSERT_TRUE(WriteSudokuRecord(sds, 2, b));
     Output o = RunCommand(LibraryCommand, {"library", "export", sds.string()});
     EXPECT_EQ(o.status, 0);
-    EXPECT_EQ(o.out, FormatDigits(a.Puzzle) + "\t" + FormatDigits(a.Solution) + "\t3:07\n" +
-                         FormatDigits(b.Puzzle) + "\t" + FormatDigits(b.Solution) + "\t0:00\n");
+    EXPECT_EQ(o.out, FormatDigits(a.Puzzle, '.') + "\t" + FormatDigits(a.Solution) + "\t3:07\n" +
+                         FormatDigits(b.Puzzle, '.') + "\t" + FormatDigits(b.Solution) +
+                         "\t0:00\n");
 
     // Exported lines import again as the same puzzles.
     std::istringstream in(o.out);
@@ -187,7 +189,8 @@ TEST(CliLibrary, ImportWithoutALevelRatesAndFilesEachPuzzle) {
     EXPECT_EQ(LibraryImportCommand(file, dir.path(), out, err), 2);
     EXPECT_NE(err.str().find("foreign.txt, line 2: no puzzle"), std::string::npos) << err.str();
     EXPECT_NE(out.str().find("2 sudokus imported: "), std::string::npos) << out.str();
-    EXPECT_NE(out.str().find("1 already in the library, 1 malformed (line 2)."), std::string::npos)
+    EXPECT_NE(out.str().find("1 already in the library (line 4), 1 malformed (line 2)."),
+              std::string::npos)
         << out.str();
 }
 
@@ -221,6 +224,35 @@ TEST(CliLibrary, CheckAnswersTwoWhenItCouldNotDoAllItsWork) {
     o = RunCommand(LibraryCommand, {"library", "check", d});
     EXPECT_EQ(o.status, 2);
     EXPECT_NE(o.out.find("do not read as a puzzle file"), std::string::npos) << o.out;
+}
+
+// A check of every level rates each puzzle once: those it moves into a later
+// level are not checked and counted there again, so the table of hardest
+// techniques adds up to the puzzles of the folder, for any number of threads.
+TEST(CliLibrary, CheckOfEveryLevelCountsEachPuzzleOnce) {
+    std::string tables;
+    for (const char* threads : {"1", "2"}) {
+        TempDir dir;
+        long count = 0;
+        // Puzzles of every level, all filed under Easy: most move to a later level.
+        for (const auto& p : tavi::testing::GeneratedPuzzles(60, 17)) {
+            ASSERT_TRUE(AppendToPair(dir.path(), LevelStem(1), {p.puzzle, p.solution, 0, 0}, {}));
+            ++count;
+        }
+        const Output o = RunCommand(
+            LibraryCommand, {"library", "check", "--threads", threads, dir.path().string()});
+        ASSERT_EQ(o.status, 0) << o.err;
+        const std::string table = o.out.substr(o.out.find("hardest technique"));
+        long counted = 0;
+        for (const std::string& line : Lines(table))
+            if (line.find('\t') != std::string::npos && line.rfind("hardest", 0) != 0)
+                counted += std::stol(line.substr(line.rfind('\t') + 1));
+        EXPECT_EQ(counted, count) << table;
+        if (tables.empty())
+            tables = table;
+        else
+            EXPECT_EQ(table, tables) << "the same for one thread and two";
+    }
 }
 
 // Nothing is read whole: an export of a sparse file far beyond any library is

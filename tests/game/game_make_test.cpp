@@ -64,6 +64,7 @@ TEST_F(Make, EveryWayOutOfValidateThatStoresNothing) {
         std::vector<std::string> said;
         bool stillMaking;
     };
+    Making();  // the library, for the puzzle it holds already
     const Case cases[] = {
         {"16 clues",
          SolvedWithout([](int c) { return c >= 16; }),
@@ -76,7 +77,18 @@ TEST_F(Make, EveryWayOutOfValidateThatStoresNothing) {
          {Answer::Ignore},
          {unsolved, notUnique},
          false},
-        {"doubled digit", doubled, {Answer::Ignore}, {unsolved, notUnique}, false},
+        // A clash is named before anything is solved, and so is a puzzle that
+        // the library holds already.
+        {"doubled digit",
+         doubled,
+         {Answer::No},
+         {"The clues clash: two 5s in row A.", abort},
+         true},
+        {"already in the library",
+         FormatDigits(Record(2, 1).puzzle, '.'),
+         {Answer::Yes},
+         {"This sudoku is already in the library: Medium number 1.", abort},
+         false},
         {"two solutions, Abort", std::string(kTwoLogicFails), {Answer::Abort}, {unsolved}, false},
         {"two solutions, logic guesses", std::string(kTwoLogicFinishes), {}, {notUnique}, false},
         {"two solutions, Retry", std::string(kTwoLogicFails), {Answer::Retry}, {unsolved}, true},
@@ -129,8 +141,8 @@ TEST_F(Make, AHardPuzzleClickedInEndsAsTheLastRecordOfTheHardPairAfterAFailedWri
     std::filesystem::rename(log, root / "aside");
     std::filesystem::create_directory(log);
     g.CommandMake();
-    ASSERT_EQ(prompter.shown.size(), 2u);
-    EXPECT_EQ(prompter.shown[1].title, "File Error");
+    ASSERT_EQ(prompter.shown.size(), 1u);
+    EXPECT_EQ(prompter.shown[0].title, "File Error");
     EXPECT_EQ(Records(3), count);
     EXPECT_TRUE(g.MakeMode);
     EXPECT_EQ(g.board().CurrentGrid, puzzle);
@@ -139,7 +151,10 @@ TEST_F(Make, AHardPuzzleClickedInEndsAsTheLastRecordOfTheHardPairAfterAFailedWri
     std::filesystem::rename(root / "aside", log);
     prompter.shown.clear();
     g.CommandMake();
-    EXPECT_EQ(prompter.Texts(), std::vector<std::string>{"Sudoku solved and rated as Hard"});
+    EXPECT_EQ(prompter.Texts(),
+              std::vector<std::string>{"Sudoku solved and rated as Hard\nIt is stored as Hard "
+                                       "number " +
+                                       std::to_string(count + 1) + "."});
     ASSERT_EQ(Records(3), count + 1);
     EXPECT_EQ(Records(3, true), count + 1);
     EXPECT_EQ(Record(3, count + 1).solution, Solutions(puzzle).first);
@@ -191,9 +206,10 @@ TEST_F(Make, CluesFromTypedTextAndDroppedFiles) {
         {{root / "gone.txt"},
          "Error reading sudoku from file " + (root / "gone.txt").string() + " !",
          {}},
-        {{file("rows.txt", rows)}, std::string(kClueTextRefused), {}},
         {{file("half.txt", half + "\n")}, "", half},
         {{file("P.TXT", "\xEF\xBB\xBF" + text + "\r\nsolution line\r\n")}, "", text},
+        // Nine lines of a grid are read as the import reads them.
+        {{file("rows.txt", "\xEF\xBB\xBF" + rows)}, "", text},
     };
     Game& d = Making();
     for (const Drop& k : drops) {

@@ -1,5 +1,6 @@
 // Making a puzzle in the window: Make opens the puzzle line for a drop, a text
 // file dropped on it puts its clues on the board, and digit keys enter clues too.
+#include <QClipboard>
 #include <QDropEvent>
 #include <QMimeData>
 #include <QUrl>
@@ -53,6 +54,27 @@ TEST_F(MakeWindowTest, AFileDroppedOnTheLineAfterMakeEntersItsClues) {
     EXPECT_TRUE(DropOn(line, {root / "mine.txt"}));
     EXPECT_EQ(game->board().CurrentGrid, record.puzzle);
     EXPECT_EQ(line->text().toStdString(), text);
+}
+
+// A grid of nine lines pasted into the line is read as the import reads it.
+TEST_F(MakeWindowTest, AGridOfNineLinesPastedEntersItsClues) {
+    Open();
+    auto* line = Find<QLineEdit>("SudTekst");
+    const GeneratedPuzzle record = Record(2, 1);
+    const std::string text = FormatDigits(record.puzzle, '.');
+    std::string grid;
+    for (int r = 0; r < 9; ++r) {
+        if (r == 3 || r == 6) grid += "------+-------+------\n";
+        for (int c = 0; c < 9; ++c)
+            grid += std::string(c == 3 || c == 6 ? " | " : c ? " " : "") + text[size_t(9 * r + c)];
+        grid += "\n";
+    }
+    Press("CommandMake");
+    QApplication::clipboard()->setText(QString::fromStdString(grid));
+    line->setFocus();
+    line->paste();
+    QApplication::processEvents();
+    EXPECT_EQ(game->board().CurrentGrid, record.puzzle);
 }
 
 // Clues typed on the board while making go in as clicks on marks do: the digit at

@@ -8,6 +8,7 @@
 #include <sstream>
 
 #include "grid/candidates.h"
+#include "library/foreign_puzzles.h"
 #include "library/library_files.h"
 #include "library/library_pair.h"
 #include "library/library_setup.h"
@@ -16,7 +17,6 @@
 #include "support/boards.h"
 #include "support/game_fixture.h"
 #include "workbench/duplicates.h"
-#include "workbench/foreign_puzzles.h"
 #include "workbench/import.h"
 
 namespace tavi {
@@ -105,6 +105,42 @@ TEST(ForeignPuzzles, LinesCandidatesAndGridsWithTheirProblems) {
     EXPECT_EQ(read.problems[2].line, 19);
 }
 
+// The files collectors keep: a byte order mark, numbered lines, a rating or a
+// name before the puzzle, digits with blanks between them, and comments after
+// ';' or "//". Over many puzzles, each layout gives back the puzzle written.
+TEST(ForeignPuzzles, TheFilesCollectorsHave) {
+    const auto& puzzles = testing::GeneratedPuzzles(40, 3);
+    std::string text = "\xEF\xBB\xBF";
+    for (std::size_t i = 0; i < puzzles.size(); ++i) {
+        const std::string line = FormatDigits(puzzles[i].puzzle, i % 2 ? '.' : '0');
+        std::string spaced;
+        for (char ch : line)
+            spaced += std::string(spaced.empty() ? "" : " ") + ch;
+        switch (i % 6) {
+            case 0: text += line + "\n"; break;  // the first line, behind the mark
+            case 1: text += std::to_string(i + 1) + ". " + line + "\n"; break;
+            case 2: text += std::to_string(i + 1) + ")\t" + line + " #" + "\n"; break;
+            case 3: text += "8.4 Name-" + std::to_string(i) + " " + line + "\n"; break;
+            case 4: text += spaced + "\n"; break;
+            case 5: text += "; a comment\n// another\n  ;indented\n" + line + "\n"; break;
+        }
+    }
+    // Two fields of 81 cells: which is the puzzle can't be told.
+    text += "Name " + FormatDigits(puzzles[1].puzzle, '.') + " " +
+            FormatDigits(puzzles[2].puzzle, '.') + "\n";
+    std::istringstream in(text);
+    int lines = 0;
+    std::vector<Digits> read;
+    std::vector<int> problems;
+    ReadForeignPuzzles(
+        in, [&](const ForeignPuzzle& p) { return read.push_back(p.puzzle), true; },
+        [&](const ForeignProblem& p) { problems.push_back(p.line); }, &lines);
+    ASSERT_EQ(read.size(), puzzles.size());
+    for (std::size_t i = 0; i < puzzles.size(); ++i)
+        EXPECT_EQ(read[i], puzzles[i].puzzle) << "puzzle " << i;
+    EXPECT_EQ(problems, std::vector<int>{lines});
+}
+
 // A data folder with libraries made of generated puzzles sorted by their rating.
 class WorkbenchTest : public ::testing::Test {
   public:
@@ -159,13 +195,22 @@ TEST_F(WorkbenchTest, ABatchThatMovesEveryRecordDeletesTheFiles) {
     EXPECT_EQ(prompter.shown.back().text, "No Hard sudokus found to open");
 }
 
-TEST_F(WorkbenchTest, AnOutlawPuzzleThatStillFailsIsCountedNowhere) {
+// Puzzles with no solution or several are not rated: they stay where they are,
+// counted in none of the report's counters, and named under their own heading.
+TEST_F(WorkbenchTest, PuzzlesWithoutOneSolutionStayAndAreNamedApart) {
     Add(9, Broken(0));
     Add(9, easy[0]);
     Add(9, Broken(1));
+    Add(9, {testing::DeadCell(), Digits{}});
     Open(9).CommandCheckAll();
-    EXPECT_EQ(prompter.shown.back().text, "1 sudokus solved and rerated.");
-    EXPECT_EQ(Count(9), 2);
+    EXPECT_EQ(prompter.shown.back().text,
+              "1 sudokus solved and rerated.\nNo unique solution, not rated and left where they "
+              "stand:\n1 without a solution (record 4)\n2 with several solutions (records 1 and "
+              "3)");
+    EXPECT_EQ(bench.NotUnique(), 3);
+    EXPECT_EQ(Count(9), 3);
+    EXPECT_EQ(At(9, 1), (SudokuRecord{Broken(0).puzzle, Broken(0).solution, 0, 0}))
+        << "not rated, and not rewritten";
     EXPECT_EQ(Count(1), 1);
     EXPECT_EQ(At(1, 1), (SudokuRecord{easy[0].puzzle, easy[0].solution, 0, 0}));
 }
@@ -175,6 +220,7 @@ TEST_F(WorkbenchTest, AnAbortAfterTheThirdOfTenTreatsOnlyThree) {
     for (int i = 0; i < 10; ++i)
         Add(3, i < 5 ? easy[i] : Broken(i));
     Open(3);
+    bench.SetRedrawEvery(std::chrono::milliseconds(0));
     bench.SetYield([&] {
         if (bench.progress().Bar1 == 3) bench.CommandAbort();
     });
@@ -190,16 +236,21 @@ TEST_F(WorkbenchTest, AnAbortAfterTheThirdOfTenTreatsOnlyThree) {
 TEST_F(WorkbenchTest, SolveRatesInPlaceOrMovesAndDeleteOfTheOnlyRecordLeavesNoFile) {
     Add(1, easy[0]);
     Add(1, Broken(0));
+    Add(1, other[0]);
     Open(1).CommandSolve();
     EXPECT_TRUE(prompter.Showed("Sudoku solved and rated as Easy"));
-    EXPECT_EQ(Count(1), 2);
+    EXPECT_EQ(Count(1), 3);
     bench.CommandNext();
     bench.CommandSolve();
     EXPECT_EQ(prompter.shown.back().text,
-              "This Sudoku could not be solved by the program and is rated as Outlaw!");
-    EXPECT_EQ(Count(1), 1);
-    EXPECT_EQ(Count(9), 1);
-    EXPECT_EQ(bench.CurrentNumber(1), 1) << "the last record is shown";
+              "This Sudoku has more than one solution: it is not rated and stays where it is.");
+    EXPECT_EQ(Count(1), 3);
+    EXPECT_EQ(Count(9), 0);
+    bench.CommandNext();
+    bench.CommandSolve();
+    EXPECT_EQ(Count(1), 2) << "a puzzle of another level moves";
+    EXPECT_EQ(bench.CurrentNumber(1), 2) << "the last record is shown";
+    bench.CommandDelete();
     bench.CommandDelete();
     EXPECT_FALSE(fs::exists(PuzzleFile(root, LevelStem(1))));
     EXPECT_FALSE(fs::exists(LogFile(root, LevelStem(1))));
@@ -246,8 +297,13 @@ TEST_F(WorkbenchTest, ImportRatesChecksAndFilesEachPuzzleByItsLevel) {
     EXPECT_EQ(Count(1), 2 + (level == 1));
     std::string levels = level == 1 ? "2 Easy" : "1 Easy, 1 " + std::string(LevelName(level));
     EXPECT_EQ(report.Text(), "2 sudokus imported: " + levels +
-                                 ". Rejected: 1 without a solution, 1 with several solutions, 2 "
-                                 "already in the library, 1 malformed (line 5).");
+                                 ". Rejected: 1 without a solution (line 3), 1 with several "
+                                 "solutions (line 4), 2 already in the library (lines 1, 7), 1 "
+                                 "malformed (line 5).");
+    EXPECT_EQ(report.FullList(),
+              "line 3\twithout a solution\nline 4\twith several solutions\nline 1\talready in "
+              "the library\nline 7\talready in the library\nline 5\tmalformed: no puzzle and no "
+              "row of nine cells\n");
     EXPECT_EQ(At(1, 2).Solution, easy[2].solution);
 }
 
@@ -333,8 +389,8 @@ TEST_F(WorkbenchTest, FailedMovesAreCountedInTheReportNotBoxedOneByOne) {
                           "were.\n5 file errors:\n"),
               std::string::npos)
         << report;
-    EXPECT_EQ(Count(3), 5) << "the Outlaw puzzle moved, the Easy ones stayed";
-    EXPECT_EQ(Count(9), 1);
+    EXPECT_EQ(Count(3), 6) << "the Easy ones stayed, and the one without a unique solution";
+    EXPECT_EQ(Count(9), 0);
     EXPECT_EQ(bench.FileErrors(), 5);
 }
 
@@ -358,6 +414,34 @@ TEST_F(WorkbenchTest, AnEmptiedLevelStaysEmptyAndTakesMovesIn) {
     ASSERT_EQ(Count(1), 2);
     EXPECT_EQ(WholeRecords(LogFile(root, LevelStem(1)), kSudokuLogRecordSize), 2);
     EXPECT_EQ(At(1, 2).Puzzle, easy[1].puzzle);
+}
+
+}  // namespace
+}  // namespace tavi
+
+namespace tavi {
+namespace {
+
+// Export writes the records of a range, '.' for empty cells and the level after
+// each, and the import reads the file back as the same puzzles.
+TEST_F(WorkbenchTest, ExportWritesWhatTheImportReadsBack) {
+    for (int i = 0; i < 12; ++i)
+        Add(2, other[i]);
+    Open(2).CommandExport(root / "out.txt", 3, 10);
+    EXPECT_EQ(prompter.shown.back().text, "8 Medium sudokus exported to out.txt.");
+    std::ifstream in(root / "out.txt");
+    std::vector<std::string> lines;
+    for (std::string line; std::getline(in, line);)
+        lines.push_back(line);
+    ASSERT_EQ(lines.size(), 8u);
+    EXPECT_EQ(lines[0], FormatDigits(other[2].puzzle, '.') + "\t2\tMedium");
+    in.clear();
+    in.seekg(0);
+    const ForeignPuzzles read = ReadForeignPuzzles(in);
+    ASSERT_EQ(read.puzzles.size(), 8u);
+    for (int i = 0; i < 8; ++i)
+        EXPECT_EQ(read.puzzles[size_t(i)].puzzle, other[size_t(i + 2)].puzzle);
+    EXPECT_TRUE(read.problems.empty());
 }
 
 }  // namespace

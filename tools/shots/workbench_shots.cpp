@@ -33,6 +33,7 @@ TEST(WorkbenchShots, OpenRunningAndTheReport) {
     window.Model().Command1(3);
     Shot(window, "workbench-open");
     bool shot = false;
+    window.Model().SetRedrawEvery(std::chrono::milliseconds(0));
     window.Model().SetYield([&] {
         if (!shot && window.Model().progress().Bar1 == 12) {
             shot = true;

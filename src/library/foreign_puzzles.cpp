@@ -1,4 +1,4 @@
-#include "workbench/foreign_puzzles.h"
+#include "library/foreign_puzzles.h"
 
 #include <string_view>
 
@@ -51,6 +51,29 @@ bool ReadCandidates(std::string_view text, Digits& digits) {
     return true;
 }
 
+// The one blank-separated field of exactly 81 cells, when there is exactly one.
+bool ReadOneField(std::string_view text, Digits& digits) {
+    int found = 0;
+    std::size_t at = 0;
+    while (at < text.size()) {
+        const std::size_t begin = text.find_first_not_of(" \t", at);
+        if (begin == std::string_view::npos) break;
+        std::size_t end = text.find_first_of(" \t", begin);
+        if (end == std::string_view::npos) end = text.size();
+        Digits field{};
+        if (end - begin == 81 && ReadCells(text.substr(begin), field)) {
+            if (++found > 1) return false;
+            digits = field;
+        }
+        at = end;
+    }
+    return found == 1;
+}
+
+bool IsComment(std::string_view text) {
+    return text.starts_with('#') || text.starts_with(';') || text.starts_with("//");
+}
+
 bool IsBinaryText(std::string_view text) {
     for (const char ch : text) {
         const auto u = static_cast<unsigned char>(ch);
@@ -62,9 +85,17 @@ bool IsBinaryText(std::string_view text) {
 }  // namespace
 
 void ReadForeignPuzzles(std::istream& in, const std::function<bool(const ForeignPuzzle&)>& each,
-                        const std::function<void(const ForeignProblem&)>& problem) {
+                        const std::function<void(const ForeignProblem&)>& problem, int* lines) {
+    int number = 0;
+    struct Count {
+        int* lines;
+        const int& number;
+        ~Count() {
+            if (lines) *lines = number;
+        }
+    } count{lines, number};
     Digits grid{};
-    int rows = 0, gridLine = 0, number = 0;
+    int rows = 0, gridLine = 0;
     auto unfinishedGrid = [&] {
         if (rows > 0)
             problem({gridLine, "a grid of " + std::to_string(rows) + " rows; a grid needs 9"});
@@ -73,6 +104,7 @@ void ReadForeignPuzzles(std::istream& in, const std::function<bool(const Foreign
     std::string text;
     for (LineRead read; (read = ReadBoundedLine(in, text)) != LineRead::End;) {
         ++number;
+        if (number == 1 && text.starts_with("\xEF\xBB\xBF")) text.erase(0, 3);
         if (IsBinaryText(text)) {
             unfinishedGrid();
             problem({number, "binary data, not puzzle lines; reading stops"});
@@ -86,13 +118,13 @@ void ReadForeignPuzzles(std::istream& in, const std::function<bool(const Foreign
             continue;
         }
         const size_t first = text.find_first_not_of(" \t");
-        if (first == std::string::npos || text[first] == '#') {
+        if (first == std::string::npos || IsComment(std::string_view(text).substr(first))) {
             unfinishedGrid();
             continue;
         }
         Digits digits{};
         if ((text.size() >= 729 && ReadCandidates(text, digits)) ||
-            (text.size() >= 81 && ReadCells(text, digits))) {
+            (text.size() >= 81 && ReadCells(text, digits)) || ReadOneField(text, digits)) {
             unfinishedGrid();
             if (!each({number, digits})) return;
             continue;
@@ -106,6 +138,14 @@ void ReadForeignPuzzles(std::istream& in, const std::function<bool(const Foreign
             cells += ch;
         }
         if (cells.empty()) continue;
+        if (!bad && cells.size() == 81) {
+            // The cells of a whole puzzle with separators between them.
+            unfinishedGrid();
+            for (int i = 0; i < 81; ++i)
+                digits[i] = std::uint8_t(CellValue(cells[size_t(i)]));
+            if (!each({number, digits})) return;
+            continue;
+        }
         if (bad || cells.size() != 9) {
             unfinishedGrid();
             problem({number, "no puzzle and no row of nine cells"});
