@@ -4,9 +4,9 @@
 // keeps every puzzle once.
 #include <benchmark/benchmark.h>
 
-#include "puzzle_sets.h"
 #include "cli/library_build.h"
 #include "grid/levels.h"
+#include "puzzle_sets.h"
 #include "solver/canonical_form.h"
 #include "solver/hard_search.h"
 

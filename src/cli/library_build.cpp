@@ -61,7 +61,8 @@ class SearchWorker {
         : plan_(plan), search_(wantedLevel, kFindsPerWalk), pool_(pool) {}
     WalkReport operator()(long k) {
         return search_.Walk(pool_[std::size_t(k) % std::min(pool_.size(), kWalkStarts)],
-                            plan_.start * 0x100000001b3ULL + std::uint64_t(k), plan_.ratingsPerWalk);
+                            plan_.start * 0x100000001b3ULL + std::uint64_t(k),
+                            plan_.ratingsPerWalk);
     }
 
   private:
@@ -149,7 +150,9 @@ LibraryPuzzles MakeLibraryPuzzles(const LibraryPlan& plan) {
     Collection library(plan);
     const auto start = Clock::now();
     const auto limit = std::chrono::duration<double>(plan.minutes * 60);
-    const auto elapsed = [&] { return std::chrono::duration<double>(Clock::now() - start).count(); };
+    const auto elapsed = [&] {
+        return std::chrono::duration<double>(Clock::now() - start).count();
+    };
     const auto timeLeft = [&] { return Clock::now() - start < limit; };
     // Random levels count from the start, the search's from the start of the search.
     std::array<double, 10> begun{};

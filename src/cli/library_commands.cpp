@@ -205,9 +205,9 @@ int BuildLibrary(const BuildOptions& options, std::ostream& out, std::ostream& e
         << " per second\n";
     const SearchTally& t = made.search;
     if (t.walks)
-        out << "searched\t" << t.walks << " walks\t" << t.seconds << " s\ttried " << t.tried
-            << " (" << rate(double(t.tried), t.seconds) << " per second)\tone solution "
-            << t.unique << "\tkept " << t.kept << " (" << rate(double(t.kept), t.seconds)
+        out << "searched\t" << t.walks << " walks\t" << t.seconds << " s\ttried " << t.tried << " ("
+            << rate(double(t.tried), t.seconds) << " per second)\tone solution " << t.unique
+            << "\tkept " << t.kept << " (" << rate(double(t.kept), t.seconds)
             << " per second)\trerated " << t.rerated << '\n';
     return status;
 }

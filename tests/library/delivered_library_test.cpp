@@ -23,7 +23,8 @@ const fs::path kDelivered = fs::path(TAVI_TEST_DATA_DIR) / ".." / ".." / "data";
 // At least this many per level. The search has found no Outlaw puzzle yet; the
 // Outlaw file keeps its earlier puzzles meanwhile, since the first run stops on an
 // empty library file, so its puzzles are held to all but their level.
-constexpr std::array<std::size_t, 10> kPromised = {0, 1000, 1000, 1000, 1000, 1000, 1000, 500, 100, 1};
+constexpr std::array<std::size_t, 10> kPromised = {0,    1000, 1000, 1000, 1000,
+                                                   1000, 1000, 500,  100,  1};
 
 TEST(DeliveredLibrary, EveryPuzzleRatesAtItsLevelOnceInTheLibraryEasierFirst) {
     SolveContext ctx(Side::Workbench);

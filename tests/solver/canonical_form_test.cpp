@@ -38,7 +38,9 @@ GridSymmetry RandomSymmetry(std::mt19937& rng) {
     return s;
 }
 
-int Clues(const Digits& d) { return int(std::count_if(d.begin(), d.end(), [](auto v) { return v; })); }
+int Clues(const Digits& d) {
+    return int(std::count_if(d.begin(), d.end(), [](auto v) { return v; }));
+}
 
 TEST(CanonicalForm, EverySymmetryOfAPuzzleGivesTheSameForm) {
     std::mt19937 rng(7);
