@@ -2,13 +2,13 @@
 
 #include <algorithm>
 #include <array>
-#include <chrono>
 #include <fstream>
 #include <iomanip>
 #include <optional>
 #include <sstream>
 
 #include "cli/in_order.h"
+#include "cli/library_build.h"
 #include "cli/puzzle_lines.h"
 #include "grid/candidates.h"
 #include "grid/levels.h"
@@ -18,7 +18,6 @@
 #include "library/pair_guard.h"
 #include "library/record_checks.h"
 #include "solver/generator.h"
-#include "solver/ladder.h"
 #include "solver/solutions.h"
 #include "workbench/duplicates.h"
 
@@ -29,13 +28,6 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr int kUsageError = kExitBadInput;
-
-// The level the workbench gives a puzzle: the ladder's, Outlaw when it fails.
-int RateForLibrary(SolveContext& ctx, const Digits& puzzle) {
-    ctx.board = BoardFromPuzzle(puzzle);
-    ctx.SolvingLevel = 0;
-    return SolveSudoku(ctx, WorkbenchRun{}) ? ctx.SolvingLevel : kOutlaw;
-}
 
 std::string BestTime(const SudokuRecord& r) {
     std::ostringstream s;
@@ -117,26 +109,6 @@ class NumberedGenerator {
     long next_ = 0;
 };
 
-// A generated puzzle with the level the library gives it.
-struct RatedPuzzle {
-    GeneratedPuzzle puzzle;
-    int level = 0;
-};
-
-class RatingGenerator {
-  public:
-    explicit RatingGenerator(std::uint64_t start) : generator_(start) {}
-    RatedPuzzle operator()(long i) {
-        RatedPuzzle r{generator_(i), 0};
-        r.level = RateForLibrary(ctx_, r.puzzle.puzzle);
-        return r;
-    }
-
-  private:
-    NumberedGenerator generator_;
-    SolveContext ctx_{Side::Workbench};
-};
-
 // Enough puzzles per batch that starting the threads costs nothing to speak of.
 int GenerationBatch(int threads) { return 16 * threads; }
 
@@ -150,6 +122,30 @@ std::optional<std::uint64_t> StartValue(const Arguments& a) {
     if (!a.Get("start")) return 1;
     const auto n = Number(a.Get("start"), 0);
     return n ? std::optional<std::uint64_t>(std::uint64_t(*n)) : std::nullopt;
+}
+
+// --per-level N (every level) or --counts N1,...,N9 (level by level), one of them.
+std::optional<std::array<long, 10>> LevelCounts(const Arguments& a) {
+    const auto perLevel = a.Get("per-level"), list = a.Get("counts");
+    if (bool(perLevel) == bool(list)) return std::nullopt;
+    std::array<long, 10> counts{};
+    if (perLevel) {
+        const auto n = Number(perLevel, 1);
+        if (!n) return std::nullopt;
+        counts.fill(long(*n));
+        counts[0] = 0;
+        return counts;
+    }
+    std::istringstream in(*list);
+    std::string field;
+    int level = 0;
+    while (std::getline(in, field, ',')) {
+        const auto n = Number(field, 0);
+        if (!n || ++level > kLevelCount) return std::nullopt;
+        counts[level] = long(*n);
+    }
+    if (level != kLevelCount) return std::nullopt;
+    return counts;
 }
 
 int Problem(std::ostream& err, const std::string& text) {
@@ -175,40 +171,52 @@ int BuildLibrary(const BuildOptions& options, std::ostream& out, std::ostream& e
     if (!fs::is_directory(options.out, ec))
         return Problem(err, "can't make the folder " + options.out.string());
 
-    std::array<std::vector<SudokuRecord>, 10> levels;
-    const auto start = std::chrono::steady_clock::now();
-    const auto limit = std::chrono::duration<double>(options.minutes * 60);
-    int full = 0;
-    // The puzzles are taken in the order of the generator, so the library is the
-    // same for any number of threads; only the time limit can cut it short.
-    const long made = RunInOrder<RatedPuzzle>(
-        -1, options.threads, GenerationBatch(options.threads),
-        [&] { return RatingGenerator(options.start); },
-        [&](long, const RatedPuzzle& r) {
-            auto& level = levels[r.level];
-            if (long(level.size()) < options.perLevel) {
-                level.push_back({r.puzzle.puzzle, r.puzzle.solution, 0, 0});
-                if (long(level.size()) == options.perLevel) ++full;
-            }
-            return full < kLevelCount && std::chrono::steady_clock::now() - start < limit;
-        });
+    LibraryPlan plan;
+    plan.wanted = options.counts;
+    plan.start = options.start;
+    plan.minutes = options.minutes;
+    plan.threads = options.threads;
+    plan.walks = options.walks;
+    const LibraryPuzzles made = MakeLibraryPuzzles(plan);
 
     int status = 0;
+    const auto rate = [](double count, double seconds) {
+        std::ostringstream s;
+        s << std::fixed << std::setprecision(1) << (seconds > 0 ? count / seconds : 0.0);
+        return s.str();
+    };
     for (int level = 1; level <= kLevelCount; ++level) {
         std::string why;
         // Each puzzle file with its log of empty records, so the folder is a
         // library that checks and plays at once.
         const std::string_view stem = LevelStem(level);
-        if (!WriteSudokuFile(PuzzleFile(options.out, stem), levels[level], &why)) {
+        const auto& records = made.levels[level];
+        if (!WriteSudokuFile(PuzzleFile(options.out, stem), records, &why)) {
             err << "tavi-sudoku-cli: " << why << '\n';
             status = kUsageError;
-        } else if (!MakeEmptyLog(LogFile(options.out, stem), long(levels[level].size()))) {
+        } else if (!MakeEmptyLog(LogFile(options.out, stem), long(records.size()))) {
             err << "tavi-sudoku-cli: can't write " << LogFile(options.out, stem).string() << '\n';
             status = kUsageError;
         }
-        out << LevelName(level) << '\t' << levels[level].size() << '\n';
+        // Level, count, where they came from, the seconds until the level was
+        // full (or its part of the build ended), and how fast they came.
+        const double seconds = made.seconds[level];
+        out << LevelName(level) << '\t' << records.size() << '\t'
+            << (made.searched[level] ? "search" : "random") << '\t' << std::fixed
+            << std::setprecision(1) << seconds << " s\t"
+            << (made.searched[level] ? rate(3600.0 * double(records.size()), seconds) + " per hour"
+                                     : rate(double(records.size()), seconds) + " per second")
+            << '\n';
     }
-    out << "generated\t" << made << '\n';
+    out << "generated\t" << made.generated << '\t' << std::fixed << std::setprecision(1)
+        << made.randomSeconds << " s\t" << rate(double(made.generated), made.randomSeconds)
+        << " per second\n";
+    const SearchTally& t = made.search;
+    if (t.walks)
+        out << "searched\t" << t.walks << " walks\t" << t.seconds << " s\ttried " << t.tried << " ("
+            << rate(double(t.tried), t.seconds) << " per second)\tone solution " << t.unique
+            << "\tkept " << t.kept << " (" << rate(double(t.kept), t.seconds)
+            << " per second)\trerated " << t.rerated << '\n';
     return status;
 }
 
@@ -334,23 +342,28 @@ int GenerateCommand(const std::vector<std::string>& args, std::ostream& out, std
 int LibraryCommand(const std::vector<std::string>& args, std::ostream& out, std::ostream& err) {
     const std::string action = args.size() > 1 ? args[1] : "";
     if (action == "build") {
-        const Arguments a = Parse(args, 2, {"out", "per-level", "start", "minutes", "threads"});
+        const Arguments a =
+            Parse(args, 2, {"out", "per-level", "counts", "start", "minutes", "threads", "walks"});
         if (!a.problem.empty()) return Problem(err, a.problem);
         BuildOptions options;
-        const auto perLevel = Number(a.Get("per-level"), 1);
+        const auto counts = LevelCounts(a);
         const auto start = StartValue(a);
         const auto minutes = a.Get("minutes") ? Minutes(a.Get("minutes")) : options.minutes;
-        if (!a.Get("out") || !perLevel || !a.positional.empty())
-            return Problem(err, "library build needs --out DIR and --per-level N");
+        const auto walks = a.Get("walks") ? Number(a.Get("walks"), 0) : -1;
+        if (!a.Get("out") || !counts || !a.positional.empty())
+            return Problem(err,
+                           "library build needs --out DIR and --per-level N or --counts N1,...,N9");
         if (!start) return Problem(err, kStartProblem);
         if (!minutes) return Problem(err, "--minutes needs a number above 0");
+        if (!walks) return Problem(err, "--walks needs a whole number of at least 0");
         const auto threads = Threads(a.Get("threads"));
         if (!threads) return Problem(err, kThreadsProblem);
         options.threads = *threads;
         options.out = *a.Get("out");
-        options.perLevel = long(*perLevel);
+        options.counts = *counts;
         options.start = *start;
         options.minutes = *minutes;
+        options.walks = long(*walks);
         return BuildLibrary(options, out, err);
     }
     if (action == "export") {

@@ -4,6 +4,7 @@
 // command could not do its work.
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <filesystem>
 #include <istream>
@@ -19,14 +20,16 @@ int Generate(long count, std::uint64_t start, std::ostream& out, int threads = 1
 
 struct BuildOptions {
     std::filesystem::path out;
-    long perLevel = 0;
-    std::uint64_t start = 1;  // of the random numbers
-    double minutes = 10;      // stop after this long even when levels are short
-    int threads = 1;          // the same library whatever the number, time allowing
+    std::array<long, 10> counts{};  // puzzles wanted per level 1..9
+    std::uint64_t start = 1;        // of the random numbers
+    double minutes = 10;            // stop after this long even when levels are short
+    int threads = 1;                // the same library whatever the number, time allowing
+    long walks = -1;                // walks of the search for hard puzzles at most; -1 no limit
 };
-// Generates and rates puzzles until every level has `perLevel` of them or the
-// time is up, then writes the nine `.sds` files (best time 0) and reports the
-// count per level.
+// Generates and rates puzzles until every level has its count, the levels that
+// random puzzles do not reach filled by the search for hard puzzles, or until the
+// time is up; then writes the nine `.sds` files (best time 0) and reports per
+// level the count, where the puzzles came from and how long they took.
 int BuildLibrary(const BuildOptions& options, std::ostream& out, std::ostream& err);
 
 // One line per record: puzzle, tab, solution, tab, best time as m:ss. Damaged

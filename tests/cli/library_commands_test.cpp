@@ -30,6 +30,7 @@ Output RunCommand(int (*command)(const std::vector<std::string>&, std::ostream&,
     return {status, out.str(), err.str()};
 }
 
+using tavi::testing::Fields;
 using tavi::testing::Lines;
 
 TEST(CliGenerate, TheSameStartValueGivesTheSameMinimalUniquePuzzles) {
@@ -70,7 +71,7 @@ TEST(CliGenerate, TheNumberOfThreadsDoesNotChangeThePuzzles) {
 TEST(CliLibrary, BuildWritesNineRatedFilesAndReportsTheCounts) {
     TempDir dir;
     const Output o = RunCommand(LibraryCommand, {"library", "build", "--out", dir.path().string(),
-                                                 "--per-level", "2", "--minutes", "0.05"});
+                                                 "--per-level", "2", "--walks", "0"});
     EXPECT_EQ(o.status, 0) << o.err;
     const auto lines = Lines(o.out);
     ASSERT_EQ(lines.size(), 10u) << o.out;
@@ -79,9 +80,14 @@ TEST(CliLibrary, BuildWritesNineRatedFilesAndReportsTheCounts) {
         ASSERT_TRUE(FileExists(sds)) << level;
         std::vector<SudokuRecord> records;
         ASSERT_TRUE(ReadSudokuFile(sds, records));
-        EXPECT_LE(records.size(), 2u);
-        EXPECT_EQ(lines[level - 1],
-                  std::string(LevelName(level)) + "\t" + std::to_string(records.size()));
+        // Random puzzles fill Easy to Extreme; with no walks allowed the levels
+        // above stay empty.
+        EXPECT_EQ(records.size(), level <= 7 ? 2u : 0u);
+        const auto fields = Fields(lines[level - 1]);
+        ASSERT_EQ(fields.size(), 5u) << lines[level - 1];
+        EXPECT_EQ(fields[0], LevelName(level));
+        EXPECT_EQ(fields[1], std::to_string(records.size()));
+        EXPECT_EQ(fields[2], "random");  // no level was searched
         for (const SudokuRecord& r : records) {
             const SolutionCount s = Solutions(r.Puzzle);
             EXPECT_EQ(s.count, 1);
@@ -91,8 +97,21 @@ TEST(CliLibrary, BuildWritesNineRatedFilesAndReportsTheCounts) {
         EXPECT_EQ(fs::file_size(LogFile(dir.path(), LevelStem(level))),
                   records.size() * kSudokuLogRecordSize);
     }
-    // Easy puzzles come often enough to fill their two places at once.
-    EXPECT_EQ(lines[0], "Easy\t2");
+    EXPECT_EQ(Fields(lines[9])[0], "generated");
+
+    // The counts level by level; a list that is not nine whole numbers is refused.
+    const Output counted =
+        RunCommand(LibraryCommand, {"library", "build", "--out", dir.path().string(), "--counts",
+                                    "1,0,0,0,0,0,0,0,0"});
+    EXPECT_EQ(counted.status, 0) << counted.err;
+    EXPECT_EQ(Lines(counted.out)[0].substr(0, 7), "Easy\t1\t");
+    EXPECT_EQ(Lines(counted.out)[1].substr(0, 9), "Medium\t0\t");
+    for (const char* bad : {"1,2,3", "1,2,3,4,5,6,7,8,9,10", "1,2,x,4,5,6,7,8,9"})
+        EXPECT_EQ(RunCommand(LibraryCommand, {"library", "build", "--out", dir.path().string(),
+                                              "--counts", bad})
+                      .status,
+                  2)
+            << bad;
 }
 
 TEST(CliLibrary, ImportAppendsWithSolutionsAndSkipsBadLinesByNumber) {

@@ -1,0 +1,79 @@
+// The puzzles of `library build`: every level holds puzzles of its own level only,
+// of one solution, each once up to the grid's symmetries, easier ones first; and
+// the same start value gives the same library on one thread or two, search included.
+#include "cli/library_build.h"
+
+#include <gtest/gtest.h>
+
+#include <set>
+
+#include "grid/levels.h"
+#include "solver/canonical_form.h"
+#include "solver/hard_search.h"
+#include "solver/solutions.h"
+
+namespace tavi::cli {
+namespace {
+
+LibraryPuzzles Build(int threads) {
+    LibraryPlan plan;
+    plan.wanted = {0, 12, 12, 12, 12, 12, 12, 6, 2, 1};
+    plan.start = 77;
+    plan.threads = threads;
+    plan.walks = 3;
+    plan.ratingsPerWalk = 8;
+    return MakeLibraryPuzzles(plan);
+}
+
+TEST(LibraryBuild, LevelsHoldTheirOwnPuzzlesOnceEasierFirstTheSameOnAnyNumberOfThreads) {
+    const LibraryPuzzles one = Build(1);
+    SolveContext ctx(Side::Workbench);
+    std::set<Digits> forms;
+    std::size_t total = 0;
+    for (int level = 1; level <= kLevelCount; ++level) {
+        const auto& records = one.levels[level];
+        EXPECT_EQ(one.searched[level], level >= 8) << level;
+        if (level <= 7) {
+            EXPECT_EQ(long(records.size()), level == 7 ? 6 : 12) << level;
+        }
+        auto previous = LadderRating{}.Depth();
+        for (const SudokuRecord& r : records) {
+            const SolutionCount s = Solutions(r.Puzzle);
+            EXPECT_EQ(s.count, 1);
+            EXPECT_EQ(r, (SudokuRecord{r.Puzzle, s.first, 0, 0}));
+            const LadderRating rating = RateOnLadder(ctx, r.Puzzle);
+            EXPECT_EQ(rating.level, level) << FormatDigits(r.Puzzle);
+            EXPECT_GE(rating.Depth(), previous) << LevelName(level);
+            previous = rating.Depth();
+            forms.insert(CanonicalForm(r.Puzzle));
+            ++total;
+        }
+    }
+    EXPECT_EQ(forms.size(), total);
+    EXPECT_GT(one.generated, 0);
+    EXPECT_EQ(one.search.walks, 3);  // two Mayhem and an Outlaw are not found so soon
+    EXPECT_GT(one.search.unique, 0);
+    EXPECT_LE(one.search.unique, 3 * 8);
+    EXPECT_LE(one.search.unique, one.search.tried);
+    EXPECT_LE(one.search.kept, one.search.unique);
+
+    const LibraryPuzzles two = Build(2);
+    EXPECT_EQ(two.generated, one.generated);
+    EXPECT_EQ(two.search.tried, one.search.tried);
+    for (int level = 1; level <= kLevelCount; ++level)
+        EXPECT_EQ(two.levels[level], one.levels[level]) << level;
+}
+
+TEST(LibraryBuild, ALevelNobodyWantsStaysEmptyAndNoSearchRunsWhenTheRandomLevelsSuffice) {
+    LibraryPlan plan;
+    plan.wanted = {0, 3, 0, 2, 0, 0, 0, 0, 0, 0};
+    plan.start = 5;
+    const LibraryPuzzles made = MakeLibraryPuzzles(plan);
+    for (int level = 1; level <= kLevelCount; ++level)
+        EXPECT_EQ(long(made.levels[level].size()), plan.wanted[level]) << level;
+    EXPECT_EQ(made.search.walks, 0);
+    EXPECT_FALSE(made.searched[8]);
+}
+
+}  // namespace
+}  // namespace tavi::cli

@@ -1,0 +1,89 @@
+// The rating with its measures, and walks of the search for hard puzzles: what a
+// walk reports holds for every find, and a walk is fixed by its start and seed.
+#include "solver/hard_search.h"
+
+#include <gtest/gtest.h>
+
+#include <set>
+
+#include "grid/candidates.h"
+#include "solver/ladder.h"
+#include "solver/solutions.h"
+#include "support/puzzles.h"
+
+namespace tavi {
+namespace {
+
+TEST(HardSearch, TheRatingIsThePlainLaddersAndItsMeasuresFitTheLevel) {
+    SolveContext ctx(Side::Workbench), plain(Side::Workbench);
+    for (const GeneratedPuzzle& g : testing::GeneratedPuzzles(300)) {
+        const LadderRating r = RateOnLadder(ctx, g.puzzle);
+        plain.board = BoardFromPuzzle(g.puzzle);
+        const int level = SolveSudoku(plain, WorkbenchRun{}) ? plain.SolvingLevel : 9;
+        ASSERT_EQ(r.level, level) << FormatDigits(g.puzzle);
+        EXPECT_EQ(LadderRungs()[r.hardestRung].level, r.level);
+        EXPECT_LE(r.stepsBeyondHead, r.stepsBeyondSingles);
+        EXPECT_LE(r.stepsBeyondSingles, r.steps);
+        EXPECT_GE(r.stepsAtLevel, 1);
+        // The head of the ladder rates Easy to Hard; every step beyond it is Crazy
+        // or harder, and Easy needs nothing but singles.
+        EXPECT_EQ(r.stepsBeyondHead > 0, r.level >= 4);
+        EXPECT_EQ(r.stepsBeyondSingles > 0, r.level >= 2);
+        EXPECT_EQ(r.cellsLeft, 0);
+        EXPECT_EQ(r.pairsAtLastRung, 0);  // Bifurcation is never reached below Mayhem
+    }
+}
+
+// The first generated puzzle that rates at least Kamikaze, to walk from.
+const GeneratedPuzzle& HardStart() {
+    SolveContext ctx(Side::Workbench);
+    for (const GeneratedPuzzle& g : testing::GeneratedPuzzles(300))
+        if (RateOnLadder(ctx, g.puzzle).level >= 6) return g;
+    throw std::runtime_error("no Kamikaze puzzle among the test puzzles");
+}
+
+TEST(HardSearch, AWalkFindsPuzzlesOfOneSolutionAtTheWantedLevelAndRepeatsItself) {
+    const Digits start = HardStart().puzzle;
+    SolveContext ctx(Side::Workbench);
+    const int wanted = RateOnLadder(ctx, start).level;
+    HardPuzzleSearch search(wanted, 1000);
+    const WalkReport walk = search.Walk(start, 11, 40);
+    // Forty rated, unless fifty times as many candidates were made first.
+    EXPECT_TRUE(walk.unique == 40 || (walk.unique < 40 && walk.tried == 50 * 40)) << walk.unique;
+    EXPECT_GE(walk.tried, walk.unique);
+    EXPECT_LE(walk.kept, walk.unique);
+    ASSERT_FALSE(walk.finds.empty());
+    std::set<Digits> seen;
+    for (const SearchFind& f : walk.finds) {
+        EXPECT_TRUE(seen.insert(f.puzzle).second);
+        EXPECT_NE(f.puzzle, start);
+        const SolutionCount s = Solutions(f.puzzle);
+        EXPECT_EQ(s.count, 1);
+        EXPECT_EQ(s.first, f.solution);
+        const LadderRating fresh = RateOnLadder(ctx, f.puzzle);
+        EXPECT_GE(fresh.level, wanted);
+        EXPECT_EQ(fresh.Hardness(), f.rating.Hardness());
+    }
+
+    // Another search object, the same start and seed: the same walk. Another seed
+    // goes elsewhere.
+    HardPuzzleSearch again(wanted, 1000);
+    const WalkReport repeat = again.Walk(start, 11, 40);
+    EXPECT_EQ(repeat.tried, walk.tried);
+    EXPECT_EQ(repeat.kept, walk.kept);
+    ASSERT_EQ(repeat.finds.size(), walk.finds.size());
+    for (std::size_t i = 0; i < walk.finds.size(); ++i)
+        EXPECT_EQ(repeat.finds[i].puzzle, walk.finds[i].puzzle);
+    const WalkReport other = again.Walk(start, 12, 40);
+    EXPECT_FALSE(!other.finds.empty() && other.finds[0].puzzle == walk.finds[0].puzzle);
+
+    // A walk caps the finds of a level.
+    HardPuzzleSearch capped(wanted, 2);
+    const WalkReport few = capped.Walk(start, 11, 40);
+    std::array<int, 10> perLevel{};
+    for (const SearchFind& f : few.finds)
+        EXPECT_LE(++perLevel[f.rating.level], 2);
+}
+
+}  // namespace
+}  // namespace tavi
