@@ -11,6 +11,7 @@
 #include "hints/hint_paint.h"
 #include "hints/hint_search.h"
 #include "hints/schrijf_hint.h"
+#include "solver/difficulty_score.h"
 #include "solver/ladder.h"
 #include "solver/solutions.h"
 
@@ -54,6 +55,14 @@ int Rate(std::istream& in, std::ostream& out, std::ostream& err, const RateOptio
             if (ReportClash(p, source, err)) {
                 ++invalid;
                 out << p.text << "\tinvalid\tclashing givens\n";
+                return;
+            }
+            if (options.score) {
+                const PuzzleRating r = RatePuzzleWithScore(ctx, p.digits);
+                ++perLevel[r.level];
+                ++total;
+                out << p.text << '\t' << r.level << '\t' << LevelName(r.level) << '\t'
+                    << FormatScore(r.score) << '\n';
                 return;
             }
             const int level = RatePuzzle(ctx, p.digits, run);

@@ -22,7 +22,9 @@ constexpr const char* kUsage =
     "Blank lines and lines starting with '#' are skipped.\n"
     "\n"
     "commands:\n"
-    "  rate [--summary]   puzzle, level number and level name\n"
+    "  rate [--summary] [--score]\n"
+    "                     puzzle, level number and level name; --score adds the\n"
+    "                     difficulty score with one decimal\n"
     "  solve [--threads N]\n"
     "                     puzzle, unique/none/multiple, and the solution or -;\n"
     "                     N threads (default: every core)\n"
@@ -124,6 +126,8 @@ int main(int argc, char** argv) {
             threads = *n;
         } else if (args[i] == "--summary" && command == "rate")
             rateOptions.summary = true;
+        else if (args[i] == "--score" && command == "rate")
+            rateOptions.score = true;
         else if (args[i] == "--explain" && command == "steps")
             explain = true;
         else if (args[i] == "--all" && command == "states")
