@@ -37,7 +37,7 @@ double StepDifficulty(const Rung& rung, const StepSize& size) {
         // Forcing: two branches that meet at once have a depth of two.
         case 36: return weight + Doubling(size.links, 2, 0.25, 0.9);
         // Bifurcation: every guess that failed is a whole solve tried and undone.
-        case 39: return weight + Doubling(size.trials, 1, 0.4, 2.4);
+        case 39: return weight + Doubling(size.trials, 1, 0.4, 2.3);
         default: return weight;
     }
 }
