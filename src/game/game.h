@@ -24,6 +24,7 @@
 #include "game/hint_flow.h"
 #include "game/library_session.h"
 #include "game/move_log.h"
+#include "game/practice.h"
 #include "game/platform.h"
 #include "hints/hint_paint.h"
 #include "library/library_files.h"
@@ -160,6 +161,14 @@ class Game : private MoveListener {
     void ApplyPaints(const std::vector<HintPaint>& paints);
     // After the colours window: the hint on the board takes the new hint colours.
     void ColoursChanged();
+
+    // --- Practice (game_practice.cpp) -------------------------------------------
+    // Opens record `record` of `level` as a normal game of that level, and marks
+    // the first hint of `technique`. False when the puzzle could not be opened.
+    bool StartPractice(int level, long record, int technique);
+    // Adds a generated puzzle at the end of its level's library and practises it.
+    bool StartPractice(const FoundPuzzle& found, int technique);
+    int PractisedTechnique() const { return practice_.Technique(); }
 
     // --- Options --------------------------------------------------------------
     // After the options window closed: what changed from `before` takes effect
@@ -350,6 +359,7 @@ class Game : private MoveListener {
     GameClock clock_;
     Brushes brushes_;
     HintFlow hints_;
+    PracticeMark practice_;
     CommandStates commands_;
     std::array<std::array<bool, 9>, 10> wells_{};
     bool gridEnabled_ = false;

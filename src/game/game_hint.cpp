@@ -140,6 +140,7 @@ void Game::CommandHint() {
     }
     Speel(kSoundPenalty);
     ShowTechniqueHint();
+    textHint_ = practice_.Marked(hit->number, textHint_);
     Penalty(15);
 }
 
