@@ -47,6 +47,7 @@ bool PuzzleFinished(const SudokuRecord& sudoku, const SudokuLogRecord& log);
 struct PracticePuzzle {
     int level = 0;
     long record = 0;
+    bool operator==(const PracticePuzzle&) const = default;
 };
 // The first puzzle, by level and then record, whose hardest step is `technique`
 // and that the player has not finished. Records that can't be read are passed over.

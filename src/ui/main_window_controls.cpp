@@ -95,6 +95,7 @@ QWidget* MainWindow::BuildCommands() {
         grid->addWidget(button, id / 3, id % 3);
         commands_[id] = button;
     }
+    grid->addWidget(BuildPractise(box), kCommandCount / 3, 0, 1, 3);
     auto on = [this](CommandId id, std::function<void()> run) {
         connect(commands_[id], &QPushButton::clicked, this, [this, run] { Do(run); });
     };
