@@ -4,7 +4,9 @@
 // second.
 #include <benchmark/benchmark.h>
 
+#include "game/practice_index.h"
 #include "grid/candidates.h"
+#include "grid/levels.h"
 #include "puzzle_sets.h"
 #include "solver/difficulty_score.h"
 #include "solver/ladder.h"
@@ -57,6 +59,32 @@ BENCHMARK(BM_RateGenerated)->Iterations(10000);
 BENCHMARK(BM_RateGeneratedWithScore)->Iterations(10000);
 BENCHMARK(BM_RateHardest)->Iterations(375);
 BENCHMARK(BM_RateHardestWithScore)->Iterations(375);
+
+// The practice index of a 7,000-puzzle library on two threads: the first 7,000
+// generated puzzles, then the starter library's nine files as they lie.
+void BM_PracticeIndex7000(benchmark::State& state) {
+    const std::vector<Digits> library(GeneratedSet().begin(), GeneratedSet().begin() + 7000);
+    for (auto _ : state)
+        benchmark::DoNotOptimize(IndexPuzzles(library, 2));
+    state.SetItemsProcessed(state.iterations() * 7000);
+}
+BENCHMARK(BM_PracticeIndex7000)->Iterations(1)->Unit(benchmark::kMillisecond)->UseRealTime();
+
+void BM_PracticeIndexStarterLibrary(benchmark::State& state) {
+    std::vector<Digits> library;
+    for (int level = 1; level <= kLevelCount; ++level)
+        if (auto file = ReadLibraryPuzzles(std::filesystem::path(TAVI_DATA_DIR) /
+                                           (std::string(LevelStem(level)) + "s")))
+            library.insert(library.end(), file->puzzles.begin(), file->puzzles.end());
+    if (library.empty()) return state.SkipWithError("no library");
+    for (auto _ : state)
+        benchmark::DoNotOptimize(IndexPuzzles(library, 2));
+    state.SetItemsProcessed(state.iterations() * long(library.size()));
+}
+BENCHMARK(BM_PracticeIndexStarterLibrary)
+    ->Iterations(1)
+    ->Unit(benchmark::kMillisecond)
+    ->UseRealTime();
 
 }  // namespace
 }  // namespace tavi::bench
