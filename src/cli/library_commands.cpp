@@ -16,6 +16,7 @@
 #include "library/library_pair.h"
 #include "library/library_setup.h"
 #include "library/pair_guard.h"
+#include "solver/difficulty_score.h"
 #include "solver/generator.h"
 #include "solver/ladder.h"
 #include "solver/solutions.h"
@@ -204,7 +205,7 @@ int BuildLibrary(const BuildOptions& options, std::ostream& out, std::ostream& e
     return status;
 }
 
-int ExportLibrary(const fs::path& sdsFile, std::ostream& out, std::ostream& err) {
+int ExportLibrary(const fs::path& sdsFile, std::ostream& out, std::ostream& err, bool score) {
     if (const std::string problem = InputFileProblem(sdsFile); !problem.empty())
         return Problem(err, problem);
     std::vector<SudokuRecord> records;
@@ -212,9 +213,12 @@ int ExportLibrary(const fs::path& sdsFile, std::ostream& out, std::ostream& err)
     std::size_t trailing = 0;
     std::string why;
     if (!ReadSudokuFile(sdsFile, records, &trailing, &why, &damaged)) return Problem(err, why);
-    for (const SudokuRecord& r : records)
-        out << FormatDigits(r.Puzzle) << '\t' << FormatDigits(r.Solution) << '\t' << BestTime(r)
-            << '\n';
+    SolveContext ctx(Side::Workbench);
+    for (const SudokuRecord& r : records) {
+        out << FormatDigits(r.Puzzle) << '\t' << FormatDigits(r.Solution) << '\t' << BestTime(r);
+        if (score) out << '\t' << FormatScore(RatePuzzleWithScore(ctx, r.Puzzle).score);
+        out << '\n';
+    }
     for (const std::string& each : damaged)
         err << sdsFile.string() << ": " << each << " It was left out.\n";
     if (trailing)
@@ -306,10 +310,14 @@ int LibraryCommand(const std::vector<std::string>& args, std::ostream& out, std:
         return BuildLibrary(options, out, err);
     }
     if (action == "export") {
-        const Arguments a = Parse(args, 2, {});
+        std::vector<std::string> rest(args);
+        const auto flag = std::find(rest.begin() + 2, rest.end(), "--score");
+        const bool score = flag != rest.end();
+        if (score) rest.erase(flag);
+        const Arguments a = Parse(rest, 2, {});
         if (!a.problem.empty()) return Problem(err, a.problem);
         if (a.positional.size() != 1) return Problem(err, "library export needs one FILE.sds");
-        return ExportLibrary(a.positional[0], out, err);
+        return ExportLibrary(a.positional[0], out, err, score);
     }
     if (action == "import") {
         const Arguments a = Parse(args, 2, {"level", "dir"});

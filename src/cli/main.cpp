@@ -55,8 +55,9 @@ constexpr const char* kUsage =
     "        rerate every library of DIR (or of level L) as the workbench's Check All\n"
     "        does, moving each puzzle to the library of its level; then the count of\n"
     "        puzzles per hardest technique\n"
-    "  library export FILE.sds\n"
-    "        one line per record: puzzle, solution and best time\n"
+    "  library export FILE.sds [--score]\n"
+    "        one line per record: puzzle, solution and best time; --score adds the\n"
+    "        difficulty score\n"
     "  library import TEXTFILE --level L --dir DIR\n"
     "        append the puzzles of TEXTFILE with their solutions to the .sds and\n"
     "        .sdl files of level L (1-9) in DIR\n";

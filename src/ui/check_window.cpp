@@ -15,6 +15,7 @@
 #include "solver/ladder.h"
 #include "ui/qt_convert.h"
 #include "ui/release_controls.h"
+#include "ui/workbench_score.h"
 
 namespace tavi::ui {
 
@@ -216,10 +217,13 @@ void CheckWindow::Refresh() {
     import_->setEnabled(idle);
     abort_->setEnabled(!idle);
     const int level = bench_.WorkLevel();
-    number_->setText(
-        IsLevel(level) && bench_.RecordCount() > 0
-            ? QStringLiteral("%1 of %2").arg(bench_.CurrentNumber(level)).arg(bench_.RecordCount())
-            : QString());
+    QString number;
+    if (IsLevel(level) && bench_.RecordCount() > 0) {
+        number = QStringLiteral("%1 of %2").arg(bench_.CurrentNumber(level)).arg(bench_.RecordCount());
+        if (const QString score = WorkbenchScoreText(bench_.record().Puzzle, !idle); !score.isEmpty())
+            number += QLatin1Char('\n') + score;
+    }
+    number_->setText(number);
 
     const WorkbenchProgress& p = bench_.progress();
     picture1_->setVisible(p.Shown);

@@ -3,6 +3,8 @@
 #include <sstream>
 
 #include "cli/commands.h"
+#include "cli/library_commands.h"
+#include "library/library_test_support.h"
 #include "grid/board.h"
 #include "support/puzzles.h"
 
@@ -42,6 +44,31 @@ TEST(CliRate, ScoreAddsAFourthFieldAndChangesNothingElse) {
         EXPECT_TRUE(score.size() >= 3 && score[score.size() - 2] == '.') << score;
         EXPECT_GT(std::stod(score), 0.9);
     }
+}
+
+// library export --score ends each line with the score rate --score gives.
+TEST(CliLibrary, ExportWithScoreAddsTheScoreOfRate) {
+    testing::TempDir dir;
+    const auto sds = dir / "x.sds";
+    std::vector<SudokuRecord> records;
+    std::string input;
+    for (const GeneratedPuzzle& p : testing::GeneratedPuzzles(40, 12)) {
+        records.push_back({p.puzzle, p.solution, 0, 0});
+        input += FormatDigits(p.puzzle) + '\n';
+    }
+    ASSERT_TRUE(WriteSudokuFile(sds, records));
+    std::ostringstream exported, err;
+    ASSERT_EQ(LibraryCommand({"library", "export", sds.string(), "--score"}, exported, err), 0)
+        << err.str();
+    std::istringstream in(input);
+    std::ostringstream rated;
+    RateOptions options;
+    options.score = true;
+    Rate(in, rated, err, options);
+    const auto lines = Lines(exported.str()), scores = Lines(rated.str());
+    ASSERT_EQ(lines.size(), records.size());
+    for (std::size_t i = 0; i < lines.size(); ++i)
+        EXPECT_EQ(lines[i].substr(lines[i].rfind('\t')), scores[i].substr(scores[i].rfind('\t')));
 }
 
 }  // namespace
