@@ -35,7 +35,8 @@ bool Game::StartPractice(const FoundPuzzle& found, int technique) {
     std::string why;
     if (!AppendToPair(session_.folders().DataFolder, LevelStem(found.level), sudoku, {}, &number,
                       &why)) {
-        services_.prompter.Message(kFileErrorTitle, why.empty() ? std::string(kWriteErrorText) : why);
+        services_.prompter.Message(kFileErrorTitle,
+                                   why.empty() ? std::string(kWriteErrorText) : why);
         return false;
     }
     return StartPractice(found.level, number, technique);

@@ -119,8 +119,7 @@ bool WritePracticeIndex(const std::filesystem::path& folder, std::string_view st
     {
         std::ostringstream text;
         char hashText[20];
-        std::snprintf(hashText, sizeof hashText, "%016llx",
-                      static_cast<unsigned long long>(hash));
+        std::snprintf(hashText, sizeof hashText, "%016llx", static_cast<unsigned long long>(hash));
         text << kHeading << '\n' << hashText << ' ' << index.size() << '\n';
         for (const PracticeFacts& f : index)
             text << f.technique << ' ' << f.level << ' ' << FormatScore(f.score) << '\n';

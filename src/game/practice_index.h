@@ -28,8 +28,7 @@ struct PracticeFacts {
 using PracticeIndex = std::vector<PracticeFacts>;
 
 // "Sudoku_Easy.sdp" for the stem "Sudoku_Easy.sd".
-std::filesystem::path PracticeIndexFile(const std::filesystem::path& folder,
-                                        std::string_view stem);
+std::filesystem::path PracticeIndexFile(const std::filesystem::path& folder, std::string_view stem);
 
 // The puzzles of a `.sds` file and the hash of its bytes; nothing when it can't be
 // read. A damaged record stays in its place with no puzzle (all 0).

@@ -219,8 +219,10 @@ void CheckWindow::Refresh() {
     const int level = bench_.WorkLevel();
     QString number;
     if (IsLevel(level) && bench_.RecordCount() > 0) {
-        number = QStringLiteral("%1 of %2").arg(bench_.CurrentNumber(level)).arg(bench_.RecordCount());
-        if (const QString score = WorkbenchScoreText(bench_.record().Puzzle, !idle); !score.isEmpty())
+        number =
+            QStringLiteral("%1 of %2").arg(bench_.CurrentNumber(level)).arg(bench_.RecordCount());
+        if (const QString score = WorkbenchScoreText(bench_.record().Puzzle, !idle);
+            !score.isEmpty())
             number += QLatin1Char('\n') + score;
     }
     number_->setText(number);

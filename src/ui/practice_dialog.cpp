@@ -98,8 +98,8 @@ void PracticeDialog::ShowCounts() {
         list_->topLevelItem(int(i))->setText(1, QString::number(choices_[i].puzzles));
         total += choices_[i].puzzles;
     }
-    status_->setText(QStringLiteral("%1 puzzles of the library need one of these techniques.")
-                         .arg(total));
+    status_->setText(
+        QStringLiteral("%1 puzzles of the library need one of these techniques.").arg(total));
 }
 
 void PracticeDialog::Practise() {

@@ -13,8 +13,8 @@ QString WorkbenchScoreText(const Digits& puzzle, bool busy) {
     if (puzzle != last) {
         if (busy) return {};
         last = puzzle;
-        text = QStringLiteral("Score %1").arg(
-            QString::fromStdString(FormatScore(RatePuzzleWithScore(puzzle).score)));
+        text = QStringLiteral("Score %1")
+                   .arg(QString::fromStdString(FormatScore(RatePuzzleWithScore(puzzle).score)));
     }
     return text;
 }

@@ -108,27 +108,30 @@ TEST(PracticeIndex, AChangedLibraryOrADamagedIndexIsMadeAgain) {
 
 TEST(PracticeIndex, ChoicesCountTheHardestStepsAndTheNextPuzzleIsUnfinished) {
     TempDir dir;
-    for (int level : {4, 6}) WriteLibrary(dir.path(), LevelStem(level), 60, 100 + level);
+    for (int level : {4, 6})
+        WriteLibrary(dir.path(), LevelStem(level), 60, 100 + level);
     PracticeLibrary library;
     ASSERT_TRUE(library.Load(dir.path(), 2));
     const auto choices = PracticeChoices(library);
     ASSERT_EQ(choices.size(), std::size_t(kLastPractised - kFirstPractised + 1));
     long counted = 0, beyond = 0;
-    for (const PracticeChoice& c : choices) counted += c.puzzles;
+    for (const PracticeChoice& c : choices)
+        counted += c.puzzles;
     for (int level : {4, 6})
         for (const PracticeFacts& f : *library.levels[std::size_t(level)])
             beyond += f.technique >= kFirstPractised && f.technique <= kLastPractised;
     EXPECT_EQ(counted, beyond);
 
     // The most common technique: its first puzzle, then, once finished, the next.
-    const PracticeChoice& most = *std::max_element(
-        choices.begin(), choices.end(),
-        [](const auto& a, const auto& b) { return a.puzzles < b.puzzles; });
+    const PracticeChoice& most =
+        *std::max_element(choices.begin(), choices.end(),
+                          [](const auto& a, const auto& b) { return a.puzzles < b.puzzles; });
     ASSERT_GE(most.puzzles, 2);
     const auto first = NextPracticePuzzle(library, dir.path(), most.technique);
     ASSERT_TRUE(first);
-    EXPECT_EQ((*library.levels[std::size_t(first->level)])[std::size_t(first->record - 1)].technique,
-              most.technique);
+    EXPECT_EQ(
+        (*library.levels[std::size_t(first->level)])[std::size_t(first->record - 1)].technique,
+        most.technique);
     auto [sudoku, log] = testing::PairAt(dir.path(), LevelStem(first->level), first->record);
     log.Grid = sudoku.Solution;
     ASSERT_TRUE(WritePair(dir.path(), LevelStem(first->level), first->record, sudoku, log));

@@ -4,8 +4,8 @@
 
 #include "cli/commands.h"
 #include "cli/library_commands.h"
-#include "library/library_test_support.h"
 #include "grid/board.h"
+#include "library/library_test_support.h"
 #include "support/puzzles.h"
 
 namespace tavi::cli {
