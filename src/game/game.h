@@ -169,6 +169,8 @@ class Game : private MoveListener {
     // Adds a generated puzzle at the end of its level's library and practises it.
     bool StartPractice(const FoundPuzzle& found, int technique);
     int PractisedTechnique() const { return practice_.Technique(); }
+    // After a load: the practice goes on when the puzzle is the one practised last.
+    void ResumePractice();
 
     // --- Options --------------------------------------------------------------
     // After the options window closed: what changed from `before` takes effect

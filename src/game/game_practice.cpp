@@ -1,10 +1,35 @@
 // Practising a technique: its puzzle opens as a normal game of its level, saved
 // and resumed like any other; only the first hint of the technique is marked.
+#include <sstream>
+
 #include "game/game.h"
 #include "grid/levels.h"
 #include "library/library_pair.h"
 
 namespace tavi {
+
+namespace {
+
+// The puzzle practised last, kept in the store so that its game resumes as a
+// practice: "level record technique".
+constexpr std::string_view kPracticeSection = "Practice";
+constexpr std::string_view kPracticeKey = "Puzzle";
+
+}  // namespace
+
+void Game::ResumePractice() {
+    practice_.Stop();
+    const LibraryPosition& position = session_.position();
+    const int level = position.ChosenLevel;
+    if (!IsLevel(level)) return;
+    std::istringstream kept(services_.store.Read(kPracticeSection, kPracticeKey, ""));
+    int keptLevel = 0, technique = 0;
+    long record = 0;
+    if (kept >> keptLevel >> record >> technique && keptLevel == level &&
+        record == position.PuzzleNumber[level] && technique >= kFirstPractised &&
+        technique <= kLastPractised)
+        practice_.Start(technique);
+}
 
 bool Game::StartPractice(int level, long record, int technique) {
     const ChangeScope scope(*this);
@@ -22,6 +47,9 @@ bool Game::StartPractice(int level, long record, int technique) {
         return false;
     }
     practice_.Start(technique);
+    services_.store.Write(
+        kPracticeSection, kPracticeKey,
+        std::to_string(level) + " " + std::to_string(record) + " " + std::to_string(technique));
     return true;
 }
 

@@ -127,7 +127,7 @@ void Game::RestoreProgress() {
 
 void Game::AfterLoad() {
     const LibraryPosition& position_ = session_.position();
-    practice_.Stop();  // a practice begins after its load
+    ResumePractice();
     if ((position_.ChosenLevel < 4 && options_.PencilmarksOff) || !options_.Pencilmarks)
         SpecialPencilmarks();
     textHint_ = std::string(kPlayingHintText);

@@ -55,6 +55,7 @@ TEST_F(Practice, APractiseGameIsSavedAndResumedLikeAnyOther) {
     EXPECT_EQ(again.position().OpenRecord, next->record);
     EXPECT_EQ(again.board().CurrentGrid, played);
     EXPECT_EQ(again.CurrentStep(), 1);
+    EXPECT_EQ(again.PractisedTechnique(), chosen->technique);  // and still practised
 
     // A puzzle that can't be opened leaves the game as it was.
     const CommandStates commands = again.commands();
@@ -63,6 +64,11 @@ TEST_F(Practice, APractiseGameIsSavedAndResumedLikeAnyOther) {
     EXPECT_EQ(again.board().CurrentGrid, played);
     EXPECT_EQ(again.position().OpenRecord, next->record);
     EXPECT_EQ(again.commands(), commands);
+    EXPECT_EQ(again.PractisedTechnique(), chosen->technique);
+
+    // Another puzzle is no practice.
+    again.CommandNew();
+    EXPECT_EQ(again.PractisedTechnique(), 0);
 }
 
 // Over the library's practice puzzles: hint after hint, followed by hand, only
