@@ -10,6 +10,7 @@
 #include "grid/levels.h"
 #include "library/library_test_support.h"
 #include "solver/difficulty_score.h"
+#include "solver/generator.h"
 #include "solver/ladder.h"
 
 namespace tavi {
@@ -138,6 +139,28 @@ TEST(PracticeIndex, ChoicesCountTheHardestStepsAndTheNextPuzzleIsUnfinished) {
     const auto second = NextPracticePuzzle(library, dir.path(), most.technique);
     ASSERT_TRUE(second);
     EXPECT_TRUE(second->level > first->level || second->record > first->record);
+}
+
+// The search gives the first generated puzzle whose hardest step is the
+// technique, with its level and solution; a cancel or no time gives nothing.
+TEST(PracticeSearch, FindsTheFirstGeneratedPuzzleOfTheTechnique) {
+    int found = 0;
+    for (std::uint64_t start = 1; start <= 40; ++start) {
+        PuzzleGenerator generator(start);
+        const GeneratedPuzzle first = generator.Next();
+        const PuzzleRating r = RatePuzzleWithScore(first.puzzle);
+        if (r.hardestTechnique < kFirstPractised || r.hardestTechnique > kLastPractised) continue;
+        const auto puzzle = GeneratePracticePuzzle(r.hardestTechnique, start, 30);
+        ASSERT_TRUE(puzzle);
+        EXPECT_EQ(puzzle->puzzle, first.puzzle);
+        EXPECT_EQ(puzzle->solution, first.solution);
+        EXPECT_EQ(puzzle->level, r.level);
+        ++found;
+    }
+    EXPECT_GT(found, 3);
+    const std::atomic<bool> cancel{true};
+    EXPECT_FALSE(GeneratePracticePuzzle(8, 1, 30, &cancel));
+    EXPECT_FALSE(GeneratePracticePuzzle(8, 1, 0));
 }
 
 TEST(PracticeMark, OnlyTheFirstHintOfTheTechniqueIsMarked) {
