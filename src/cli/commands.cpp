@@ -11,6 +11,7 @@
 #include "hints/hint_paint.h"
 #include "hints/hint_search.h"
 #include "hints/schrijf_hint.h"
+#include "solver/difficulty_score.h"
 #include "solver/ladder.h"
 #include "solver/solutions.h"
 
@@ -60,6 +61,14 @@ int Rate(std::istream& in, std::ostream& out, std::ostream& err, const RateOptio
             if (Solutions(p.digits, 2).count != 1) {
                 ++invalid;
                 out << p.text << "\t0\tno unique solution\n";
+                return;
+            }
+            if (options.score) {
+                const PuzzleRating r = RatePuzzleWithScore(ctx, p.digits);
+                ++perLevel[r.level];
+                ++total;
+                out << p.text << '\t' << r.level << '\t' << LevelName(r.level) << '\t'
+                    << FormatScore(r.score) << '\n';
                 return;
             }
             const int level = RatePuzzle(ctx, p.digits, run);

@@ -13,12 +13,14 @@ namespace tavi::cli {
 
 struct RateOptions {
     bool summary = false;  // counts per level and puzzles per second to `err`
+    bool score = false;    // a fourth field: the difficulty score, one decimal
 };
 
 // Per puzzle: the 81 characters, the level 1..9 and its name; the workbench
 // ladder in the default order, Outlaw when it fails. A puzzle with clashing
 // givens gets "invalid" in place of its level and name; one with no solution or
-// several, level 0 and "no unique solution".
+// several, level 0 and "no unique solution". With `score` the difficulty score of
+// the same run follows (solver/difficulty_score.h).
 int Rate(std::istream& in, std::ostream& out, std::ostream& err, const RateOptions& options = {},
          std::string_view source = "standard input");
 

@@ -17,6 +17,7 @@
 #include "library/library_setup.h"
 #include "library/pair_guard.h"
 #include "library/record_checks.h"
+#include "solver/difficulty_score.h"
 #include "solver/generator.h"
 #include "solver/solutions.h"
 #include "workbench/duplicates.h"
@@ -220,7 +221,7 @@ int BuildLibrary(const BuildOptions& options, std::ostream& out, std::ostream& e
     return status;
 }
 
-int ExportLibrary(const fs::path& sdsFile, std::ostream& out, std::ostream& err) {
+int ExportLibrary(const fs::path& sdsFile, std::ostream& out, std::ostream& err, bool score) {
     if (const std::string problem = InputFileProblem(sdsFile); !problem.empty())
         return Problem(err, problem);
     std::error_code ec;
@@ -235,6 +236,7 @@ int ExportLibrary(const fs::path& sdsFile, std::ostream& out, std::ostream& err)
     std::ifstream in(sdsFile, std::ios::binary);
     SudokuRecordBytes bytes;
     long damaged = 0;
+    SolveContext ctx(Side::Workbench);
     for (std::uintmax_t n = 1; n <= whole; ++n) {
         if (!in.read(reinterpret_cast<char*>(bytes.data()), std::streamsize(bytes.size())))
             return Problem(err, sdsFile.string() + ": read error at record " + std::to_string(n));
@@ -245,8 +247,9 @@ int ExportLibrary(const fs::path& sdsFile, std::ostream& out, std::ostream& err)
                     << " It was left out.\n";
             continue;
         }
-        out << FormatDigits(r.Puzzle, '.') << '\t' << FormatDigits(r.Solution) << '\t' << BestTime(r)
-            << '\n';
+        out << FormatDigits(r.Puzzle, '.') << '\t' << FormatDigits(r.Solution) << '\t' << BestTime(r);
+        if (score) out << '\t' << FormatScore(RatePuzzleWithScore(ctx, r.Puzzle).score);
+        out << '\n';
     }
     if (damaged > long(kNamedLines))
         err << sdsFile.string() << ": and " << damaged - long(kNamedLines)
@@ -367,10 +370,14 @@ int LibraryCommand(const std::vector<std::string>& args, std::ostream& out, std:
         return BuildLibrary(options, out, err);
     }
     if (action == "export") {
-        const Arguments a = Parse(args, 2, {});
+        std::vector<std::string> rest(args);
+        const auto flag = std::find(rest.begin() + 2, rest.end(), "--score");
+        const bool score = flag != rest.end();
+        if (score) rest.erase(flag);
+        const Arguments a = Parse(rest, 2, {});
         if (!a.problem.empty()) return Problem(err, a.problem);
         if (a.positional.size() != 1) return Problem(err, "library export needs one FILE.sds");
-        return ExportLibrary(a.positional[0], out, err);
+        return ExportLibrary(a.positional[0], out, err, score);
     }
     if (action == "check") {
         const Arguments a = Parse(args, 2, {"level", "threads"});

@@ -34,8 +34,9 @@ int BuildLibrary(const BuildOptions& options, std::ostream& out, std::ostream& e
 
 // One line per record: puzzle, tab, solution, tab, best time as m:ss. Damaged
 // records and a torn tail are named on `err` (status 2); the sound records are
-// still written.
-int ExportLibrary(const std::filesystem::path& sdsFile, std::ostream& out, std::ostream& err);
+// still written. With `score`, the difficulty score follows the best time.
+int ExportLibrary(const std::filesystem::path& sdsFile, std::ostream& out, std::ostream& err,
+                  bool score = false);
 
 // Appends the puzzles of `in` to the pair of `level` in `dir` with their
 // brute-force solutions; lines that are no puzzle or have no unique solution are

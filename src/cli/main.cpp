@@ -24,7 +24,9 @@ constexpr const char* kUsage =
     "Blank lines and lines starting with '#' are skipped.\n"
     "\n"
     "commands:\n"
-    "  rate [--summary]   puzzle, level number and level name\n"
+    "  rate [--summary] [--score]\n"
+    "                     puzzle, level number and level name; --score adds the\n"
+    "                     difficulty score with one decimal\n"
     "  solve [--threads N]\n"
     "                     puzzle, unique/none/multiple, and the solution or -;\n"
     "                     N threads (default: every core)\n"
@@ -59,8 +61,9 @@ constexpr const char* kUsage =
     "        rerate every library of DIR (or of level L) as the workbench's Check All\n"
     "        does, moving each puzzle to the library of its level; then the count of\n"
     "        puzzles per hardest technique\n"
-    "  library export FILE.sds\n"
-    "        one line per record: puzzle, solution and best time\n"
+    "  library export FILE.sds [--score]\n"
+    "        one line per record: puzzle, solution and best time; --score adds the\n"
+    "        difficulty score\n"
     "  library import TEXTFILE --level L --dir DIR\n"
     "        append the puzzles of TEXTFILE with their solutions to the .sds and\n"
     "        .sdl files of level L (1-9) in DIR\n";
@@ -139,6 +142,8 @@ int main(int argc, char** argv) {
             threads = *n;
         } else if (args[i] == "--summary" && command == "rate")
             rateOptions.summary = true;
+        else if (args[i] == "--score" && command == "rate")
+            rateOptions.score = true;
         else if (args[i] == "--explain" && command == "steps")
             explain = true;
         else if (args[i] == "--all" && command == "states")

@@ -26,6 +26,7 @@
 #include "game/move_log.h"
 #include "game/platform.h"
 #include "game/recovery_copy.h"
+#include "game/practice.h"
 #include "hints/hint_paint.h"
 #include "library/library_files.h"
 #include "library/records.h"
@@ -171,6 +172,16 @@ class Game : private MoveListener {
     void ApplyPaints(const std::vector<HintPaint>& paints);
     // After the colours window: the hint on the board takes the new hint colours.
     void ColoursChanged();
+
+    // --- Practice (game_practice.cpp) -------------------------------------------
+    // Opens record `record` of `level` as a normal game of that level, and marks
+    // the first hint of `technique`. False when the puzzle could not be opened.
+    bool StartPractice(int level, long record, int technique);
+    // Adds a generated puzzle at the end of its level's library and practises it.
+    bool StartPractice(const FoundPuzzle& found, int technique);
+    int PractisedTechnique() const { return practice_.Technique(); }
+    // After a load: the practice goes on when the puzzle is the one practised last.
+    void ResumePractice();
 
     // --- Options --------------------------------------------------------------
     // After the options window closed: what changed from `before` takes effect
@@ -380,6 +391,7 @@ class Game : private MoveListener {
     HintFlow hints_;
     HintTruth truth_;     // what keeps the hint on the board true
     int generation_ = 0;  // counts the boards laid out: new games, Make, its end
+    PracticeMark practice_;
     CommandStates commands_;
     std::array<std::array<bool, 9>, 10> wells_{};
     bool gridEnabled_ = false;

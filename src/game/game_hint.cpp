@@ -147,6 +147,7 @@ void Game::CommandHint() {
     }
     Speel(kSoundPenalty);
     ShowTechniqueHint();
+    textHint_ = practice_.Marked(hit->number, textHint_);
     Penalty(15);
 }
 

@@ -12,6 +12,7 @@ bool Bifurcation(SolveContext& ctx) {
     Board& b = ctx.board;
     const auto entryCandidates = b.Candidates;
     const auto entryGrid = b.CurrentGrid;
+    int trials = 0;
 
     for (int digit = 1; digit <= 9; ++digit) {
         for (int cell = 0; cell < 81; ++cell) {
@@ -30,7 +31,9 @@ bool Bifurcation(SolveContext& ctx) {
             b.Candidates = entryCandidates;
             b.CurrentGrid = entryGrid;
             ctx.hint.Conclusions.Clear();
+            ++trials;
             if (!solved) continue;
+            ctx.stepSize = {.links = 0, .trials = trials};
 
             if (ctx.HintOnly()) {
                 ctx.hint.HintCell = cell;

@@ -170,6 +170,7 @@ WalkResult WalkLadder(SolveContext& ctx, const LadderWalk& walk, int& cellsLeft)
         for (const Rung* rung : walk.rungs) {
             if (walk.before) walk.before(*rung);
             ctx.hint.Conclusions.Clear();
+            ctx.stepSize = {};
             if (walk.modeFor) scope.Set(walk.modeFor(*rung));
             out = rung->run(ctx);
             scope.Set(scope.Saved());

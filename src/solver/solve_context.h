@@ -11,6 +11,7 @@
 #include "grid/board.h"
 #include "grid/notifier.h"
 #include "solver/hint_record.h"
+#include "solver/step_size.h"
 
 namespace tavi {
 
@@ -76,6 +77,7 @@ struct SolveContext {
     Side side = Side::Workbench;
     int SolvingLevel = 0;
     HintRecord hint;
+    StepSize stepSize;  // the size of the last hit, emptied before each rung
 
     std::function<void()> yield;       // lets the window breathe in long loops
     MoveListener* listener = nullptr;  // the game's move log

@@ -22,6 +22,7 @@
 #include "ui/qt_convert.h"
 #include "ui/release_controls.h"
 #include "workbench/rating_pool.h"
+#include "ui/workbench_score.h"
 
 namespace tavi::ui {
 
@@ -248,10 +249,15 @@ void CheckWindow::Refresh() {
     close_->setEnabled(idle);
     abort_->setEnabled(!idle);
     const int level = bench_.WorkLevel();
-    number_->setText(
-        IsLevel(level) && bench_.RecordCount() > 0
-            ? QStringLiteral("%1 of %2").arg(bench_.CurrentNumber(level)).arg(bench_.RecordCount())
-            : QString());
+    QString number;
+    if (IsLevel(level) && bench_.RecordCount() > 0) {
+        number =
+            QStringLiteral("%1 of %2").arg(bench_.CurrentNumber(level)).arg(bench_.RecordCount());
+        if (const QString score = WorkbenchScoreText(bench_.record().Puzzle, !idle);
+            !score.isEmpty())
+            number += QLatin1Char('\n') + score;
+    }
+    number_->setText(number);
 
     const WorkbenchProgress& p = bench_.progress();
     damaged_->setText(QString::fromStdString(bench_.Damaged()));

@@ -24,6 +24,7 @@
 #include "ui/keyboard_play.h"
 #include "ui/options_dialog.h"
 #include "ui/painted_pictures.h"
+#include "ui/practice_indexer.h"
 #include "ui/print_window.h"
 #include "ui/qt_convert.h"
 #include "ui/release_controls.h"
@@ -68,6 +69,10 @@ MainWindow::MainWindow(Game& game, Options& options, const LibraryFolders& folde
     timer_->setInterval(1000);
     connect(timer_, &QTimer::timeout, this, [this] { game_.Tick(); });
     timer_->start();
+
+    // The practice indexes are brought up to date once the window stands.
+    practice_ = std::make_unique<PracticeIndexer>(folders_.DataFolder);
+    QTimer::singleShot(3000, this, [this] { practice_->Refresh(); });
 
     setWindowIcon(QIcon(SiteEmblem(64, 1.0)));
     // The least size is what the controls need (the layout sees to it), so that

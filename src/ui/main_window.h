@@ -10,6 +10,7 @@
 #include <array>
 #include <filesystem>
 #include <functional>
+#include <memory>
 #include <optional>
 
 #include "game/game.h"
@@ -27,6 +28,7 @@ namespace tavi::ui {
 class BoardArea;
 class ClickLabel;
 class HintWindow;
+class PracticeIndexer;
 class AboutWindow;
 class SudTekstLine;
 
@@ -98,6 +100,9 @@ class MainWindow : public QMainWindow {
     void ShowWorkbench();
     void ShowOptions();
     void ShowPrint();
+    // "Practise...": picks a technique and opens its puzzle (main_window_practice.cpp).
+    void ShowPractice();
+    QPushButton* BuildPractise(QWidget* parent);
     // FormHint, made when first wanted.
     HintWindow* Hints();
     void RefreshCommands();
@@ -125,6 +130,7 @@ class MainWindow : public QMainWindow {
     std::optional<PrintSettings> print_;  // the print window's, from its first opening on
     class CheckWindow* workbench_ = nullptr;
     HintWindow* hints_ = nullptr;
+    std::unique_ptr<PracticeIndexer> practice_;  // the library's practice indexes
     int hintShows_ = 0;       // the hint window's showings the game asked for and got
     int generation_ = 0;      // the game whose board the hint window may copy
     bool exiting_ = false;    // Exit has asked already: the close goes through

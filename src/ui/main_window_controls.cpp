@@ -57,7 +57,7 @@ QWidget* MainWindow::BuildSidePanel() {
     textHint_ = new QPlainTextEdit(panel);
     textHint_->setObjectName(QStringLiteral("TextHint"));
     textHint_->setReadOnly(true);
-    textHint_->setMinimumHeight(textHint_->fontMetrics().lineSpacing() * 4 + 12);
+    textHint_->setMinimumHeight(textHint_->fontMetrics().lineSpacing() * 3 + 8);
     column->addWidget(textHint_, 1);
     column->addWidget(BuildFoot());
     panel->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
@@ -87,7 +87,8 @@ QWidget* MainWindow::BuildCommands() {
     auto* box = new QWidget(this);
     auto* grid = new QGridLayout(box);
     grid->setContentsMargins(0, 0, 0, 0);
-    grid->setSpacing(6);
+    grid->setHorizontalSpacing(6);
+    grid->setVerticalSpacing(5);
     for (int id = 0; id < kCommandCount; ++id) {
         auto* button = new QPushButton(QLatin1String(kCommandSpecs[id].caption), box);
         button->setObjectName(QLatin1String(kCommandSpecs[id].name));
@@ -96,6 +97,7 @@ QWidget* MainWindow::BuildCommands() {
         grid->addWidget(button, id / 3, id % 3);
         commands_[id] = button;
     }
+    grid->addWidget(BuildPractise(box), kCommandCount / 3, 0, 1, 3);
     // After any command the keys play on at once.
     auto on = [this](CommandId id, std::function<void()> run) {
         connect(commands_[id], &QPushButton::clicked, this, [this, run] {

@@ -700,6 +700,7 @@ struct AicSearch {
         } else {
             VerwijderKnop(ctx, chainDigits[p], cells[p]);
         }
+        ctx.stepSize.links = p + 1;
         if (ctx.HintOnly()) {
             HintRecord& h = ctx.hint;
             h.HintVariant = result;

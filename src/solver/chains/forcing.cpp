@@ -17,16 +17,20 @@ namespace {
 
 // One branch's table: per cell and digit 0 nothing known, 1 placed, -1 eliminated.
 // Beside it the candidates still open (value 0), by digit as cell sets for the
-// hidden singles and by cell as masks for the naked ones.
+// hidden singles and by cell as masks for the naked ones, and for each entry the
+// number of the single that settled it (the depth of the branch there).
 struct ExamGrid {
     std::int8_t value[81][9];
+    std::uint8_t depth[81][9];
+    int forces = 0;
     CellSet open[9];
     CandidateMask openMask[81];
 
     void Reset(const CandidateMask (&cellDigits)[81]) {
+        forces = 0;
         for (int c = 0; c < 81; ++c) {
             for (int d = 0; d < 9; ++d)
-                value[c][d] = 0;
+                value[c][d] = 0, depth[c][d] = 0;
             openMask[c] = cellDigits[c];
         }
         for (int d = 0; d < 9; ++d) {
@@ -37,6 +41,7 @@ struct ExamGrid {
     }
     void Set(int cell, int digit, int v) {
         value[cell][digit - 1] = std::int8_t(v);
+        depth[cell][digit - 1] = std::uint8_t(forces);
         open[digit - 1].Remove(cell);
         openMask[cell] &= CandidateMask(~DigitBit(digit));
     }
@@ -45,6 +50,7 @@ struct ExamGrid {
 // Digit `digit` stands in `baseCell`: the cell's other open candidates and the
 // open `digit` of every peer are eliminated.
 void ApplyForce(int baseCell, int digit, ExamGrid& g) {
+    if (g.forces < 255) ++g.forces;
     g.Set(baseCell, digit, 1);
     for (int k : DigitSet(g.openMask[baseCell]))
         g.Set(baseCell, k, -1);
@@ -115,7 +121,7 @@ void Apply(SolveContext& ctx, const Verdict& v) {
 class Branches {
   public:
     explicit Branches(const CandidateMask (&cellDigits)[81])
-        : cellDigits_(cellDigits), tables_(81 * 9) {}
+        : cellDigits_(cellDigits), tables_(81 * 9), depths_(81 * 9) {}
 
     // Adds to `tally` the table of the branch that places `digit` in `cell`.
     void AddTo(int (&tally)[81][9], int cell, int digit) {
@@ -125,14 +131,21 @@ class Branches {
             ApplyForce(cell, digit, g_);
             Propagate(cell, g_);
             table.assign(&g_.value[0][0], &g_.value[0][0] + 81 * 9);
+            depths_[cell * 9 + digit - 1].assign(&g_.depth[0][0], &g_.depth[0][0] + 81 * 9);
         }
         for (int i = 0; i < 81 * 9; ++i)
             tally[i / 9][i % 9] += table[i];
     }
 
+    // How deep the branch from `digit` in `cell` ran before it settled the verdict.
+    int Depth(int cell, int digit, const Verdict& v) const {
+        return depths_[cell * 9 + digit - 1][v.cell * 9 + v.digit - 1];
+    }
+
   private:
     const CandidateMask (&cellDigits_)[81];
     std::vector<std::vector<std::int8_t>> tables_;
+    std::vector<std::vector<std::uint8_t>> depths_;
     ExamGrid g_;
 };
 
@@ -159,6 +172,8 @@ bool Forcing(SolveContext& ctx) {
         const Verdict v = Decide(tally, n, b);
         if (v.cell < 0) continue;
         Apply(ctx, v);
+        for (int d : DigitSet(cellDigits[base]))
+            ctx.stepSize.links += branches.Depth(base, d, v);
         if (ctx.HintOnly()) {
             ctx.hint.HintCell = base;
             ctx.hint.HintNumber = v.digit;
@@ -186,6 +201,8 @@ bool Forcing(SolveContext& ctx) {
             const Verdict v = Decide(tally, n, b);
             if (v.cell < 0) continue;
             Apply(ctx, v);
+            for (int i = 0; i < n; ++i)
+                ctx.stepSize.links += branches.Depth(holders[i], digit, v);
             if (ctx.HintOnly()) {
                 const int kind = u / 9, index = u % 9;
                 ctx.hint.HintVariant = kind + 1;

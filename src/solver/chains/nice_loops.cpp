@@ -124,6 +124,7 @@ struct LoopWalk {
         } else {
             VerwijderKnop(ctx, digit, cells[p]);
         }
+        ctx.stepSize.links = p + 1;
         if (ctx.HintOnly()) {
             h.HintVariant = result;
             h.HintNumber = digit;

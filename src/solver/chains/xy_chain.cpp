@@ -93,6 +93,7 @@ struct XYSearch {
         const int y = chain.back().exit, x = chain[n - 2].exit;
         if (y == d && RemoveSeenByBoth(ctx, first, last, d)) {
             if (ctx.HintOnly()) FillHint(18, d, chain);
+            ctx.stepSize.links = n;
             return true;
         }
         if (x == d && (RowUnit(first) == RowUnit(last) || ColumnUnit(first) == ColumnUnit(last) ||
@@ -102,6 +103,7 @@ struct XYSearch {
             for (int k = 1; k + 1 < n; ++k)
                 VerwijderKnop(ctx, chain[k - 1].exit, chain[k].cell);
             if (ctx.HintOnly()) FillHint(19, d, chain);
+            ctx.stepSize.links = n;
             return true;
         }
         return false;

@@ -1,0 +1,100 @@
+#include "solver/difficulty_score.h"
+
+#include <gtest/gtest.h>
+
+#include <random>
+
+#include "grid/candidates.h"
+#include "grid/levels.h"
+#include "support/puzzles.h"
+
+namespace tavi {
+namespace {
+
+TEST(DifficultyScore, EveryRungHasItsWeightInLadderOrder) {
+    const auto rungs = LadderRungs();
+    ASSERT_EQ(rungs.size(), kRungWeights.size());
+    for (std::size_t i = 0; i < rungs.size(); ++i) {
+        EXPECT_EQ(kRungWeights[i].technique, rungs[i].number) << "row " << i;
+        EXPECT_GT(kRungWeights[i].weight, 1.0);
+        EXPECT_LT(kRungWeights[i].weight + 2.3 + kMostExtent, kUnsolvedScore);
+    }
+    // The singles are the easiest, Bifurcation the hardest of all.
+    for (std::size_t i = 2; i < rungs.size(); ++i)
+        EXPECT_GT(kRungWeights[i].weight, kRungWeights[1].weight);
+    for (std::size_t i = 0; i + 1 < rungs.size(); ++i)
+        EXPECT_LT(kRungWeights[i].weight, kRungWeights.back().weight);
+}
+
+// Over many generated puzzles: the run with the score rates exactly as the plain
+// run, twice alike, and the score lies between its hardest rung's weight and what
+// the bonuses and the extent can add to it.
+TEST(DifficultyScore, SameRatingAsThePlainRunAndBoundedByTheHardestRung) {
+    const auto& puzzles = testing::GeneratedPuzzles(300);
+    SolveContext plain(Side::Workbench), scored(Side::Workbench);
+    for (const GeneratedPuzzle& p : puzzles) {
+        plain.board = BoardFromPuzzle(p.puzzle);
+        const int level = SolveSudoku(plain, {}) ? plain.SolvingLevel : kOutlaw;
+        const PuzzleRating r = RatePuzzleWithScore(scored, p.puzzle);
+        ASSERT_EQ(r.level, level) << FormatDigits(p.puzzle);
+        EXPECT_EQ(r.score, RatePuzzleWithScore(p.puzzle).score);
+        if (level == kOutlaw) {
+            EXPECT_EQ(r.score, kUnsolvedScore);
+            continue;
+        }
+        ASSERT_GT(r.score, 0);
+        if (r.hardestTechnique == 0) continue;  // the head of the ladder did it all
+        double weight = 0;
+        for (const Rung& rung : RungsOf(r.hardestTechnique))
+            weight = std::max(weight, RungWeightOf(rung));
+        EXPECT_GE(r.score, weight - 1e-9);
+        EXPECT_LE(r.score, weight + 2.4 + kMostExtent + 1e-9);
+        // The hardest technique is one the level allows.
+        EXPECT_LE(RungsOf(r.hardestTechnique)[0].level, level);
+    }
+}
+
+// More of the solve never makes a puzzle easier: a step added to a run never
+// lowers the score, and a harder step raises it at least to its own difficulty.
+TEST(DifficultyScore, AStepMoreNeverLowersTheScore) {
+    const auto rungs = LadderRungs();
+    std::mt19937 random(33);
+    for (int run = 0; run < 400; ++run) {
+        DifficultyTally tally;
+        double before = 0;
+        const int steps = 1 + int(random() % 60);
+        for (int s = 0; s < steps; ++s) {
+            const Rung& rung = rungs[random() % rungs.size()];
+            StepSize size;
+            size.links = int(random() % 40);
+            size.trials = 1 + int(random() % 300);
+            tally.Hit(rung, size);
+            const double now = tally.Score(true);
+            EXPECT_GE(now, before - 1e-9) << "run " << run << " step " << s;
+            EXPECT_GE(now, StepDifficulty(rung, size) - 1e-9);
+            before = now;
+        }
+        EXPECT_EQ(tally.Score(false), kUnsolvedScore);
+    }
+}
+
+TEST(DifficultyScore, LongerChainsAndMoreTrialsWeighMore) {
+    for (const Rung& rung : LadderRungs()) {
+        const double shortest = StepDifficulty(rung, {0, 1});
+        EXPECT_EQ(shortest, RungWeightOf(rung)) << RungKey(rung);
+        EXPECT_GE(StepDifficulty(rung, {16, 40}), shortest);
+    }
+    const Rung& aic = RungsOf(29)[0];
+    EXPECT_GT(StepDifficulty(aic, {10, 0}), StepDifficulty(aic, {6, 0}));
+    const Rung& guess = RungsOf(39)[0];
+    EXPECT_GT(StepDifficulty(guess, {0, 30}), StepDifficulty(guess, {0, 3}));
+}
+
+TEST(DifficultyScore, WrittenWithOneDecimal) {
+    EXPECT_EQ(FormatScore(4.24), "4.2");
+    EXPECT_EQ(FormatScore(12.0), "12.0");
+    EXPECT_EQ(FormatScore(1.26), "1.3");
+}
+
+}  // namespace
+}  // namespace tavi
