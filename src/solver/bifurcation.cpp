@@ -36,12 +36,12 @@ bool Bifurcation(SolveContext& ctx) {
                 ctx.hint.HintCell = cell;
                 ctx.hint.HintNumber = digit;
                 ctx.hint.HintKind = 20;
-                PlaceDigit(ctx, digit, cell, 8);
+                PlaceDigit(ctx, digit, cell);
                 return true;
             }
             // The guess itself is a step of the game while Autosolve plays.
             ModeScope guess(ctx, ctx.Mode().Without(SolveMode::kForceZet));
-            PlaceDigit(ctx, digit, cell, 8);
+            PlaceDigit(ctx, digit, cell);
             return true;
         }
     }

@@ -696,7 +696,7 @@ struct AicSearch {
                 }
             }
         } else if (result == kStrong) {
-            PlaceDigit(ctx, d, cells[0], 0);
+            PlaceDigit(ctx, d, cells[0]);
         } else {
             VerwijderKnop(ctx, chainDigits[p], cells[p]);
         }
@@ -716,7 +716,7 @@ struct AicSearch {
 
 }  // namespace
 
-int AIC(SolveContext& ctx, int chainLimit, int newLevel) {
+int AIC(SolveContext& ctx, int chainLimit) {
     // Small enough to stay in the cache from one call to the next: a start keeps
     // a few thousand branches, a call's counting a few times more.
     thread_local DeadEnds deadEnds(14), leafCounts(15);
@@ -730,7 +730,6 @@ int AIC(SolveContext& ctx, int chainLimit, int newLevel) {
         if (search->uncounted) r = search->Recount();
         if (r < 0) return kNone;
         search->Hit(r, search->found.close, d);
-        if (!ctx.HintOnly()) ctx.RaiseLevel(newLevel);
         return r;
     }
     return kNone;

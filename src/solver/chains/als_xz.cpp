@@ -411,7 +411,6 @@ bool ALSxz(SolveContext& ctx) {
         digits[c] = ctx.board.Candidates[c];
     const Holders all(ctx.board);
     if (BiValueStage(ctx, digits, all)) {
-        if (!ctx.HintOnly()) ctx.RaiseLevel(7);
         return true;
     }
 
@@ -438,7 +437,6 @@ bool ALSxz(SolveContext& ctx) {
             if (HasDigit(hit.cands2, k)) RemoveSeeingAll(ctx, perDigit2[k], k);
         }
     }
-    if (!ctx.HintOnly()) ctx.RaiseLevel(7);
     return true;
 }
 

@@ -133,10 +133,7 @@ bool HiddenInUnit(SolveContext& ctx, const UnitState& state, int unit, int size)
         for (int i = 0; i < size; ++i)
             for (int d = 1; d <= 9; ++d)
                 if (!HasDigit(set, d)) VerwijderKnop(ctx, d, cells[i]);
-        if (ctx.HintOnly())
-            FillSubsetHint(ctx, unit, false, size, digits, cells);
-        else
-            ctx.RaiseLevel(3);
+        if (ctx.HintOnly()) FillSubsetHint(ctx, unit, false, size, digits, cells);
         return true;
     });
 }
@@ -197,10 +194,7 @@ bool NakedInUnit(SolveContext& ctx, const UnitState& state, int unit, int size) 
     int cells[5] = {};
     CellsOf(unit, inside, cells);
     Verwijder(ctx, digits, size, cells, unit / 9 + 1);
-    if (ctx.HintOnly())
-        FillSubsetHint(ctx, unit, true, size, digits, cells);
-    else
-        ctx.RaiseLevel(3);
+    if (ctx.HintOnly()) FillSubsetHint(ctx, unit, true, size, digits, cells);
     return true;
 }
 
