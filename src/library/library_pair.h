@@ -9,8 +9,8 @@
 #include <string_view>
 
 #include "grid/board.h"
-#include "library/library_files.h"
 #include "grid/notifier.h"
+#include "library/library_files.h"
 #include "library/records.h"
 
 namespace tavi {

@@ -7,8 +7,8 @@
 #include <string>
 #include <string_view>
 
-#include "library/library_files.h"
 #include "grid/notifier.h"
+#include "library/library_files.h"
 
 namespace tavi {
 

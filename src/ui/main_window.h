@@ -119,7 +119,7 @@ class MainWindow : public QMainWindow {
     QLabel* labelTijd_ = nullptr;
     SudTekstLine* sudTekst_ = nullptr;
     QTimer* timer_ = nullptr;
-    AboutWindow* revisions_ = nullptr;  // the About box, with the revision history
+    AboutWindow* revisions_ = nullptr;    // the About box, with the revision history
     std::optional<PrintSettings> print_;  // the print window's, from its first opening on
     class CheckWindow* workbench_ = nullptr;
     HintWindow* hints_ = nullptr;

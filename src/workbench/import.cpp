@@ -7,8 +7,8 @@
 #include "library/library_files.h"
 #include "library/library_pair.h"
 #include "library/pair_guard.h"
-#include "solver/solutions.h"
 #include "solver/ladder.h"
+#include "solver/solutions.h"
 
 namespace tavi {
 
