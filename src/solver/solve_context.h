@@ -7,10 +7,12 @@
 
 #include <cstdint>
 #include <functional>
+#include <memory>
 
 #include "grid/board.h"
 #include "grid/notifier.h"
 #include "solver/hint_record.h"
+#include "solver/scratch.h"
 
 namespace tavi {
 
@@ -93,6 +95,15 @@ struct SolveContext {
     bool AutosolveActive() const { return mode_.AutosolveActive(); }
     bool BatchRunning() const { return mode_.BatchRunning(); }
 
+    // The techniques' working memory (see scratch.h), made at first use.
+    SolverScratch& Scratch() {
+        if (!scratch_) scratch_ = std::make_shared<SolverScratch>();
+        return *scratch_;
+    }
+    // Leaves the shared working memory for one of this context's own, as a context
+    // handed to another thread must.
+    void OwnScratch() { scratch_.reset(); }
+
     void RaiseLevel(int level) {
         if (SolvingLevel < level) SolvingLevel = level;
     }
@@ -103,6 +114,7 @@ struct SolveContext {
   private:
     friend class ModeScope;
     SolveMode mode_;
+    std::shared_ptr<SolverScratch> scratch_;
 };
 
 // Sets the solver's mode for as long as it lives and puts the previous mode back
