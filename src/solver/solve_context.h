@@ -10,7 +10,7 @@
 #include <memory>
 
 #include "grid/board.h"
-#include "grid/notifier.h"
+#include "platform/notifier.h"
 #include "solver/hint_record.h"
 #include "solver/scratch.h"
 
