@@ -82,13 +82,13 @@ void BM_NiceLoopsLong(benchmark::State& s) {
     TimeRung(s, [](SolveContext& c) { return NiceLoops(c, 7) != 0; });
 }
 void BM_AIC10(benchmark::State& s) {
-    TimeRung(s, [](SolveContext& c) { return AIC(c, 10, 6) != 0; });
+    TimeRung(s, [](SolveContext& c) { return AIC(c, 10) != 0; });
 }
 void BM_AIC20(benchmark::State& s) {
-    TimeRung(s, [](SolveContext& c) { return AIC(c, 20, 7) != 0; });
+    TimeRung(s, [](SolveContext& c) { return AIC(c, 20) != 0; });
 }
 void BM_AIC30(benchmark::State& s) {
-    TimeRung(s, [](SolveContext& c) { return AIC(c, 30, 8) != 0; });
+    TimeRung(s, [](SolveContext& c) { return AIC(c, 30) != 0; });
 }
 BENCHMARK(BM_SimpleColoring)->Iterations(1)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_MultiColor)->Iterations(1)->Unit(benchmark::kMillisecond);

@@ -9,8 +9,8 @@
 #include <string>
 #include <vector>
 
-#include "game/platform.h"
 #include "hints/hint_paint.h"
+#include "platform/platform.h"
 #include "settings/colors.h"
 
 namespace tavi {

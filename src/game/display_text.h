@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "grid/notifier.h"
+#include "platform/notifier.h"
 
 namespace tavi {
 

@@ -4,8 +4,8 @@
 
 #include <string_view>
 
-#include "grid/notifier.h"
 #include "library/library_files.h"
+#include "platform/notifier.h"
 #include "settings/options.h"
 #include "settings/settings_store.h"
 

@@ -6,8 +6,8 @@
 
 #include <string>
 
-#include "game/platform.h"
 #include "library/records.h"
+#include "platform/platform.h"
 #include "settings/options.h"
 
 namespace tavi {

@@ -10,9 +10,9 @@
 #include <string>
 #include <vector>
 
-#include "game/platform.h"
 #include "grid/board.h"
 #include "hints/hint_paint.h"
+#include "platform/platform.h"
 #include "solver/hint_record.h"
 
 namespace tavi {

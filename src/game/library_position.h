@@ -8,9 +8,9 @@
 #include <cstdint>
 #include <string_view>
 
-#include "grid/notifier.h"
 #include "library/library_files.h"
 #include "library/records.h"
+#include "platform/notifier.h"
 #include "settings/settings_store.h"
 
 namespace tavi {

@@ -7,9 +7,9 @@
 #include <filesystem>
 
 #include "game/library_position.h"
-#include "game/platform.h"
 #include "library/library_files.h"
 #include "library/records.h"
+#include "platform/platform.h"
 #include "settings/settings_store.h"
 
 namespace tavi {

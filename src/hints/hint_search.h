@@ -14,7 +14,8 @@
 namespace tavi {
 
 // The names written as "Scanning for " + name + " - Please be patient" before
-// each rung: Hint's and Autosolve's words differ for three techniques.
+// each rung, from the technique catalog: Hint's and Autosolve's words differ for
+// three techniques.
 std::string_view HintScanName(const Rung& rung);
 std::string_view AutosolveScanName(const Rung& rung);
 std::string ScanningText(std::string_view name);

@@ -10,9 +10,9 @@
 #include <string_view>
 
 #include "grid/board.h"
-#include "grid/notifier.h"
 #include "library/library_files.h"
 #include "library/records.h"
+#include "platform/notifier.h"
 
 namespace tavi {
 

@@ -7,8 +7,8 @@
 #include <string>
 #include <string_view>
 
-#include "grid/notifier.h"
 #include "library/library_files.h"
+#include "platform/notifier.h"
 
 namespace tavi {
 

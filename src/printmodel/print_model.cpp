@@ -5,7 +5,7 @@
 #include "grid/candidates.h"
 #include "grid/levels.h"
 #include "library/library_files.h"
-#include "settings/technique_manager.h"
+#include "settings/technique_catalog.h"
 #include "solver/ladder.h"
 #include "solver/solve_context.h"
 
@@ -165,7 +165,7 @@ std::vector<TechniqueCount> TechniquesNeeded(const Digits& puzzle) {
     std::vector<TechniqueCount> counts;
     WorkbenchRun run;
     run.observer.hit = [&](const Rung& rung) {
-        const std::string name(kTechniqueRows[std::size_t(rung.number)].caption);
+        const std::string name(TechniqueCaption(rung.number));
         auto it = std::find_if(counts.begin(), counts.end(),
                                [&](const TechniqueCount& t) { return t.name == name; });
         if (it == counts.end())

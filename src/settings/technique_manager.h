@@ -6,6 +6,7 @@
 #include <array>
 #include <string_view>
 
+#include "settings/technique_catalog.h"
 #include "settings/technique_tables.h"
 
 namespace tavi {
@@ -15,48 +16,14 @@ struct TechniqueRow {
     std::string_view label;  // the level, as the box's tip
 };
 
-inline constexpr std::array<TechniqueRow, kTechniqueCount> kTechniqueRows = {{
-    {"Bad Solved Cell", "Error indication"},
-    {"Missing Candidate", "Error indication"},
-    {"Solved Cell Exclusion", "Candidate"},
-    {"Hidden Single", "Easy level"},
-    {"Naked Single", "Easy level"},
-    {"Pointing Pair/Triple", "Medium level"},
-    {"Box-Line Reduction", "Medium level"},
-    {"Naked/Hidden Subset", "Hard level"},
-    {"X-Wing", "Crazy level"},
-    {"Swordfish", "Crazy level"},
-    {"Multi-value X-Wing", "Crazy level"},
-    {"Empty Rectangle", "Crazy level"},
-    {"XY-Wing", "Insane level"},
-    {"Two-String Kite", "Insane level"},
-    {"Skyscraper", "Insane level"},
-    {"XYZ-Wing", "Insane level"},
-    {"Simple Colors", "Insane level"},
-    {"Jellyfish", "Kamikaze level"},
-    {"WXYZ-Wing", "Kamikaze level"},
-    {"Multi Colors", "Kamikaze level"},
-    {"Finned X-Wing", "Kamikaze level"},
-    {"3D Medusa", "Kamikaze level"},
-    {"Sue-de-Coq", "Kamikaze level"},
-    {"Aligned Pair Exclusion", "Kamikaze level"},
-    {"Unique Rectangle", "Kamikaze level"},
-    {"Avoidable Rectangle", "Kamikaze level"},
-    {"Extended APE", "Kamikaze level"},
-    {"Bivalue Universal Grave +1", "Kamikaze level"},
-    {"Short Nice Loops", "Kamikaze level"},
-    {"Short AIC's", "Kamikaze level"},
-    {"XY-Chain", "Extreme level"},
-    {"Aligned Triple Exclusion", "Extreme level"},
-    {"Long Nice Loops", "Extreme level"},
-    {"Medium AIC's", "Extreme level"},
-    {"ALS - XZ", "Extreme level"},
-    {"MultiFish", "Extreme level"},
-    {"Forcing Chain", "Extreme level"},
-    {"Extended ATE", "Mayhem level"},
-    {"Long AIC's", "Mayhem level"},
-    {"Bifurcation", "Mayhem level"},
-}};
+// The manager's rows, from the technique catalog.
+constexpr std::array<TechniqueRow, kTechniqueCount> MakeTechniqueRows() {
+    std::array<TechniqueRow, kTechniqueCount> rows{};
+    for (int i = 0; i < kTechniqueCount; ++i)
+        rows[std::size_t(i)] = {TechniqueCaption(i), TechniqueTip(i)};
+    return rows;
+}
+inline constexpr std::array<TechniqueRow, kTechniqueCount> kTechniqueRows = MakeTechniqueRows();
 
 inline constexpr std::string_view kTechniqueManagerTitle = "Solving Techniques Manager";
 

@@ -9,28 +9,26 @@
 namespace tavi {
 
 bool Bifurcation(SolveContext& ctx) {
-    Board& b = ctx.board;
-    const auto entryCandidates = b.Candidates;
-    const auto entryGrid = b.CurrentGrid;
+    const Board& b = ctx.board;
     int trials = 0;
 
     for (int digit = 1; digit <= 9; ++digit) {
         for (int cell = 0; cell < 81; ++cell) {
-            const CandidateMask entry = entryCandidates[cell];
+            const CandidateMask entry = b.Candidates[cell];
             if (CountDigits(entry) != 2 || !HasDigit(entry, digit)) continue;
 
-            // The trials change the board for real, whatever the caller's mode: they
-            // never fill a hint record and never reach the move log.
+            // Each trial runs on a copy of the context, whose board it changes for
+            // real whatever the caller's mode: it never fills the caller's hint
+            // record, never reaches the move log, and leaves the board and the
+            // level as they were.
+            SolveContext trial = ctx;
+            trial.listener = nullptr;
             bool solved = false;
             {
-                ModeScope trial(
-                    ctx, ctx.Mode().Without(SolveMode::kHintOnly).With(SolveMode::kForceZet));
-                solved = BIFSolveSudoku(ctx, digit, cell);
+                ModeScope forced(
+                    trial, trial.Mode().Without(SolveMode::kHintOnly).With(SolveMode::kForceZet));
+                solved = BIFSolveSudoku(trial, digit, cell);
             }
-            // Put the board back from the entry state, not from a log.
-            b.Candidates = entryCandidates;
-            b.CurrentGrid = entryGrid;
-            ctx.hint.Conclusions.Clear();
             ++trials;
             if (!solved) continue;
             ctx.stepSize = {.links = 0, .trials = trials};
@@ -39,12 +37,12 @@ bool Bifurcation(SolveContext& ctx) {
                 ctx.hint.HintCell = cell;
                 ctx.hint.HintNumber = digit;
                 ctx.hint.HintKind = 20;
-                PlaceDigit(ctx, digit, cell, 8);
+                PlaceDigit(ctx, digit, cell);
                 return true;
             }
             // The guess itself is a step of the game while Autosolve plays.
             ModeScope guess(ctx, ctx.Mode().Without(SolveMode::kForceZet));
-            PlaceDigit(ctx, digit, cell, 8);
+            PlaceDigit(ctx, digit, cell);
             return true;
         }
     }

@@ -15,83 +15,76 @@ constexpr RungOutcome LoopResult(int r) { return {r == 1 || r == 2 || r == 3, r 
 // MultiColor: below 0 nothing, 0 removed, above 0 that many placed.
 constexpr RungOutcome ColorResult(int r) { return {r >= 0, r > 0 ? r : 0}; }
 
+// The routine of each rung, in the catalog's order (kRungCatalog).
+struct Routine {
+    int number;
+    RungOutcome (*run)(SolveContext&);
+};
+
 #define TAVI_RUNG(expr) [](SolveContext& ctx) { return expr; }
 
-constexpr Rung kRungs[] = {
-    {3, TAVI_RUNG(Placed(HiddenSingle(ctx))), 1, " - Scanning for Hidden Singles", {2, 0}},
-    {4, TAVI_RUNG(Placed(NakedSingle(ctx))), 1, " - Scanning for Naked Singles", {1, 0}},
-    {5, TAVI_RUNG(Removed(PointingPair(ctx))), 2, " - Scanning for Pointing Pairs", {3, 0}},
-    {6, TAVI_RUNG(Removed(BoxLine(ctx))), 2, " - Scanning for Box/Line Reductions", {4, 0}},
-    {7, TAVI_RUNG(Removed(NakedHidden(ctx, true, 2))), 3, " - Scanning for Naked Pairs", {5, 0}},
-    {7, TAVI_RUNG(Removed(NakedHidden(ctx, true, 3))), 3, " - Scanning for Naked Triplets", {5, 0}},
-    {7, TAVI_RUNG(Removed(NakedHidden(ctx, false, 2))), 3, " - Scanning for Hidden Pairs", {5, 0}},
-    {7, TAVI_RUNG(Removed(NakedHidden(ctx, true, 4))), 3, " - Scanning for Naked Quads", {5, 0}},
-    {7,
-     TAVI_RUNG(Removed(NakedHidden(ctx, false, 3))),
-     3,
-     " - Scanning for Hidden Triplets",
-     {5, 0}},
-    {7, TAVI_RUNG(Removed(NakedHidden(ctx, true, 5))), 3, " - Scanning for Naked Quints", {5, 0}},
-    {8, TAVI_RUNG(Removed(XWing(ctx))), 4, " - Scanning for X-Wing", {6, 0}},
-    {9, TAVI_RUNG(Removed(SwordFish(ctx))), 4, " - Scanning for Swordfish", {7, 0}},
-    {10, TAVI_RUNG(Removed(MultiXWing(ctx))), 4, " - Scanning for Multi-value X-Wing", {8, 0}},
-    {11, TAVI_RUNG(Removed(EmptyRectangle(ctx))), 4, " - Scanning for Empty Rectangle", {9, 0}},
-    {12, TAVI_RUNG(Removed(XYWing(ctx))), 5, " - Scanning for XY-Wing", {10, 0}},
-    {13, TAVI_RUNG(Removed(TwoStringKite(ctx))), 5, " - Scanning for Two String Kite", {25, 0}},
-    {14, TAVI_RUNG(Removed(Skyscraper(ctx))), 5, " - Scanning for Skyscraper", {26, 0}},
-    {15, TAVI_RUNG(Removed(XYZWing(ctx))), 5, " - Scanning for XYZ-Wing", {11, 0}},
-    {16, TAVI_RUNG(Removed(SimpleColoring(ctx))), 5, " - Scanning for Simple-Colour", {12, 21}},
-    {17, TAVI_RUNG(Removed(JellyFish(ctx))), 6, " - Scanning for Jellyfish", {13, 0}},
-    {18, TAVI_RUNG(Removed(WXYZWing(ctx))), 6, " - Scanning for WXYZ-Wing", {14, 0}},
-    {19, TAVI_RUNG(ColorResult(MultiColor(ctx))), 6, " - Scanning for Multi-Colour", {22, 23}},
-    {20, TAVI_RUNG(Removed(FinnedXWing(ctx))), 6, " - Scanning for Finned X-Wing", {15, 0}},
-    {21, TAVI_RUNG(Removed(Medusa(ctx))), 6, " - Scanning for 3D Medusa", {34, 0}},
-    {22, TAVI_RUNG(Removed(SueDeCoq(ctx))), 6, " - Scanning for Sue-De-Coq", {27, 0}},
-    {23, TAVI_RUNG(Removed(APE(ctx))), 6, " - Scanning for (Aligned) Pair Exclusion", {16, 0}},
-    {24, TAVI_RUNG(Removed(UniqueRectangle(ctx))), 6, " - Scanning for Unique Rectangle", {29, 0}},
-    {25,
-     TAVI_RUNG(Removed(AvoidableRectangle(ctx))),
-     6,
-     " - Scanning for Avoidable Rectangle",
-     {30, 0}},
-    {26,
-     TAVI_RUNG(Removed(ExtendedAPE(ctx))),
-     6,
-     " - Scanning for Extended Aligned Pair Exclusion",
-     {16, 0}},
-    {27, TAVI_RUNG(Removed(BUG(ctx))), 6, " - Scanning for Bivalue Universal Grave", {24, 0}},
-    {28, TAVI_RUNG(LoopResult(NiceLoops(ctx, 6))), 6, " - Scanning for Nice Loop", {28, 0}},
-    {29,
-     TAVI_RUNG(LoopResult(AIC(ctx, 10, 6))),
-     6,
-     " - Scanning for Alternating Inference Chains",
-     {31, 0}},
-    {30, TAVI_RUNG(Removed(XYChain(ctx))), 7, " - Scanning for XY-Chain", {18, 19}},
-    {31, TAVI_RUNG(Removed(ATE(ctx))), 7, " - Scanning for Aligned Triple Exclusion", {17, 0}},
-    {32, TAVI_RUNG(LoopResult(NiceLoops(ctx, 7))), 7, " - Scanning for Nice Loop", {28, 0}},
-    {33,
-     TAVI_RUNG(LoopResult(AIC(ctx, 20, 7))),
-     7,
-     " - Scanning for Alternating Inference Chains",
-     {31, 0}},
-    {34, TAVI_RUNG(Removed(ALSxz(ctx))), 7, " - Scanning for ALS-xz", {32, 33}},
-    {35, TAVI_RUNG(Removed(MultiFish(ctx))), 7, " - Scanning for MultiFish", {37, 0}},
-    {36, TAVI_RUNG(Removed(Forcing(ctx))), 7, " - Scanning for Forcing Chain", {35, 36}},
-    {37,
-     TAVI_RUNG(Removed(ExtendedATE(ctx))),
-     8,
-     " - Scanning for Extended Aligned Triple Exclusion",
-     {17, 0}},
-    {38,
-     TAVI_RUNG(LoopResult(AIC(ctx, 30, 8))),
-     8,
-     " - Scanning for Alternating Inference Chains",
-     {31, 0}},
-    {39, TAVI_RUNG(Placed(Bifurcation(ctx))), 8, " - Scanning for Bifurcation", {20, 0}},
+constexpr Routine kRoutines[] = {
+    {3, TAVI_RUNG(Placed(HiddenSingle(ctx)))},
+    {4, TAVI_RUNG(Placed(NakedSingle(ctx)))},
+    {5, TAVI_RUNG(Removed(PointingPair(ctx)))},
+    {6, TAVI_RUNG(Removed(BoxLine(ctx)))},
+    {7, TAVI_RUNG(Removed(NakedHidden(ctx, true, 2)))},
+    {7, TAVI_RUNG(Removed(NakedHidden(ctx, true, 3)))},
+    {7, TAVI_RUNG(Removed(NakedHidden(ctx, false, 2)))},
+    {7, TAVI_RUNG(Removed(NakedHidden(ctx, true, 4)))},
+    {7, TAVI_RUNG(Removed(NakedHidden(ctx, false, 3)))},
+    {7, TAVI_RUNG(Removed(NakedHidden(ctx, true, 5)))},
+    {8, TAVI_RUNG(Removed(XWing(ctx)))},
+    {9, TAVI_RUNG(Removed(SwordFish(ctx)))},
+    {10, TAVI_RUNG(Removed(MultiXWing(ctx)))},
+    {11, TAVI_RUNG(Removed(EmptyRectangle(ctx)))},
+    {12, TAVI_RUNG(Removed(XYWing(ctx)))},
+    {13, TAVI_RUNG(Removed(TwoStringKite(ctx)))},
+    {14, TAVI_RUNG(Removed(Skyscraper(ctx)))},
+    {15, TAVI_RUNG(Removed(XYZWing(ctx)))},
+    {16, TAVI_RUNG(Removed(SimpleColoring(ctx)))},
+    {17, TAVI_RUNG(Removed(JellyFish(ctx)))},
+    {18, TAVI_RUNG(Removed(WXYZWing(ctx)))},
+    {19, TAVI_RUNG(ColorResult(MultiColor(ctx)))},
+    {20, TAVI_RUNG(Removed(FinnedXWing(ctx)))},
+    {21, TAVI_RUNG(Removed(Medusa(ctx)))},
+    {22, TAVI_RUNG(Removed(SueDeCoq(ctx)))},
+    {23, TAVI_RUNG(Removed(APE(ctx)))},
+    {24, TAVI_RUNG(Removed(UniqueRectangle(ctx)))},
+    {25, TAVI_RUNG(Removed(AvoidableRectangle(ctx)))},
+    {26, TAVI_RUNG(Removed(ExtendedAPE(ctx)))},
+    {27, TAVI_RUNG(Removed(BUG(ctx)))},
+    {28, TAVI_RUNG(LoopResult(NiceLoops(ctx, 6)))},
+    {29, TAVI_RUNG(LoopResult(AIC(ctx, 10)))},
+    {30, TAVI_RUNG(Removed(XYChain(ctx)))},
+    {31, TAVI_RUNG(Removed(ATE(ctx)))},
+    {32, TAVI_RUNG(LoopResult(NiceLoops(ctx, 7)))},
+    {33, TAVI_RUNG(LoopResult(AIC(ctx, 20)))},
+    {34, TAVI_RUNG(Removed(ALSxz(ctx)))},
+    {35, TAVI_RUNG(Removed(MultiFish(ctx)))},
+    {36, TAVI_RUNG(Removed(Forcing(ctx)))},
+    {37, TAVI_RUNG(Removed(ExtendedATE(ctx)))},
+    {38, TAVI_RUNG(LoopResult(AIC(ctx, 30)))},
+    {39, TAVI_RUNG(Placed(Bifurcation(ctx)))},
 };
 #undef TAVI_RUNG
 
-constexpr int kRungCount = int(std::size(kRungs));
+static_assert(std::size(kRoutines) == std::size(kRungCatalog));
+
+constexpr std::array<Rung, kRungCount> MakeRungs() {
+    std::array<Rung, kRungCount> rungs{};
+    for (int i = 0; i < kRungCount; ++i)
+        rungs[i] = Rung{kRungCatalog[i], kRoutines[i].run, kRungCatalog[i].Level()};
+    return rungs;
+}
+constexpr bool RoutinesMatchCatalog() {
+    for (int i = 0; i < kRungCount; ++i)
+        if (kRoutines[i].number != kRungCatalog[i].number) return false;
+    return true;
+}
+static_assert(RoutinesMatchCatalog());
+
+constexpr std::array<Rung, kRungCount> kRungs = MakeRungs();
 constexpr int kHeadCount = 10;  // techniques 3..7: the fixed head of every ladder
 
 static_assert(kRungs[kHeadCount].number == kFirstOrderedTechnique);
@@ -103,7 +96,7 @@ bool IsSingle(const Rung& r) { return r.number == 3 || r.number == 4; }
 RungOrder TableOrder(int count) {
     RungOrder order;
     for (int i = 0; i < count; ++i)
-        order.Add(&kRungs[i]);
+        order.Add(&kRungs[size_t(i)]);
     return order;
 }
 const RungOrder kFixedOrder = TableOrder(kRungCount);
@@ -130,20 +123,20 @@ std::span<const Rung> LadderRungs() { return kRungs; }
 
 std::span<const Rung> RungsOf(int technique) {
     int first = 0;
-    while (first < kRungCount && kRungs[first].number != technique)
+    while (first < kRungCount && kRungs[size_t(first)].number != technique)
         ++first;
     int last = first;
-    while (last < kRungCount && kRungs[last].number == technique)
+    while (last < kRungCount && kRungs[size_t(last)].number == technique)
         ++last;
-    return {kRungs + first, kRungs + last};
+    return {kRungs.data() + first, kRungs.data() + last};
 }
 
-int RungIndex(const Rung& rung) { return int(&rung - kRungs); }
+int RungIndex(const Rung& rung) { return int(&rung - kRungs.data()); }
 
 RungOrder OrderedRungs(const TechniqueOrder& order, const std::function<bool(int)>& on) {
     RungOrder rungs;
     for (int i = 0; i < kHeadCount; ++i)
-        rungs.Add(&kRungs[i]);
+        rungs.Add(&kRungs[size_t(i)]);
     // The technique at each position; where two entries share one, the higher
     // number wins.
     std::array<int, kTechniqueCount> at{};
@@ -172,7 +165,7 @@ WalkResult WalkLadder(SolveContext& ctx, const LadderWalk& walk, int& cellsLeft)
             ctx.hint.Conclusions.Clear();
             ctx.stepSize = {};
             if (walk.modeFor) scope.Set(walk.modeFor(*rung));
-            out = rung->run(ctx);
+            out = RunRung(ctx, *rung);
             scope.Set(scope.Saved());
             if (out.found) {
                 hit = rung;
@@ -190,10 +183,16 @@ WalkResult WalkLadder(SolveContext& ctx, const LadderWalk& walk, int& cellsLeft)
     }
 }
 
+RungOutcome RunRung(SolveContext& ctx, const Rung& rung) {
+    const RungOutcome out = rung.run(ctx);
+    if (out.found && !ctx.HintOnly()) ctx.RaiseLevel(rung.level);
+    return out;
+}
+
 const Rung* RunTechnique(SolveContext& ctx, int technique) {
     for (const Rung& rung : RungsOf(technique)) {
         ctx.hint.Conclusions.Clear();
-        if (rung.run(ctx).found) return &rung;
+        if (RunRung(ctx, rung).found) return &rung;
     }
     return nullptr;
 }

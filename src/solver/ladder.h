@@ -15,6 +15,7 @@
 #include <string>
 #include <string_view>
 
+#include "settings/technique_catalog.h"
 #include "settings/technique_order.h"
 #include "solver/solve_context.h"
 
@@ -26,15 +27,13 @@ struct RungOutcome {
     int placed = 0;
 };
 
-struct Rung {
-    int number;  // the technique number, the index into the technique tables
+// A rung: its catalog row (number, names, hint kinds, weight) and the routine that
+// runs it. The level comes from the catalog too: the walk raises SolvingLevel to
+// it after a real hit, so no technique raises a level of its own.
+struct Rung : RungEntry {
     RungOutcome (*run)(SolveContext&);
-    int level;                 // what a hit raises SolvingLevel to
-    std::string_view label;    // " - Scanning for ...", shown during a batch run
-    std::array<int, 2> kinds;  // the hint kinds a hit fills (the second 0 when one)
+    int level;  // what a hit raises SolvingLevel to
 
-    // The label without its leading " - Scanning for ".
-    std::string_view Name() const { return label.substr(16); }
     bool Fills(int kind) const { return kind != 0 && (kind == kinds[0] || kind == kinds[1]); }
 };
 
@@ -124,6 +123,11 @@ bool PreSolve(SolveContext& ctx, int& cellsToSolve, bool& contradiction);
 // record's conclusions then hold what the hit concludes. Null for no hit, or for a
 // number that is no rung.
 const Rung* RunTechnique(SolveContext& ctx, int technique);
+
+// Runs one rung once in the context's mode: its routine, and after a real hit (not
+// a hint's look) SolvingLevel raised to the rung's level. Every walk runs its rungs
+// through this.
+RungOutcome RunRung(SolveContext& ctx, const Rung& rung);
 
 // A short name of a rung for counts: its technique number, and for the six subset
 // rows of technique 7 the row as well ("7.1" to "7.6").

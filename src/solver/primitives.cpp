@@ -2,7 +2,7 @@
 
 namespace tavi {
 
-void PlaceDigit(SolveContext& ctx, int digit, int cell, int level) {
+void PlaceDigit(SolveContext& ctx, int digit, int cell) {
     ctx.hint.Conclusions.Add(cell, digit, true);
     if (ctx.HintOnly()) return;
     if (ctx.AutosolveActive() && !ctx.ForceZet() && ctx.listener)
@@ -10,7 +10,6 @@ void PlaceDigit(SolveContext& ctx, int digit, int cell, int level) {
     else
         Zet(ctx.board, digit, cell);
     ctx.board.CurrentGrid[cell] = std::uint8_t(digit);
-    ctx.RaiseLevel(level);
 }
 
 }  // namespace tavi

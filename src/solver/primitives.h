@@ -21,10 +21,10 @@ inline bool VerwijderKnop(SolveContext& ctx, int digit, int cell) {
     return true;
 }
 
-// Places a digit found by a technique and raises the level. Under HintOnly it only
+// Places a digit found by a technique (the walk raises the level). Under HintOnly it only
 // writes the placement down among the conclusions. Otherwise it places through the
 // game's ZetAuto while Autosolve is placing (and ForceZet is not set), else through
 // Zet, and writes CurrentGrid.
-void PlaceDigit(SolveContext& ctx, int digit, int cell, int level);
+void PlaceDigit(SolveContext& ctx, int digit, int cell);
 
 }  // namespace tavi

@@ -7,10 +7,12 @@
 
 #include <cstdint>
 #include <functional>
+#include <memory>
 
 #include "grid/board.h"
-#include "grid/notifier.h"
+#include "platform/notifier.h"
 #include "solver/hint_record.h"
+#include "solver/scratch.h"
 #include "solver/step_size.h"
 
 namespace tavi {
@@ -95,6 +97,15 @@ struct SolveContext {
     bool AutosolveActive() const { return mode_.AutosolveActive(); }
     bool BatchRunning() const { return mode_.BatchRunning(); }
 
+    // The techniques' working memory (see scratch.h), made at first use.
+    SolverScratch& Scratch() {
+        if (!scratch_) scratch_ = std::make_shared<SolverScratch>();
+        return *scratch_;
+    }
+    // Leaves the shared working memory for one of this context's own, as a context
+    // handed to another thread must.
+    void OwnScratch() { scratch_.reset(); }
+
     void RaiseLevel(int level) {
         if (SolvingLevel < level) SolvingLevel = level;
     }
@@ -105,6 +116,7 @@ struct SolveContext {
   private:
     friend class ModeScope;
     SolveMode mode_;
+    std::shared_ptr<SolverScratch> scratch_;
 };
 
 // Sets the solver's mode for as long as it lives and puts the previous mode back

@@ -1,7 +1,8 @@
 // Every technique of the ladder, one routine each. A technique reads the
 // candidates, stops at its first hit, removes candidates or places a digit through
-// the primitives, raises SolvingLevel to its own level and answers true. Under
-// HintOnly it changes nothing and fills the hint record instead.
+// the primitives and answers true; the walk then raises SolvingLevel to the rung's
+// level in the technique catalog. Under HintOnly it changes nothing and fills the
+// hint record instead.
 //
 #pragma once
 
@@ -64,8 +65,9 @@ bool AvoidableRectangle(SolveContext& ctx);
 bool ExtendedAPE(SolveContext& ctx);
 bool BUG(SolveContext& ctx);
 // 1 or 3 candidates removed, 2 one digit placed, anything else nothing found.
+// NiceLoops with 6 walks the short loops, with 7 the long ones (the level of its rung).
 int NiceLoops(SolveContext& ctx, int newLevel);
-int AIC(SolveContext& ctx, int chainLimit, int newLevel);
+int AIC(SolveContext& ctx, int chainLimit);
 bool XYChain(SolveContext& ctx);
 bool ATE(SolveContext& ctx);
 bool ALSxz(SolveContext& ctx);

@@ -5,7 +5,7 @@
 #include <QUrl>
 #include <string>
 
-#include "game/platform.h"
+#include "platform/platform.h"
 
 namespace tavi::ui {
 

@@ -181,7 +181,8 @@ QWidget* PrintWindow::MakeInclude() {
     pencils_ = check("CheckPencils", "Pencilmarks", &PrintSettings::PrintPencils);
     solutions_ = check("CheckSolution", "Solutions", &PrintSettings::PrintSolutions);
     teaching_ = check("CheckTeaching", "Techniques used", &PrintSettings::PrintTeaching);
-    pencils_->setToolTip(QStringLiteral("Clear it to print the on-screen puzzle without its marks"));
+    pencils_->setToolTip(
+        QStringLiteral("Clear it to print the on-screen puzzle without its marks"));
     teaching_->setToolTip(
         QStringLiteral("Under each puzzle, the techniques its solution needs and how often"));
     column->addWidget(current_);

@@ -6,7 +6,7 @@
 #include <QWidget>
 #include <memory>
 
-#include "game/platform.h"
+#include "platform/platform.h"
 
 class QMessageBox;
 

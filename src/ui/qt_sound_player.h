@@ -8,7 +8,7 @@
 #include <filesystem>
 #include <memory>
 
-#include "game/platform.h"
+#include "platform/platform.h"
 
 class QSoundEffect;
 

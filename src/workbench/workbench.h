@@ -15,8 +15,8 @@
 #include <vector>
 
 #include "grid/levels.h"
-#include "grid/notifier.h"
 #include "library/records.h"
+#include "platform/notifier.h"
 #include "settings/technique_order.h"
 #include "solver/solve_context.h"
 #include "workbench/check_report.h"

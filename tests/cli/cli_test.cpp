@@ -185,7 +185,7 @@ TEST(CliSteps, OneLinePerHitThenTheResult) {
     const auto lines = Lines(o.out);
     ASSERT_EQ(lines.size(), 6u) << o.out;
     const Digits solution = testing::GeneratedPuzzles(1)[0].solution;
-    EXPECT_EQ(lines[0], "step\t1\t3\tHidden Singles\tA1=" + std::to_string(solution[0]));
+    EXPECT_EQ(lines[0], "step\t1\t3\tHidden Single\tA1=" + std::to_string(solution[0]));
     EXPECT_EQ(lines[5], "result\tsolved\t1\tEasy");
     EXPECT_EQ(RunSteps(Text(DeadCell()) + "\n").out, "result\tunsolved\t9\tOutlaw\n");
 }

@@ -1,13 +1,14 @@
-// The ladder's signature over a fixed list of generated puzzles must stay as it
-// is recorded: a change of any rung's behaviour shows here. When the change is
-// meant (a new technique), the file is made again with the command in its header.
+// The ladder's signature over a fixed list of puzzles must stay as it is recorded:
+// a change of any rung's behaviour shows here. The puzzles are the first column of
+// the file itself, so a change of the generator cannot move this check. When a
+// change of the ladder is meant (a new technique), the file is made again with the
+// command in its header.
 #include <gtest/gtest.h>
 
 #include <fstream>
 #include <sstream>
 
 #include "cli/commands.h"
-#include "cli/library_commands.h"
 #include "support/puzzles.h"
 
 namespace tavi::cli {
@@ -21,9 +22,10 @@ TEST(LadderSignature, StaysAsRecorded) {
         if (!line.empty() && line[0] != '#') expected.push_back(line);
     ASSERT_EQ(expected.size(), 301u) << "300 puzzles and the line of hits per rung";
 
-    std::ostringstream puzzles;
-    ASSERT_EQ(Generate(300, 4242, puzzles), 0);
-    std::istringstream in(puzzles.str());
+    std::string puzzles;
+    for (size_t i = 0; i + 1 < expected.size(); ++i)
+        puzzles += expected[i].substr(0, expected[i].find('\t')) + '\n';
+    std::istringstream in(puzzles);
     std::ostringstream out, err;
     ASSERT_EQ(Signature(in, out, err), 0);
     const auto got = testing::Lines(out.str());

@@ -66,7 +66,7 @@ TEST(PlaceDigit, FollowsTheMode) {
                                 .With(SolveMode::kHintOnly, k.hintOnly)
                                 .With(SolveMode::kAutosolveActive, k.autosolve)
                                 .With(SolveMode::kForceZet, k.forceZet));
-        PlaceDigit(ctx, 7, 20, 1);
+        PlaceDigit(ctx, 7, 20);
         EXPECT_EQ(ctx.board.Candidates, k.places ? expected.Candidates : b.Candidates);
         EXPECT_EQ(ctx.board.CurrentGrid[20], k.places ? 7 : 0);
         EXPECT_EQ(listener.placed.size(), k.heard ? 1u : 0u);

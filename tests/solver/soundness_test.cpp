@@ -115,9 +115,10 @@ std::vector<GeneratedPuzzle> HardPuzzles() {
 }
 
 // Every rung on its own, so that a rung is checked on many boards even where an
-// easier rung would have come first: at every state that the ladder passes through
-// on generated puzzles (and on the grave puzzles, kept for the rare rungs), and at
-// every state of the hardest puzzles where the head of the ladder has nothing left.
+// easier rung would have come first, for its soundness and for the level it
+// raises: at every state that the ladder passes through on generated puzzles (and
+// on the grave puzzles, kept for the rare rungs), and at every state of the
+// hardest puzzles where the head of the ladder has nothing left.
 TEST(Soundness, EveryRungOnItsOwnKeepsTheSolution) {
     const auto& generated = testing::GeneratedPuzzles(kPuzzles);
     std::vector<GeneratedPuzzle> puzzles(generated.begin(), generated.begin() + 300);
@@ -146,7 +147,13 @@ TEST(Soundness, EveryRungOnItsOwnKeepsTheSolution) {
                 if (rare && rungs[r].number == kBifurcationTechnique) continue;
                 if (stalledOnly && rungs[r].number < kFirstOrderedTechnique) continue;
                 SolveContext trial = ctx;
-                if (!rungs[r].run(trial).found) continue;
+                trial.SolvingLevel = 0;
+                const bool found = RunRung(trial, rungs[r]).found;
+                // A hit raises exactly its catalog level, a miss none.
+                if (trial.SolvingLevel != (found ? rungs[r].level : 0))
+                    failure =
+                        Describe(p, rungs[r], step, "level " + std::to_string(trial.SolvingLevel));
+                if (!found) continue;
                 ++hits[r];
                 const std::string fault = FaultAgainst(trial.board, p.solution);
                 if (!fault.empty()) failure = Describe(p, rungs[r], step, fault);

@@ -228,9 +228,18 @@ struct AlsSet {
 // with some cells left out makes the same sets less those that use a left-out cell,
 // in the same order; so one list per unit and cell serves every second set the
 // search looks for there. Lists are made when first asked for, for one board.
+// The lists live in the context's scratch, so that the next call reuses their memory.
+struct SecondSetLists {
+    std::array<std::vector<AlsSet>, 27 * 81> lists;
+    std::array<std::uint32_t, 27 * 81> stamp{};  // the board each list was made for
+    std::uint32_t board = 0;
+    std::vector<AlsSet> firstSets[3];  // ALSxz_2's first sets, by kind of unit
+};
+
 class SecondSets {
   public:
-    explicit SecondSets(const CandidateMask (&digits)[81]) : digits_(digits) {
+    SecondSets(const CandidateMask (&digits)[81], SecondSetLists& memo)
+        : digits_(digits), lists_(memo.lists), stamp_(memo.stamp), board_(memo.board) {
         if (++board_ == 0) {  // the counter went round: forget every list
             stamp_.fill(0);
             board_ = 1;
@@ -256,13 +265,10 @@ class SecondSets {
 
   private:
     const CandidateMask (&digits_)[81];
-    static thread_local std::array<std::vector<AlsSet>, 27 * 81> lists_;
-    static thread_local std::array<std::uint32_t, 27 * 81> stamp_;
-    static thread_local std::uint32_t board_;
+    std::array<std::vector<AlsSet>, 27 * 81>& lists_;
+    std::array<std::uint32_t, 27 * 81>& stamp_;
+    std::uint32_t& board_;
 };
-thread_local std::array<std::vector<AlsSet>, 27 * 81> SecondSets::lists_;
-thread_local std::array<std::uint32_t, 27 * 81> SecondSets::stamp_{};
-thread_local std::uint32_t SecondSets::board_ = 0;
 
 // ALSxz_3: a second set against the first one (`set1`, generated from `base` in a
 // unit of kind `mode1`), joined by x.
@@ -367,8 +373,9 @@ bool ALSxz_2(SolveContext& ctx, const Holders& all, AlsPairHit& out) {
     for (int c = 0; c < 81; ++c)
         digits[c] = ctx.board.Candidates[c];
     int pool[9];
-    SecondSets seconds(digits);
-    thread_local std::vector<AlsSet> sets[3];
+    auto& memo = ctx.Scratch().Get<SecondSetLists>(SolverScratch::kAlsXz);
+    SecondSets seconds(digits, memo);
+    std::vector<AlsSet>(&sets)[3] = memo.firstSets;
     for (int i = 0; i < 81; ++i) {
         if (digits[i] == 0) continue;
         bool known[3] = {false, false, false};
@@ -411,7 +418,6 @@ bool ALSxz(SolveContext& ctx) {
         digits[c] = ctx.board.Candidates[c];
     const Holders all(ctx.board);
     if (BiValueStage(ctx, digits, all)) {
-        if (!ctx.HintOnly()) ctx.RaiseLevel(7);
         return true;
     }
 
@@ -438,7 +444,6 @@ bool ALSxz(SolveContext& ctx) {
             if (HasDigit(hit.cands2, k)) RemoveSeeingAll(ctx, perDigit2[k], k);
         }
     }
-    if (!ctx.HintOnly()) ctx.RaiseLevel(7);
     return true;
 }
 

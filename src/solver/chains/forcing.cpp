@@ -180,8 +180,6 @@ bool Forcing(SolveContext& ctx) {
             ctx.hint.HintVariant = v.tally;
             ctx.hint.HintCellCount = v.cell;
             ctx.hint.HintKind = 35;
-        } else {
-            ctx.RaiseLevel(7);
         }
         return true;
     }
@@ -213,8 +211,6 @@ bool Forcing(SolveContext& ctx) {
                 ctx.hint.HintCellCount = digit;
                 ctx.hint.HintValueCount = v.tally < 0 ? 0 : v.tally;
                 ctx.hint.HintKind = 36;
-            } else {
-                ctx.RaiseLevel(7);
             }
             return true;
         }

@@ -22,8 +22,6 @@ using namespace chains;
 
 namespace {
 
-constexpr int kLevel = 6;
-
 int Code(int cell, int digit) { return cell + 81 * (digit - 1); }
 
 struct MedusaSearch {
@@ -229,7 +227,6 @@ struct MedusaSearch {
 bool Medusa(SolveContext& ctx) {
     auto search = std::make_unique<MedusaSearch>(ctx);
     if (!search->Run()) return false;
-    if (!ctx.HintOnly()) ctx.RaiseLevel(kLevel);
     return true;
 }
 

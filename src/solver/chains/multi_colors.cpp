@@ -11,7 +11,6 @@ using namespace chains;
 
 namespace {
 
-constexpr int kLevel = 6;
 constexpr int kNothing = -1;
 enum Flag { kAC = 1, kAD = 2, kBC = 4, kBD = 8 };
 
@@ -61,7 +60,7 @@ int Decide(SolveContext& ctx, int digit, const Colouring& col, const int (&colou
             const bool isFalse = falseMask >> k & 1;
             const bool isTrue = falseMask >> (k ^ 1) & 1;
             if (isTrue) {
-                PlaceDigit(ctx, digit, cell, kLevel);
+                PlaceDigit(ctx, digit, cell);
                 ++placed;
             }
             if (isFalse && !PeerSet(cell).Intersects(placing)) VerwijderKnop(ctx, digit, cell);
@@ -144,7 +143,6 @@ int MultiColor(SolveContext& ctx) {
                 for (const Single& s : kType2) {
                     if (!(flags & s.flag)) continue;
                     if (Trap(ctx, d, col, colours, s.x, s.y)) {
-                        if (!ctx.HintOnly()) ctx.RaiseLevel(kLevel);
                         return 0;
                     }
                     break;

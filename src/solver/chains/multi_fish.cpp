@@ -69,8 +69,6 @@ bool MultiFish(SolveContext& ctx) {
                         for (int i = 0; i < 4; ++i)
                             ctx.hint.HintValues[1 + i] = digits[i];
                         ctx.hint.HintKind = 37;
-                    } else {
-                        ctx.RaiseLevel(7);
                     }
                     return true;
                 }

@@ -120,7 +120,7 @@ struct LoopWalk {
             for (int i = 1; i < p; i += 2)
                 RemoveSeenByBoth(ctx, cells[i], cells[i + 1], digit);
         } else if (result == kStrong) {
-            PlaceDigit(ctx, digit, cells[0], 0);
+            PlaceDigit(ctx, digit, cells[0]);
         } else {
             VerwijderKnop(ctx, digit, cells[p]);
         }
@@ -144,7 +144,6 @@ int NiceLoops(SolveContext& ctx, int newLevel) {
     for (int d = 1; d <= 9; ++d) {
         LoopWalk walk(ctx, d, shortLoops);
         if (const int r = walk.Run(); r != kNone) {
-            if (!ctx.HintOnly()) ctx.RaiseLevel(newLevel);
             return r;
         }
     }

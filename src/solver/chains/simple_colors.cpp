@@ -10,8 +10,6 @@ using namespace chains;
 
 namespace {
 
-constexpr int kLevel = 5;
-
 void FillColoursHint(SolveContext& ctx, int kind, int digit, const Colouring& col, int group,
                      int cellK, int cellM) {
     HintRecord& h = ctx.hint;
@@ -68,7 +66,6 @@ bool SimpleColoring(SolveContext& ctx) {
         const Colouring col = ColourDigit(ctx.board, digit);
         for (int g = 1; g <= col.groups; ++g)
             if (ColourWrap(ctx, digit, col, g) || ColourTrap(ctx, digit, col, g)) {
-                if (!ctx.HintOnly()) ctx.RaiseLevel(kLevel);
                 return true;
             }
     }

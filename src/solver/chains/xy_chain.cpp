@@ -15,8 +15,6 @@ using namespace chains;
 
 namespace {
 
-constexpr int kLevel = 7;
-
 struct Link {
     int cell;
     int exit;  // the digit by which the chain leaves the cell
@@ -202,7 +200,6 @@ bool XYChain(SolveContext& ctx) {
     XYSearch search(ctx);
     for (int d = 1; d <= 9; ++d)
         if (search.biValueCount[d] > 1 && search.Search(d)) {
-            if (!ctx.HintOnly()) ctx.RaiseLevel(kLevel);
             return true;
         }
     return false;

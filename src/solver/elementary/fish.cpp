@@ -53,7 +53,7 @@ bool RemoveFromCrossLines(SolveContext& ctx, int digit, bool rows, int lineSet, 
 // One fish of `size` lines: the row pass for all digits, then the column pass.
 // An X-Wing line must hold the digit in exactly its two crossing lines; a larger
 // fish's line in any non-empty part of them.
-bool Fish(SolveContext& ctx, int size, int kind, int level) {
+bool Fish(SolveContext& ctx, int size, int kind) {
     const Board& b = ctx.board;
     const bool exact = size == 2;
     // For each digit the mask of each row by column, and of each column by row.
@@ -131,8 +131,6 @@ bool Fish(SolveContext& ctx, int size, int kind, int level) {
                     ctx.hint.HintVariant = pass;
                     ctx.hint.HintCellCount = corner;
                     ctx.hint.HintKind = kind;
-                } else {
-                    ctx.RaiseLevel(level);
                 }
                 return true;
             }
@@ -143,9 +141,9 @@ bool Fish(SolveContext& ctx, int size, int kind, int level) {
 
 }  // namespace
 
-bool XWing(SolveContext& ctx) { return Fish(ctx, 2, 6, 4); }
-bool SwordFish(SolveContext& ctx) { return Fish(ctx, 3, 7, 4); }
-bool JellyFish(SolveContext& ctx) { return Fish(ctx, 4, 13, 6); }
+bool XWing(SolveContext& ctx) { return Fish(ctx, 2, 6); }
+bool SwordFish(SolveContext& ctx) { return Fish(ctx, 3, 7); }
+bool JellyFish(SolveContext& ctx) { return Fish(ctx, 4, 13); }
 
 // An X-Wing whose second line holds one or two extra candidates, the fin, in the
 // box of one of its corners. The base line holds the digit exactly twice, in two
@@ -218,8 +216,6 @@ bool FinnedXWing(SolveContext& ctx) {
                                 h.HintCells[5] = at(finned, c1);
                                 h.HintCells[6] = at(finned, c2);
                                 h.HintKind = 15;
-                            } else {
-                                ctx.RaiseLevel(6);
                             }
                             return true;
                         }
@@ -303,8 +299,6 @@ bool MultiXWingForm(SolveContext& ctx, int form, int unitKind, int clashKind,
                                     h.HintColumn = u2;
                                 }
                                 h.HintKind = 8;
-                            } else {
-                                ctx.RaiseLevel(4);
                             }
                             return true;
                         }

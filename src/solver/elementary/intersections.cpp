@@ -80,8 +80,6 @@ bool PointingPair(SolveContext& ctx) {
                     ctx.hint.HintVariant = segment;
                     ctx.hint.HintNumber = digit;
                     ctx.hint.HintKind = 3;
-                } else {
-                    ctx.RaiseLevel(2);
                 }
                 return true;
             }
@@ -111,8 +109,6 @@ bool BoxLine(SolveContext& ctx) {
                         ctx.hint.HintVariant = kind;
                         (kind == 1 ? ctx.hint.HintRow : ctx.hint.HintColumn) = line;
                         ctx.hint.HintKind = 4;
-                    } else {
-                        ctx.RaiseLevel(2);
                     }
                     return true;
                 }

@@ -149,8 +149,6 @@ bool EmptyRectangle(SolveContext& ctx) {
                     h.HintRow = R;
                     h.HintColumn = C;
                     h.HintKind = 9;
-                } else {
-                    ctx.RaiseLevel(4);
                 }
                 return true;
             }
@@ -223,8 +221,6 @@ bool TwoStringKite(SolveContext& ctx) {
                     h.HintCells[4] = freeColumn;
                     h.HintCellCount = 4;
                     h.HintKind = 25;
-                } else {
-                    ctx.RaiseLevel(5);
                 }
                 return true;
             }
@@ -265,8 +261,6 @@ bool Skyscraper(SolveContext& ctx) {
                             h.HintCells[4] = freeJ;
                             h.HintCellCount = 4;
                             h.HintKind = 26;
-                        } else {
-                            ctx.RaiseLevel(5);
                         }
                         return true;
                     }

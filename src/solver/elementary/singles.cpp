@@ -19,7 +19,7 @@ void ApplySingle(SolveContext& ctx, int digit, int cell, int kind, int unitVaria
             h.HintVariant = unitVariant;
         h.HintKind = kind;
     }
-    PlaceDigit(ctx, digit, cell, 1);
+    PlaceDigit(ctx, digit, cell);
 }
 
 // Digits that stand as a candidate in exactly one cell of the unit.

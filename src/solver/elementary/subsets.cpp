@@ -133,10 +133,7 @@ bool HiddenInUnit(SolveContext& ctx, const UnitState& state, int unit, int size)
         for (int i = 0; i < size; ++i)
             for (int d = 1; d <= 9; ++d)
                 if (!HasDigit(set, d)) VerwijderKnop(ctx, d, cells[i]);
-        if (ctx.HintOnly())
-            FillSubsetHint(ctx, unit, false, size, digits, cells);
-        else
-            ctx.RaiseLevel(3);
+        if (ctx.HintOnly()) FillSubsetHint(ctx, unit, false, size, digits, cells);
         return true;
     });
 }
@@ -197,10 +194,7 @@ bool NakedInUnit(SolveContext& ctx, const UnitState& state, int unit, int size) 
     int cells[5] = {};
     CellsOf(unit, inside, cells);
     Verwijder(ctx, digits, size, cells, unit / 9 + 1);
-    if (ctx.HintOnly())
-        FillSubsetHint(ctx, unit, true, size, digits, cells);
-    else
-        ctx.RaiseLevel(3);
+    if (ctx.HintOnly()) FillSubsetHint(ctx, unit, true, size, digits, cells);
     return true;
 }
 
@@ -225,16 +219,16 @@ bool Verwijder(SolveContext& ctx, const int (&digits)[5], int count, const int (
 // Rows 0..8, then columns, then boxes; the first set that removes something is the hit.
 //
 // The ladder runs the six subset scans again after every hit of any later rung,
-// while most units are as they were. Each thread remembers, per unit, the state it
-// last scanned and which scans came back empty there; an unchanged unit is not
-// scanned again by a scan that found nothing in it.
+// while most units are as they were. The context's scratch remembers, per unit, the
+// state last scanned and which scans came back empty there; an unchanged unit is
+// not scanned again by a scan that found nothing in it.
 bool NakedHidden(SolveContext& ctx, bool naked, int size) {
     if (naked ? (size < 2 || size > 5) : (size < 2 || size > 3)) return false;
     struct Spent {
         UnitState state{Board{}, 0};
         std::uint8_t scans = 0;  // bit per scan: naked 2..5 at 0..3, hidden 2..3 at 4..5
     };
-    thread_local std::array<Spent, 27> spent{};
+    auto& spent = ctx.Scratch().Get<std::array<Spent, 27>>(SolverScratch::kSubsets);
     const std::uint8_t scan = std::uint8_t(1u << (naked ? size - 2 : size + 2));
     for (int unit = 0; unit < 27; ++unit) {
         const UnitState state(ctx.board, unit);

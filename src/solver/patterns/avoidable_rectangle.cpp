@@ -106,7 +106,6 @@ bool ThirdDigit(SolveContext& ctx) {
 
 bool AvoidableRectangle(SolveContext& ctx) {
     if (!RepeatingCorner(ctx) && !ThirdDigit(ctx)) return false;
-    if (!ctx.HintOnly()) ctx.RaiseLevel(6);
     return true;
 }
 
@@ -161,8 +160,6 @@ bool BUG(SolveContext& ctx) {
             h.HintValues[k + 1] = gone[k];
         h.HintValueCount = removed;
         h.HintKind = 24;
-    } else {
-        ctx.RaiseLevel(6);
     }
     return true;
 }

@@ -219,10 +219,7 @@ bool AlignedTriple(SolveContext& ctx, const int (&triple)[3], int line, int box,
                 values[count++] = d + (place == 1 ? 10 : place == 2 ? 100 : 0);
         }
     if (!count) return false;
-    if (ctx.HintOnly())
-        FillExclusion(ctx, 17, variant, row, column, triple, 3, r, values, count);
-    else
-        ctx.RaiseLevel(extended ? 8 : 7);
+    if (ctx.HintOnly()) FillExclusion(ctx, 17, variant, row, column, triple, 3, r, values, count);
     return true;
 }
 
@@ -297,8 +294,6 @@ bool APE(SolveContext& ctx) {
                                                   : ctx.hint.HintColumn;
                 const int pair[2] = {a, c};
                 FillExclusion(ctx, 16, variant, row, column, pair, 2, r, values, count);
-            } else {
-                ctx.RaiseLevel(6);
             }
             return true;
         }
@@ -380,8 +375,6 @@ bool ExtendedAPE(SolveContext& ctx) {
                             const int pair[2] = {a, c};
                             FillExclusion(ctx, 16, pass == 0 ? 3 : 4, pass == 0 ? line : segment,
                                           pass == 0 ? segment : line, pair, 2, r, values, count);
-                        } else {
-                            ctx.RaiseLevel(6);
                         }
                         return true;
                     }

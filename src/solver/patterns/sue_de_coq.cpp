@@ -95,7 +95,6 @@ bool Crossing(SolveContext& ctx, int box, int lineUnit, bool row) {
             return false;
         }
     }
-    if (!ctx.HintOnly()) ctx.RaiseLevel(6);
     return true;
 }
 

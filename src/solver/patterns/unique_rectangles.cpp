@@ -77,11 +77,6 @@ void FillHint(SolveContext& ctx, const Floor& f, int variant, int x, int y) {
     h.HintKind = 29;
 }
 
-bool Hit(SolveContext& ctx) {
-    if (!ctx.HintOnly()) ctx.RaiseLevel(6);
-    return true;
-}
-
 // Every cell that sees both roof cells loses `digit`.
 bool RemoveFromCommonPeers(SolveContext& ctx, int digit, int x, int y) {
     bool removed = false;
@@ -98,7 +93,7 @@ bool Type1(SolveContext& ctx, const Floor& f, const Lists& l) {
         VerwijderKnop(ctx, f.a, y);
         VerwijderKnop(ctx, f.b, y);
         if (ctx.HintOnly()) FillHint(ctx, f, 1, x, y);
-        return Hit(ctx);
+        return true;
     }
     return false;
 }
@@ -116,7 +111,7 @@ bool Type2(SolveContext& ctx, const Floor& f, const Lists& l) {
             FillHint(ctx, f, 2, x, y);
             ctx.hint.HintNumber = w;
         }
-        return Hit(ctx);
+        return true;
     }
     return false;
 }
@@ -163,9 +158,9 @@ bool Type3(SolveContext& ctx, const Floor& f, const Lists& l) {
         if (CountDigits(extra) != 2) continue;
         const int w1 = LowestDigit(extra), w2 = LowestDigit(CandidateMask(extra & (extra - 1)));
         const int line = f.rows ? x / 9 : 9 + x % 9;
-        if (NakedPairWithRoof(ctx, f, x, y, line, w1, w2)) return Hit(ctx);
+        if (NakedPairWithRoof(ctx, f, x, y, line, w1, w2)) return true;
         if (f.oneBox && NakedPairWithRoof(ctx, f, x, y, 18 + Global::BoxOfCell[x], w1, w2))
-            return Hit(ctx);
+            return true;
     }
     return false;
 }
@@ -195,7 +190,7 @@ bool Type4(SolveContext& ctx, const Floor& f, const Lists& l) {
                 FillHint(ctx, f, 4, x, y);
                 ctx.hint.HintNumber = gone;
             }
-            return Hit(ctx);
+            return true;
         }
     }
     return false;
@@ -270,7 +265,7 @@ bool HiddenForm(SolveContext& ctx) {
                             h.HintCellCount = 4;
                             h.HintKind = 29;
                         }
-                        return Hit(ctx);
+                        return true;
                     }
                 }
         }

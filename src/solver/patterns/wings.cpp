@@ -126,8 +126,6 @@ bool XYWing(SolveContext& ctx) {
                                 if (ctx.HintOnly()) {
                                     ctx.hint.HintVariant = form;
                                     FillWingHint(ctx.hint, 10, knop, {stem, first, second});
-                                } else {
-                                    ctx.RaiseLevel(5);
                                 }
                                 return true;
                             });
@@ -166,8 +164,6 @@ bool XYZWing(SolveContext& ctx) {
                                 if (!VerwijderXYZWing(ctx, stem, first, second, knop)) return false;
                                 if (ctx.HintOnly())
                                     FillWingHint(ctx.hint, 11, knop, {stem, first, second});
-                                else
-                                    ctx.RaiseLevel(5);
                                 return true;
                             });
                         if (hit) return true;
@@ -257,8 +253,6 @@ bool WXYZWing(SolveContext& ctx) {
                                         ctx.hint.HintVariant = full ? 1 : 2;
                                         FillWingHint(ctx.hint, 14, knop,
                                                      {hinge, first, second, third});
-                                    } else {
-                                        ctx.RaiseLevel(6);
                                     }
                                     return true;
                                 });
