@@ -41,15 +41,20 @@ TEST(HaalOpties, AnEmptyStoreGivesEveryDefault) {
     EXPECT_EQ(o.colors.HintColor, kDefaultHintColor);
 }
 
-TEST(SchrijfOpties, WritesTheElevenOptionsAndTheTechniqueTablesAsText) {
+// The Logfiles and Version keys have writers of their own.
+TEST(SchrijfOpties, WritesTheOptionsTheTechniqueTablesTheLogfilesAndVersionAsText) {
     MemorySettingsStore store;
     Options o;
-    o.Dimmed = true;
+    o.Dimmed = o.LogfilesMade = true;
+    o.VersionMain = 1;
+    o.VersionSub = 6;
     o.HighlightDigit = false;
     o.AutoErase = false;
     o.techniques.Order[8] = 9;
     o.techniques.Order[9] = 8;
     SchrijfOpties(store, o);
+    SchrijfOptieSudLog(store, o);
+    SchrijfVersie(store, o);
 
     Values expected = Expected({
         {"Options", "Dimmed", "True"},
@@ -65,6 +70,9 @@ TEST(SchrijfOpties, WritesTheElevenOptionsAndTheTechniqueTablesAsText) {
         {"Options", "AutoErase", "False"},
         {"Highlight", "Houses", "True"},
         {"Highlight", "Digit", "False"},
+        {"Options", "Logfiles", "True"},
+        {"Version", "Main", "1"},
+        {"Version", "Sub", "6"},
     });
     for (int i = 0; i < 40; ++i) {
         const std::string n = std::to_string(i);
@@ -76,25 +84,9 @@ TEST(SchrijfOpties, WritesTheElevenOptionsAndTheTechniqueTablesAsText) {
 
     Options back;
     HaalOpties(store, back);
-    EXPECT_EQ(std::tuple(back.Dimmed, back.AutoErase, back.HighlightDigit, back.techniques.Order),
-              std::tuple(true, false, false, o.techniques.Order));
-}
-
-TEST(SchrijfOpties, TheLogfilesAndVersionKeysHaveWritersOfTheirOwn) {
-    MemorySettingsStore store;
-    Options o;
-    o.LogfilesMade = true;
-    o.VersionMain = 1;
-    o.VersionSub = 6;
-    SchrijfOptieSudLog(store, o);
-    SchrijfVersie(store, o);
-    EXPECT_EQ(store.Values(), Expected({{"Options", "Logfiles", "True"},
-                                        {"Version", "Main", "1"},
-                                        {"Version", "Sub", "6"}}));
-    Options back;
-    HaalOpties(store, back);
-    EXPECT_EQ(std::tuple(back.LogfilesMade, back.VersionMain, back.VersionSub),
-              std::tuple(true, 1, 6));
+    EXPECT_EQ(std::tuple(back.Dimmed, back.AutoErase, back.HighlightDigit, back.techniques.Order,
+                         back.LogfilesMade, back.VersionMain, back.VersionSub),
+              std::tuple(true, false, false, o.techniques.Order, true, 1, 6));
 }
 
 TEST(HaalOpties, AValueOfTheWrongTypeGivesTheDefault) {
