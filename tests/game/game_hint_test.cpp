@@ -175,17 +175,6 @@ TEST_F(Hints, WhereTheLogicEndsAHintCostsNothing) {
     EXPECT_EQ(Clock(), 0);
 }
 
-TEST_F(Hints, AutosolvePlaysThroughAndCannotBeSaved) {
-    Game& g = Playing(1);
-    g.CommandAutoSolve();
-    EXPECT_EQ(g.board().CurrentGrid, g.board().Solution);
-    EXPECT_TRUE(g.position().SudokuSolved);
-    EXPECT_GT(g.CurrentStep(), 0);
-    EXPECT_EQ(g.TextHint(), kAutosolvedText);
-    // No applause and no best time for an autosolved game.
-    EXPECT_FALSE(prompter.Showed("New best time !!!"));
-}
-
 // A Sue-de-Coq is shown as soon as it is found, and the player is asked whether
 // they can spot it: OK makes it the hint; Cancel lets the scan go on.
 TEST_F(Hints, ASueDeCoqIsShownAtOnceAndAskedAbout) {
@@ -243,7 +232,9 @@ TEST_F(Hints, ASueDeCoqIsShownAtOnceAndAskedAbout) {
     EXPECT_EQ(Clock(), 15);
 }
 
-TEST_F(Hints, AutosolveStopsAtAHalt) {
+// Autosolve stops at a halt, and the game can't be saved; without the halt it
+// plays through, with no applause and no best time.
+TEST_F(Hints, AutosolveStopsAtAHaltAndPlaysThroughWithout) {
     Game& g = Playing(3);
     options.techniques.Halt[4] = 1;  // naked singles halt
     const int before = g.board().EmptyCount();
@@ -257,18 +248,30 @@ TEST_F(Hints, AutosolveStopsAtAHalt) {
     EXPECT_EQ(prompter.shown.back().text,
               "Autosolve function is invoked at the current sudoku, therefore you cannot save "
               "this sudoku !");
+    options.techniques.Halt[4] = 0;
+    g.CommandAutoSolve();
+    EXPECT_EQ(g.board().CurrentGrid, g.board().Solution);
+    EXPECT_TRUE(g.position().SudokuSolved);
+    EXPECT_EQ(g.TextHint(), kAutosolvedText);
+    EXPECT_FALSE(prompter.Showed("New best time !!!"));
 }
 
+// Scan autosolves a range; with pencil marks off it solves on the real
+// candidates, not on the marks shown (every digit in every cell).
 TEST_F(Hints, ScanRunsAutosolveOverARange) {
-    Game& g = Started();
-    g.OptionType(1);
-    prompter.inputs = {"2", "3"};
-    g.CommandScan();
-    EXPECT_EQ(g.position().OpenRecord, 3);
-    EXPECT_EQ(g.commands().ScanCaption, "Scan");
-    EXPECT_TRUE(g.position().SudokuSolved);
-    EXPECT_EQ(g.TextHint(), kScanDoneText);
-    EXPECT_EQ(prompter.Last().second, "Enter a value between 2 and 3");
+    for (const bool marksOff : {false, true}) {
+        Game& g = Started();
+        options.PencilmarksOff = marksOff;
+        g.OptionType(1 + marksOff);
+        prompter.inputs = {"2", "3"};
+        g.CommandScan();
+        EXPECT_EQ(g.position().OpenRecord, 3);
+        EXPECT_EQ(g.commands().ScanCaption, "Scan");
+        EXPECT_TRUE(g.position().SudokuSolved);
+        EXPECT_EQ(g.TextHint(), kScanDoneText);
+        EXPECT_EQ(prompter.Last().second, "Enter a value between 2 and 3");
+        EXPECT_EQ(g.board().CurrentGrid, g.board().Solution) << marksOff;
+    }
 }
 
 }  // namespace
