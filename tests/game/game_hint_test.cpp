@@ -143,11 +143,25 @@ TEST_F(Hints, WithoutPencilmarksTheHintComesInTwoStages) {
     // The mark shown is the only one that shows its digit.
     EXPECT_TRUE(g.MarkCaptionShown(digit, cell));
     EXPECT_FALSE(g.MarkCaptionShown(digit % 9 + 1, cell));
-    // A change of the board, a Save and the Solution drop a waiting second stage.
+    // A change of the board, a Save and the Solution drop a waiting second stage;
+    // the colours stay until their cell is filled.
+    const auto painted = [&] {
+        int n = 0;
+        for (int c = 0; c < 81; ++c)
+            for (int d = 0; d <= 9; ++d)
+                n += (d ? g.MarkPaint(d, c) : g.CellPaint(c)).has_value();
+        return n;
+    };
     g.CommandHint();
     EXPECT_EQ(g.commands().HintCaption, "Show Me");
-    g.MarkMouseUp(digit, cell, MouseButton::Left, true);
+    int other = 0;
+    while (other == cell || g.board().CurrentGrid[other])
+        ++other;
+    g.MarkMouseUp(g.board().Solution[other], other, MouseButton::Left, true);
     EXPECT_EQ(g.commands().HintCaption, "Hint");
+    EXPECT_TRUE(g.CellPaint(cell));
+    g.MarkMouseUp(digit, cell, MouseButton::Left, true);
+    EXPECT_EQ(painted(), 0);
     g.CommandHint();
     g.CommandSave();
     EXPECT_EQ(g.commands().HintCaption, "Hint");

@@ -133,28 +133,6 @@ TEST_F(Stale, ATechniqueHintStaysUntilItsLastConclusionIsDone) {
     EXPECT_GT(partial, 0);
 }
 
-TEST_F(Stale, ShowMeGoesWhenItsCellIsFilled) {
-    Game& g = Started();
-    options.PencilmarksOff = true;
-    g.OptionType(1);
-    g.CommandNew();
-    g.CommandHint();
-    int cell = -1;
-    for (int c = 0; c < 81; ++c)
-        if (g.CellPaint(c)) cell = c;
-    ASSERT_GE(cell, 0);
-    auto [other, right] = FirstOpenCell();
-    if (other == cell) {
-        for (int c = 80; c >= 0; --c)
-            if (!g.board().CurrentGrid[c] && c != cell) other = c;
-        right = g.board().Solution[other];
-    }
-    g.MarkMouseUp(right, other, MouseButton::Left, true);
-    EXPECT_TRUE(g.CellPaint(cell));
-    g.MarkMouseUp(g.board().Solution[cell], cell, MouseButton::Left, true);
-    EXPECT_FALSE(AnyPaint());
-}
-
 TEST_F(Stale, MakeShowsNothingOfTheGameBefore) {
     Game& g = Playing(4);
     PlaceOne();
