@@ -68,22 +68,6 @@ TEST_F(Hints, NothingElseAnswersWhileASearchRuns) {
     EXPECT_EQ(g.CurrentStep(), 0);
 }
 
-TEST_F(Hints, AWrongDigitIsReportedFirst) {
-    Game& g = Playing(2);
-    auto [cell, digit] = WrongCandidate();
-    ASSERT_GE(cell, 0);
-    g.MarkMouseUp(digit, cell, MouseButton::Left, true);
-    g.CommandHint();
-    EXPECT_EQ(g.TextHint(), "Incorrect number (" + std::to_string(digit) + ") at cell " +
-                                CellName(cell) + " - Use [Undo] or [Reset Cell]");
-    EXPECT_EQ(std::pair(g.SelectedRow, g.SelectedColumn), std::pair(cell / 9, cell % 9));
-    EXPECT_EQ(g.CellPaint(cell), options.colors.HintColor[kAttackedCell]);
-    EXPECT_EQ(Clock(), 10);
-    // Reset Cell on the named cell is the way out.
-    g.CommandResetCell();
-    EXPECT_EQ(g.board().CurrentGrid[cell], 0);
-}
-
 TEST_F(Hints, ALostCandidateAndADigitStillMarked) {
     Game& g = Playing(3);
     auto [cell, digit] = FirstOpenCell();
