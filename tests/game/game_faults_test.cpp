@@ -178,30 +178,5 @@ TEST_F(Faults, ARecordNumberAbove32767OpensSavesAndResumes) {
     EXPECT_EQ(again.CurrentStep(), 1);
 }
 
-// Every puzzle starts its own clock: the seconds of the last one don't count.
-TEST_F(Faults, TheClockStartsAtZeroWithEveryNewPuzzle) {
-    Game& g = Playing(3);
-    clock.now += 100;
-    g.Tick();
-    ASSERT_EQ(g.ClockSeconds(), 100);
-    g.CommandNew();  // untouched, so nothing to save
-    g.Tick();
-    EXPECT_EQ(g.ClockSeconds(), 0);
-    EXPECT_EQ(g.LabelTijd(), "00:00");
-}
-
-// Scan with pencil marks off solves on the real candidates, not on the marks
-// shown (every digit in every cell).
-TEST_F(Faults, ScanWithPencilMarksOffPlacesOnlyRightDigits) {
-    Game& g = Started();
-    options.PencilmarksOff = true;
-    g.OptionType(2);
-    prompter.inputs = {"1", "3"};
-    g.CommandScan();
-    ASSERT_EQ(g.position().OpenRecord, 3);
-    for (int c = 0; c < 81; ++c)
-        EXPECT_TRUE(!g.board().CurrentGrid[c] || g.board().CurrentGrid[c] == g.board().Solution[c]);
-}
-
 }  // namespace
 }  // namespace tavi::testing

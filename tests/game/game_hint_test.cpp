@@ -68,22 +68,6 @@ TEST_F(Hints, NothingElseAnswersWhileASearchRuns) {
     EXPECT_EQ(g.CurrentStep(), 0);
 }
 
-TEST_F(Hints, AWrongDigitIsReportedFirst) {
-    Game& g = Playing(2);
-    auto [cell, digit] = WrongCandidate();
-    ASSERT_GE(cell, 0);
-    g.MarkMouseUp(digit, cell, MouseButton::Left, true);
-    g.CommandHint();
-    EXPECT_EQ(g.TextHint(), "Incorrect number (" + std::to_string(digit) + ") at cell " +
-                                CellName(cell) + " - Use [Undo] or [Reset Cell]");
-    EXPECT_EQ(std::pair(g.SelectedRow, g.SelectedColumn), std::pair(cell / 9, cell % 9));
-    EXPECT_EQ(g.CellPaint(cell), options.colors.HintColor[kAttackedCell]);
-    EXPECT_EQ(Clock(), 10);
-    // Reset Cell on the named cell is the way out.
-    g.CommandResetCell();
-    EXPECT_EQ(g.board().CurrentGrid[cell], 0);
-}
-
 TEST_F(Hints, ALostCandidateAndADigitStillMarked) {
     Game& g = Playing(3);
     auto [cell, digit] = FirstOpenCell();
@@ -143,11 +127,25 @@ TEST_F(Hints, WithoutPencilmarksTheHintComesInTwoStages) {
     // The mark shown is the only one that shows its digit.
     EXPECT_TRUE(g.MarkCaptionShown(digit, cell));
     EXPECT_FALSE(g.MarkCaptionShown(digit % 9 + 1, cell));
-    // A change of the board, a Save and the Solution drop a waiting second stage.
+    // A change of the board, a Save and the Solution drop a waiting second stage;
+    // the colours stay until their cell is filled.
+    const auto painted = [&] {
+        int n = 0;
+        for (int c = 0; c < 81; ++c)
+            for (int d = 0; d <= 9; ++d)
+                n += (d ? g.MarkPaint(d, c) : g.CellPaint(c)).has_value();
+        return n;
+    };
     g.CommandHint();
     EXPECT_EQ(g.commands().HintCaption, "Show Me");
-    g.MarkMouseUp(digit, cell, MouseButton::Left, true);
+    int other = 0;
+    while (other == cell || g.board().CurrentGrid[other])
+        ++other;
+    g.MarkMouseUp(g.board().Solution[other], other, MouseButton::Left, true);
     EXPECT_EQ(g.commands().HintCaption, "Hint");
+    EXPECT_TRUE(g.CellPaint(cell));
+    g.MarkMouseUp(digit, cell, MouseButton::Left, true);
+    EXPECT_EQ(painted(), 0);
     g.CommandHint();
     g.CommandSave();
     EXPECT_EQ(g.commands().HintCaption, "Hint");
@@ -173,17 +171,6 @@ TEST_F(Hints, WhereTheLogicEndsAHintCostsNothing) {
     g.CommandHint();
     EXPECT_EQ(g.TextHint(), "No logical hints, you'll have to guess more than once...");
     EXPECT_EQ(Clock(), 0);
-}
-
-TEST_F(Hints, AutosolvePlaysThroughAndCannotBeSaved) {
-    Game& g = Playing(1);
-    g.CommandAutoSolve();
-    EXPECT_EQ(g.board().CurrentGrid, g.board().Solution);
-    EXPECT_TRUE(g.position().SudokuSolved);
-    EXPECT_GT(g.CurrentStep(), 0);
-    EXPECT_EQ(g.TextHint(), kAutosolvedText);
-    // No applause and no best time for an autosolved game.
-    EXPECT_FALSE(prompter.Showed("New best time !!!"));
 }
 
 // A Sue-de-Coq is shown as soon as it is found, and the player is asked whether
@@ -243,7 +230,9 @@ TEST_F(Hints, ASueDeCoqIsShownAtOnceAndAskedAbout) {
     EXPECT_EQ(Clock(), 15);
 }
 
-TEST_F(Hints, AutosolveStopsAtAHalt) {
+// Autosolve stops at a halt, and the game can't be saved; without the halt it
+// plays through, with no applause and no best time.
+TEST_F(Hints, AutosolveStopsAtAHaltAndPlaysThroughWithout) {
     Game& g = Playing(3);
     options.techniques.Halt[4] = 1;  // naked singles halt
     const int before = g.board().EmptyCount();
@@ -257,18 +246,30 @@ TEST_F(Hints, AutosolveStopsAtAHalt) {
     EXPECT_EQ(prompter.shown.back().text,
               "Autosolve function is invoked at the current sudoku, therefore you cannot save "
               "this sudoku !");
+    options.techniques.Halt[4] = 0;
+    g.CommandAutoSolve();
+    EXPECT_EQ(g.board().CurrentGrid, g.board().Solution);
+    EXPECT_TRUE(g.position().SudokuSolved);
+    EXPECT_EQ(g.TextHint(), kAutosolvedText);
+    EXPECT_FALSE(prompter.Showed("New best time !!!"));
 }
 
+// Scan autosolves a range; with pencil marks off it solves on the real
+// candidates, not on the marks shown (every digit in every cell).
 TEST_F(Hints, ScanRunsAutosolveOverARange) {
-    Game& g = Started();
-    g.OptionType(1);
-    prompter.inputs = {"2", "3"};
-    g.CommandScan();
-    EXPECT_EQ(g.position().OpenRecord, 3);
-    EXPECT_EQ(g.commands().ScanCaption, "Scan");
-    EXPECT_TRUE(g.position().SudokuSolved);
-    EXPECT_EQ(g.TextHint(), kScanDoneText);
-    EXPECT_EQ(prompter.Last().second, "Enter a value between 2 and 3");
+    for (const bool marksOff : {false, true}) {
+        Game& g = Started();
+        options.PencilmarksOff = marksOff;
+        g.OptionType(1 + marksOff);
+        prompter.inputs = {"2", "3"};
+        g.CommandScan();
+        EXPECT_EQ(g.position().OpenRecord, 3);
+        EXPECT_EQ(g.commands().ScanCaption, "Scan");
+        EXPECT_TRUE(g.position().SudokuSolved);
+        EXPECT_EQ(g.TextHint(), kScanDoneText);
+        EXPECT_EQ(prompter.Last().second, "Enter a value between 2 and 3");
+        EXPECT_EQ(g.board().CurrentGrid, g.board().Solution) << marksOff;
+    }
 }
 
 }  // namespace

@@ -14,8 +14,11 @@ TEST_F(Input, PlacingTakesTheCellsMarksAndThePeersMarks) {
     Game& g = Playing(5);
     auto [cell, digit] = FirstOpenCell();
     const auto before = Marks();
+    const int box = Global::BoxOfCell[cell];
+    EXPECT_FALSE(g.WellFilled(digit, box));
     g.MarkMouseUp(digit, cell, MouseButton::Left, true);
     EXPECT_EQ(g.board().CurrentGrid[cell], digit);
+    EXPECT_TRUE(g.WellFilled(digit, box));
     EXPECT_EQ(g.board().Candidates[cell], 0);
     ASSERT_EQ(g.CurrentStep(), 1);
     const MoveStep& s = g.MoveLog()[0];
@@ -89,6 +92,7 @@ TEST_F(Input, UndoRedoRestoreExactlyWhateverTheOptionsSayNow) {
     options.Pencilmarks = false;
     g.CommandUndo();
     EXPECT_EQ(Marks(), beforePlace);
+    EXPECT_FALSE(g.WellFilled(digit, Global::BoxOfCell[cell]));
     EXPECT_FALSE(g.board().Has(digit, handPeer));
     EXPECT_EQ(g.board().CurrentGrid[cell], 0);
     EXPECT_TRUE(g.commands().Redo);

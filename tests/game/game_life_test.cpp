@@ -67,38 +67,35 @@ TEST_F(Life, ResumingABusyLevelAnsweredYes) {
     EXPECT_EQ(again.WindowTitle, "");
 }
 
-TEST_F(Life, ResumingABusyLevelAnsweredNoOffersTheSamePuzzleAgain) {
-    Game& g = Playing(3);    // record 1, left untouched
-    LeaveBusy(*this, g, 3);  // record 2
-    ASSERT_EQ(store.Read("SudokuLevel3", "Number", ""), "2");
-    prompter.answers = {Answer::No};
-    Game& again = Started();
-    EXPECT_EQ(again.Caption(), "Tavi Sudoku 1");
-    EXPECT_FALSE(again.GridEnabled());
-    EXPECT_EQ(again.position().PuzzleNumber[3], 1);
-    prompter.answers = {Answer::Yes};
-    again.CommandNew();
-    EXPECT_EQ(again.CurrentStep(), 1);
-    EXPECT_EQ(again.position().OpenRecord, 2);
-    // Its progress is still there to carry on from.
-    EXPECT_EQ(prompter.shown.back().text,
-              "Puzzle is already worked on. Carry on from its present state ?");
-}
-
-TEST_F(Life, ABusyLevelWhoseRecordWasErased) {
-    Game& g = Playing(5);    // record 1, left untouched
-    LeaveBusy(*this, g, 5);  // record 2
-    ASSERT_EQ(store.Read("SudokuLevel5", "Number", ""), "2");
-    // The record is erased behind the game's back.
-    ASSERT_TRUE(WriteSudokuLogRecord(LogFile(folders.DataFolder, LevelStem(5)), 2, {}));
-
-    prompter.shown.clear();
-    prompter.answers = {Answer::Yes};
-    Game& again = Started();
-    EXPECT_TRUE(prompter.Showed("Could not open the last saved sudoku"));
-    EXPECT_EQ(again.position().PuzzleNumber[5], 1);
-    EXPECT_FALSE(again.GridEnabled());
-    EXPECT_EQ(again.Caption(), "Tavi Sudoku 1");
+// A busy level not resumed, by the player's No or because its record was
+// erased behind the game's back: nothing is open, and the same puzzle is offered
+// again, its progress still there to carry on from.
+TEST_F(Life, ABusyLevelNotResumedOffersTheSamePuzzleAgain) {
+    for (const bool erased : {false, true}) {
+        const int level = erased ? 5 : 3;
+        Game& g = Playing(level);    // record 1, left untouched
+        LeaveBusy(*this, g, level);  // record 2
+        ASSERT_EQ(store.Read("SudokuLevel" + std::to_string(level), "Number", ""), "2");
+        if (erased) {
+            ASSERT_TRUE(WriteSudokuLogRecord(LogFile(folders.DataFolder, LevelStem(level)), 2, {}));
+        }
+        prompter.shown.clear();
+        prompter.answers = {erased ? Answer::Yes : Answer::No};
+        Game& again = Started();
+        EXPECT_EQ(prompter.Showed("Could not open the last saved sudoku"), erased);
+        EXPECT_EQ(again.Caption(), "Tavi Sudoku 1");
+        EXPECT_FALSE(again.GridEnabled());
+        EXPECT_EQ(again.position().PuzzleNumber[level], 1);
+        if (erased) break;
+        prompter.answers = {Answer::Yes};
+        again.CommandNew();
+        EXPECT_EQ(again.CurrentStep(), 1);
+        EXPECT_EQ(again.position().OpenRecord, 2);
+        EXPECT_EQ(prompter.shown.back().text,
+                  "Puzzle is already worked on. Carry on from its present state ?");
+        std::filesystem::remove_all(folders.DataFolder);  // a fresh library for the next case
+        store = {};
+    }
 }
 
 struct ExitCase {

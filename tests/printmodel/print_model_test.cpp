@@ -125,12 +125,16 @@ TEST_F(PrintJobTest, ReadsEachPuzzleWithItsMarksAndStopsAtTheFirstMissingRecord)
     EXPECT_EQ(RangeNote(s, 3), "");
 }
 
+// The on-screen puzzle in its current state keeps its digits, and its marks
+// when pencil marks are asked for; every other grid is its clues.
 TEST_F(PrintJobTest, PencilmarksChoosesOnlyForTheOnScreenPuzzleInItsCurrentState) {
     const auto& p = testing::GeneratedPuzzles(3, 5)[0];
     PrintSnapshot snap;
     snap.Puzzle = snap.Grid = p.puzzle;
     snap.Solution = p.solution;
-    snap.Marks[0] = 0b11;
+    const int open = int(std::find(p.puzzle.begin(), p.puzzle.end(), 0) - p.puzzle.begin());
+    snap.Grid[open] = p.solution[open];
+    snap.Marks[open + 1] = 0b101;
     snap.Number = 9;
     for (const bool current : {false, true})
         for (const bool state : {false, true})
@@ -142,6 +146,7 @@ TEST_F(PrintJobTest, PencilmarksChoosesOnlyForTheOnScreenPuzzleInItsCurrentState
                 Recorder r;
                 ASSERT_EQ(RunPrintJob(s, snap, folder, r), PrintResult::Done);
                 ASSERT_EQ(r.puzzles.size(), 2u);
+                EXPECT_EQ(r.puzzles[0].Number == 9, current);
                 for (const PrintPuzzle& printed : r.puzzles) {
                     // Every other grid carries the marks its clues leave.
                     const bool asItStands = current && state && printed.Number == 9;
@@ -150,38 +155,12 @@ TEST_F(PrintJobTest, PencilmarksChoosesOnlyForTheOnScreenPuzzleInItsCurrentState
                         : pencils   ? snap.Marks
                                     : std::array<CandidateMask, 81>{};
                     EXPECT_EQ(printed.Marks, expected) << current << state << pencils;
+                    EXPECT_EQ(printed.Grid, asItStands ? snap.Grid : printed.Puzzle);
+                    if (printed.Number == 9) {
+                        EXPECT_EQ(printed.Puzzle, snap.Puzzle);
+                    }
                 }
             }
-}
-
-TEST_F(PrintJobTest, TheOnScreenPuzzleInItsCurrentStateKeepsItsDigitsAndMarks) {
-    const auto& p = testing::GeneratedPuzzles(3, 5)[0];
-    PrintSnapshot snap;
-    snap.Puzzle = p.puzzle;
-    snap.Solution = p.solution;
-    snap.Grid = p.puzzle;
-    const int open = int(std::find(p.puzzle.begin(), p.puzzle.end(), 0) - p.puzzle.begin());
-    snap.Grid[open] = p.solution[open];
-    snap.Marks[open + 1] = 0b101;
-    snap.Number = 9;
-    PrintSettings s = Settings(0, 1, 1, true);
-    s.PrintCurrentState = true;
-    Recorder r;
-    EXPECT_EQ(RunPrintJob(s, snap, folder, r), PrintResult::Done);
-    ASSERT_EQ(r.puzzles.size(), 1u);
-    EXPECT_EQ(std::tie(r.puzzles[0].Grid, r.puzzles[0].Marks, r.puzzles[0].Number),
-              std::tuple(snap.Grid, snap.Marks, 9));
-    s.PrintPencils = false;
-    Recorder bare;
-    RunPrintJob(s, snap, folder, bare);
-    EXPECT_EQ(bare.puzzles[0].Marks, (std::array<CandidateMask, 81>{}));
-    // Without the current state: the clues and the marks they leave.
-    s.PrintCurrentState = false;
-    s.PrintPencils = true;
-    Recorder clues;
-    RunPrintJob(s, snap, folder, clues);
-    EXPECT_EQ(std::pair(clues.puzzles[0].Grid, clues.puzzles[0].Marks),
-              testing::GridAndMarks(BoardFromPuzzle(p.puzzle)));
 }
 
 TEST(TeachingPrint, TheTechniquesOfTheSolutionInOrderOfFirstUseWithTheirCounts) {

@@ -5,18 +5,6 @@
 namespace tavi {
 namespace {
 
-TEST(HaalKleuren, AnEmptyStoreGivesTheHintColourDefaults) {
-    MemorySettingsStore store;
-    ColorSettings c;
-    c.HintColor.fill(1);
-    HaalKleuren(store, c);
-    EXPECT_EQ(c.HintColor,
-              (std::array<Color, 9>{0x0000FF00, 0x00FFFF00, 0x0000FFFF, 0x000000FF, 0x00808000,
-                                    0x0000FFFF, 0x000080FF, 0x00FF00FF, 0x0000FF00}));
-    EXPECT_EQ(c.LabelBack, kDefaultLabelBack);
-    EXPECT_EQ(c.LabelFore, kDefaultLabelFore);
-}
-
 TEST(HaalKleuren, AMissingOrUnreadableKeyKeepsTheColourInForce) {
     MemorySettingsStore store;
     store.Write("Colors", "BColor1", "255");

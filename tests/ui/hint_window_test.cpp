@@ -151,27 +151,24 @@ TEST(HintWindowPlace, BesideTheGameWindowElseWhereItHidesTheLeastAndAlwaysOnTheS
     EXPECT_EQ(HintWindowPlace(QRect(100, 50, 1000, 700), hint, screen).topLeft(), QPoint(1108, 50));
     EXPECT_EQ(HintWindowPlace(QRect(700, 900, 1000, 100), hint, screen).topLeft(),
               QPoint(292, 620));
-    // A game window filling a small screen, its board on the left and its hint
-    // text at the right below the commands: the window hides neither.
-    const QRect small(0, 0, 1366, 740);
-    const QRect main(20, 10, 1257, 707);
-    const std::vector<QRect> keep = {QRect(30, 40, 860, 640), QRect(990, 380, 270, 280)};
-    const QRect at = HintWindowPlace(main, hint, small, keep, QSize(190, 209));
-    EXPECT_TRUE(small.contains(at));
-    for (const QRect& k : keep)
-        EXPECT_FALSE(at.intersects(k)) << k.x();
-    // Over a screen it fills at twice the scale, the board and text keep clear
-    // where the smallest window allows, and the window stays wholly on screen.
-    const QRect half(0, 0, 960, 510);
-    for (const QRect& mainHalf : {QRect(0, 0, 960, 510), QRect(100, 40, 800, 460)}) {
-        const std::vector<QRect> keepHalf = {
-            QRect(mainHalf.left() + 10, mainHalf.top() + 30, 470, 460),
-            QRect(mainHalf.right() - 250, mainHalf.top() + 280, 240, 150)};
-        const QRect there = HintWindowPlace(mainHalf, hint, half, keepHalf, QSize(190, 209));
-        EXPECT_TRUE(half.contains(there));
-        EXPECT_GE(there.width(), 190);
-        for (const QRect& k : keepHalf)
-            EXPECT_FALSE(there.intersects(k));
+    // A game window filling a small screen, or one at twice the scale, its board
+    // on the left and its hint text at the right below the commands: the window
+    // hides neither where the smallest window allows, and stays wholly on screen.
+    struct Case {
+        QRect screen, main;
+        std::vector<QRect> keep;
+    };
+    const Case cases[] = {
+        {{0, 0, 1366, 740}, {20, 10, 1257, 707}, {{30, 40, 860, 640}, {990, 380, 270, 280}}},
+        {{0, 0, 960, 510}, {0, 0, 960, 510}, {{10, 30, 470, 460}, {709, 280, 240, 150}}},
+        {{0, 0, 960, 510}, {100, 40, 800, 460}, {{110, 70, 470, 460}, {649, 320, 240, 150}}},
+    };
+    for (const Case& k : cases) {
+        const QRect at = HintWindowPlace(k.main, hint, k.screen, k.keep, QSize(190, 209));
+        EXPECT_TRUE(k.screen.contains(at)) << k.main.x();
+        EXPECT_GE(at.width(), 190);
+        for (const QRect& r : k.keep)
+            EXPECT_FALSE(at.intersects(r)) << k.main.x() << " " << r.x();
     }
     // A hint window larger than the screen is made to fit it.
     EXPECT_EQ(HintWindowPlace(QRect(0, 0, 800, 600), QSize(900, 900), QRect(0, 0, 800, 600)),

@@ -100,14 +100,6 @@ TEST(KeyboardPlay, KeysMakeTheSameGameAsClicks) {
     EXPECT_EQ(keys.game->CurrentStep(), (bad ? 4 : 2) - 2 + 1);
 }
 
-TEST(KeyboardPlay, ToolTipsNameTheShortcuts) {
-    Player p;
-    p.OpenActive();
-    EXPECT_EQ(p.Button("CommandUndo")->toolTip(), "Undo (Ctrl+Z)");
-    EXPECT_EQ(p.Button("CommandRedo")->toolTip(), "Redo (Ctrl+Y, Ctrl+Shift+Z)");
-    EXPECT_EQ(p.Button("CommandHint")->toolTip(), "Hint (H)");
-}
-
 // The mouse and the keys share one cursor and one focus: a click chooses the
 // cell for the keys, a click on a cell's edge only chooses it, and after a
 // command or a level the keys reach the board at once.

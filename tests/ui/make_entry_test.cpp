@@ -45,12 +45,6 @@ TEST_F(MakeWindowTest, AFileDroppedOnTheLineAfterMakeEntersItsClues) {
     EXPECT_FALSE(line->isReadOnly());
     EXPECT_EQ(line->placeholderText().toStdString(), kMakePrompt);
 
-    // A folder is refused and the board stays empty.
-    prompter.shown.clear();
-    EXPECT_TRUE(DropOn(line, {root}));
-    EXPECT_EQ(prompter.Texts(), std::vector<std::string>{std::string(kDropNoFolderText)});
-    EXPECT_EQ(game->board().CurrentGrid, Digits{});
-
     EXPECT_TRUE(DropOn(line, {root / "mine.txt"}));
     EXPECT_EQ(game->board().CurrentGrid, record.puzzle);
     EXPECT_EQ(line->text().toStdString(), text);
