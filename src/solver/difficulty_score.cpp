@@ -21,7 +21,9 @@ double Doubling(int amount, double base, double step, double most) {
 
 }  // namespace
 
-double RungWeightOf(const Rung& rung) { return kRungWeights[std::size_t(RungIndex(rung))].weight; }
+double RungWeightOf(const Rung& rung) {
+    return kRungCatalog[std::size_t(RungIndex(rung))].weight;
+}
 
 double StepDifficulty(const Rung& rung, const StepSize& size) {
     const double weight = RungWeightOf(rung);
