@@ -7,6 +7,7 @@
 #include "cli/in_order.h"
 #include "grid/levels.h"
 #include "solver/canonical_form.h"
+#include "solver/difficulty_score.h"
 #include "solver/generator.h"
 #include "solver/hard_search.h"
 
@@ -100,13 +101,10 @@ class Collection {
     std::size_t Count(int level) const { return levels_[level].size(); }
 
     std::vector<SudokuRecord> InOrder(int level) {
-        auto& entries = levels_[level];
-        std::stable_sort(entries.begin(), entries.end(), [](const Entry& a, const Entry& b) {
-            return a.rating.Depth() < b.rating.Depth();
-        });
         std::vector<SudokuRecord> records;
-        for (const Entry& e : entries)
+        for (const Entry& e : levels_[level])
             records.push_back(e.record);
+        OrderByScore(records);
         return records;
     }
 
@@ -224,6 +222,20 @@ LibraryPuzzles MakeLibraryPuzzles(const LibraryPlan& plan) {
     for (int level = 1; level <= kLevelCount; ++level)
         made.levels[level] = library.InOrder(level);
     return made;
+}
+
+void OrderByScore(std::vector<SudokuRecord>& records) {
+    SolveContext ctx(Side::Workbench);
+    std::vector<std::pair<double, SudokuRecord>> keyed;
+    keyed.reserve(records.size());
+    for (const SudokuRecord& r : records)
+        keyed.emplace_back(RatePuzzleWithScore(ctx, r.Puzzle).score, r);
+    // The puzzle itself breaks ties, so the order hangs on nothing but the set.
+    std::sort(keyed.begin(), keyed.end(), [](const auto& a, const auto& b) {
+        return std::tie(a.first, a.second.Puzzle) < std::tie(b.first, b.second.Puzzle);
+    });
+    for (std::size_t i = 0; i < keyed.size(); ++i)
+        records[i] = keyed[i].second;
 }
 
 }  // namespace tavi::cli

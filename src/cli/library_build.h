@@ -48,4 +48,8 @@ struct LibraryPuzzles {
 
 LibraryPuzzles MakeLibraryPuzzles(const LibraryPlan& plan);
 
+// Orders the puzzles of one level from easier to harder, as New then leads a
+// player up the level: by the difficulty score, ties by the puzzle itself.
+void OrderByScore(std::vector<SudokuRecord>& records);
+
 }  // namespace tavi::cli

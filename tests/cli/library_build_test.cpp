@@ -9,7 +9,7 @@
 
 #include "grid/levels.h"
 #include "solver/canonical_form.h"
-#include "solver/hard_search.h"
+#include "solver/difficulty_score.h"
 #include "solver/solutions.h"
 
 namespace tavi::cli {
@@ -36,15 +36,15 @@ TEST(LibraryBuild, LevelsHoldTheirOwnPuzzlesOnceEasierFirstTheSameOnAnyNumberOfT
         if (level <= 7) {
             EXPECT_EQ(long(records.size()), level == 7 ? 6 : 12) << level;
         }
-        auto previous = LadderRating{}.Depth();
+        double previous = 0;
         for (const SudokuRecord& r : records) {
             const SolutionCount s = Solutions(r.Puzzle);
             EXPECT_EQ(s.count, 1);
             EXPECT_EQ(r, (SudokuRecord{r.Puzzle, s.first, 0, 0}));
-            const LadderRating rating = RateOnLadder(ctx, r.Puzzle);
+            const PuzzleRating rating = RatePuzzleWithScore(ctx, r.Puzzle);
             EXPECT_EQ(rating.level, level) << FormatDigits(r.Puzzle);
-            EXPECT_GE(rating.Depth(), previous) << LevelName(level);
-            previous = rating.Depth();
+            EXPECT_GE(rating.score, previous) << LevelName(level);
+            previous = rating.score;
             forms.insert(CanonicalForm(r.Puzzle));
             ++total;
         }

@@ -10,7 +10,7 @@
 #include "grid/levels.h"
 #include "library/library_files.h"
 #include "solver/canonical_form.h"
-#include "solver/hard_search.h"
+#include "solver/difficulty_score.h"
 #include "solver/solutions.h"
 
 namespace tavi {
@@ -36,7 +36,7 @@ TEST(DeliveredLibrary, EveryPuzzleRatesAtItsLevelOnceInTheLibraryEasierFirst) {
         ASSERT_TRUE(ReadSudokuFile(file, records, &trailing)) << file;
         EXPECT_EQ(trailing, 0u) << file;
         EXPECT_GE(records.size(), kPromised[level]) << file;
-        auto previous = LadderRating{}.Depth();
+        double previous = 0;
         for (std::size_t i = 0; i < records.size(); ++i) {
             const SudokuRecord& r = records[i];
             const std::string where =
@@ -44,13 +44,13 @@ TEST(DeliveredLibrary, EveryPuzzleRatesAtItsLevelOnceInTheLibraryEasierFirst) {
             const SolutionCount s = Solutions(r.Puzzle);
             ASSERT_EQ(s.count, 1) << where;
             EXPECT_EQ(r, (SudokuRecord{r.Puzzle, s.first, 0, 0})) << where;
-            const LadderRating rating = RateOnLadder(ctx, r.Puzzle);
+            const PuzzleRating rating = RatePuzzleWithScore(ctx, r.Puzzle);
             if (level == kOutlaw) {
                 EXPECT_GE(rating.level, 4) << where;
             } else {
                 EXPECT_EQ(rating.level, level) << where;
-                EXPECT_GE(rating.Depth(), previous) << where;
-                previous = rating.Depth();
+                EXPECT_GE(rating.score, previous) << where;
+                previous = rating.score;
             }
             const auto [at, added] = forms.emplace(CanonicalForm(r.Puzzle), where);
             EXPECT_TRUE(added) << where << " is " << at->second << " in other clothes";
