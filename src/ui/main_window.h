@@ -120,6 +120,7 @@ class MainWindow : public QMainWindow {
     double scale_ = 0;
     std::array<QRadioButton*, 10> levels_{};  // 1..9
     std::array<QPushButton*, kCommandCount> commands_{};
+    QPushButton* practise_ = nullptr;
     std::array<ClickLabel*, kPaletteLabels> palette_{};
     QPlainTextEdit* textHint_ = nullptr;
     QLabel* labelStap_ = nullptr;

@@ -97,7 +97,8 @@ QWidget* MainWindow::BuildCommands() {
         grid->addWidget(button, id / 3, id % 3);
         commands_[id] = button;
     }
-    grid->addWidget(BuildPractise(box), kCommandCount / 3, 0, 1, 3);
+    practise_ = BuildPractise(box);
+    grid->addWidget(practise_, kCommandCount / 3, 0, 1, 3);
     // After any command the keys play on at once.
     auto on = [this](CommandId id, std::function<void()> run) {
         connect(commands_[id], &QPushButton::clicked, this, [this, run] {

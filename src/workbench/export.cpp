@@ -8,13 +8,14 @@
 #include "library/library_files.h"
 #include "library/library_pair.h"
 #include "library/record_checks.h"
+#include "solver/difficulty_score.h"
 #include "workbench/workbench.h"
 
 namespace tavi {
 
-std::string ExportLine(const SudokuRecord& record, int level) {
+std::string ExportLine(const SudokuRecord& record, int level, double score) {
     return FormatDigits(record.Puzzle, '.') + '\t' + std::to_string(level) + '\t' +
-           std::string(LevelName(level));
+           std::string(LevelName(level)) + '\t' + FormatScore(score);
 }
 
 ExportResult ExportRecords(const std::filesystem::path& folder, int level, long from, long to,
@@ -28,6 +29,7 @@ ExportResult ExportRecords(const std::filesystem::path& folder, int level, long 
     }
     in.seekg(std::streamoff(from - 1) * std::streamoff(kSudokuRecordSize));
     SudokuRecordBytes bytes;
+    SolveContext ctx(Side::Workbench);
     for (long n = from; n <= to; ++n) {
         if (!in.read(reinterpret_cast<char*>(bytes.data()), std::streamsize(bytes.size()))) {
             result.failed = sds.string() + ": read error at record " + std::to_string(n);
@@ -39,7 +41,7 @@ ExportResult ExportRecords(const std::filesystem::path& folder, int level, long 
                 result.damaged.push_back(DamagedRecord(sds, n, wrong));
             continue;
         }
-        out << ExportLine(r, level) << '\n';
+        out << ExportLine(r, level, RatePuzzleWithScore(ctx, r.Puzzle).score) << '\n';
         ++result.written;
     }
     if (!out) result.failed = "Error writing the exported sudokus.";

@@ -11,9 +11,9 @@
 
 namespace tavi {
 
-// "4..7.....<tab>3<tab>Hard": the puzzle, the level's number and its name. A
-// difficulty score, where a puzzle has one, goes in a fourth field.
-std::string ExportLine(const SudokuRecord& record, int level);
+// "4..7.....<tab>3<tab>Hard<tab>3.4": the puzzle, the level's number and its name,
+// and the puzzle's difficulty score with one decimal.
+std::string ExportLine(const SudokuRecord& record, int level, double score);
 
 struct ExportResult {
     long written = 0;
@@ -23,7 +23,7 @@ struct ExportResult {
 };
 
 // Records `from` to `to` of the library of `level` in `folder`, read one at a
-// time; a damaged record is left out and named.
+// time and scored; a damaged record is left out and named.
 ExportResult ExportRecords(const std::filesystem::path& folder, int level, long from, long to,
                            std::ostream& out);
 

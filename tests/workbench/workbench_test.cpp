@@ -7,6 +7,7 @@
 
 #include <sstream>
 
+#include "solver/difficulty_score.h"
 #include "grid/candidates.h"
 #include "library/foreign_puzzles.h"
 #include "library/library_files.h"
@@ -422,8 +423,8 @@ TEST_F(WorkbenchTest, AnEmptiedLevelStaysEmptyAndTakesMovesIn) {
 namespace tavi {
 namespace {
 
-// Export writes the records of a range, '.' for empty cells and the level after
-// each, and the import reads the file back as the same puzzles.
+// Export writes the records of a range, '.' for empty cells and the level and
+// score after each, and the import reads the file back as the same puzzles.
 TEST_F(WorkbenchTest, ExportWritesWhatTheImportReadsBack) {
     for (int i = 0; i < 12; ++i)
         Add(2, other[i]);
@@ -434,7 +435,8 @@ TEST_F(WorkbenchTest, ExportWritesWhatTheImportReadsBack) {
     for (std::string line; std::getline(in, line);)
         lines.push_back(line);
     ASSERT_EQ(lines.size(), 8u);
-    EXPECT_EQ(lines[0], FormatDigits(other[2].puzzle, '.') + "\t2\tMedium");
+    EXPECT_EQ(lines[0], FormatDigits(other[2].puzzle, '.') + "\t2\tMedium\t" +
+                            FormatScore(RatePuzzleWithScore(other[2].puzzle).score));
     in.clear();
     in.seekg(0);
     const ForeignPuzzles read = ReadForeignPuzzles(in);
