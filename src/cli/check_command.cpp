@@ -81,8 +81,7 @@ int LibraryCheckCommand(const std::filesystem::path& folder, int onlyLevel, std:
     out << "hardest technique\tpuzzles\n";
     for (int t = 0; t < kTechniqueCount; ++t)
         if (hardest[t])
-            out << (t == 7 ? std::string_view("Subsets") : RungsOf(t)[0].Name()) << '\t'
-                << hardest[t] << '\n';
+            out << TechniqueCaption(t) << '\t' << hardest[t] << '\n';
     // A file that could not be written or read, or a damaged record: the work
     // is not done.
     if (bench.FileErrors() || unreadable) {

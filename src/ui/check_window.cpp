@@ -280,11 +280,10 @@ void CheckWindow::Refresh() {
         if (!hardest[t]) continue;
         const int row = hardest_->rowCount();
         hardest_->insertRow(row);
-        const auto name = RungsOf(t).empty() ? std::string_view{} : RungsOf(t)[0].Name();
-        hardest_->setItem(
-            row, 0,
-            new QTableWidgetItem(t == 7 ? QStringLiteral("Subsets")
-                                        : QString::fromUtf8(name.data(), int(name.size()))));
+        // The technique as the manager names it (the six subsets are one row there).
+        const std::string_view name = TechniqueCaption(t);
+        hardest_->setItem(row, 0,
+                          new QTableWidgetItem(QString::fromUtf8(name.data(), int(name.size()))));
         hardest_->setItem(row, 1, new QTableWidgetItem(QString::number(hardest[t])));
     }
     hardest_->setVisible(hardest_->rowCount() > 0 && !p.Shown);
