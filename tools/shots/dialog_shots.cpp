@@ -1,6 +1,7 @@
 // Pictures of the print window (its preview with one, two and four puzzles to a
 // page, the on-screen puzzle in its current state, and "From" beyond the
-// library), a PDF of a job, and the colours window, for a person to look at.
+// library), a PDF of a job, the colours window and the practice window, for a
+// person to look at.
 // Written into TAVI_SHOTS_DIR.
 #include <QDir>
 #include <QPrinter>
@@ -8,6 +9,8 @@
 #include <QSpinBox>
 
 #include "ui/colors_window.h"
+#include "ui/practice_dialog.h"
+#include "ui/practice_indexer.h"
 #include "ui/print_window.h"
 #include "window_fixture.h"
 
@@ -79,6 +82,20 @@ TEST_F(DialogShots, ColorsWindow) {
     QTest::mouseClick(dialog.findChild<ClickLabel*>("LabelColor_7"), Qt::LeftButton);
     dialog.PickSwatch(20);
     Shot(dialog, QStringLiteral("colors-picked"));
+}
+
+// The practice window once the library's index is counted.
+TEST_F(DialogShots, PracticeWindow) {
+    Open();
+    PracticeIndexer indexer(folders.DataFolder);
+    indexer.Refresh();
+    PracticeLibrary library;
+    for (int i = 0; i < 600 && !indexer.Library(library); ++i)
+        QTest::qWait(50);
+    PracticeDialog dialog(indexer, folders.DataFolder);
+    dialog.show();
+    QTest::qWait(200);
+    Shot(dialog, QStringLiteral("practice"));
 }
 
 }  // namespace
