@@ -400,6 +400,7 @@ class Game : private MoveListener {
     std::string caption_;
     std::string sudTekst_;
     bool busy_ = false;
+    bool scanning_ = false;  // a Scan runs: the command now stops it
     bool scanStop_ = false;
     GameEvents events_;
     View seen_;

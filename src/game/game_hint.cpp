@@ -127,7 +127,7 @@ void Game::CommandHint() {
             "All pencilmarks must be visible to make hints available, shall I make them visible ?"))
         return;
     if (ReportWrongNumber(true)) return;
-    if (options_.PencilmarksOff && position().ChosenLevel < 4) return SpecialHint();
+    if (PencilmarksOffAt(options_, position().ChosenLevel)) return SpecialHint();
     if (ReportLostCandidate(true) || ReportStillMarked(true)) return;
 
     busy_ = true;
@@ -194,7 +194,7 @@ bool Game::AutoSolveBoard() {
 void Game::CommandAutoSolve() {
     const ChangeScope scope(*this);
     if (busy_) return;
-    if (position().ChosenLevel < 4 && options_.PencilmarksOff) return;
+    if (PencilmarksOffAt(options_, position().ChosenLevel)) return;
     if (!HiddenMarksShownFor(
             "All pencilmarks must be visible to start the Autosolver, shall I make them visible ?"))
         return;
@@ -231,7 +231,7 @@ void Game::ForgetStaleHint() {
 void Game::CommandScan() {
     const ChangeScope scope(*this);
     if (MakeMode) return;  // no library file is open while a puzzle is made
-    if (commands_.ScanCaption == "Stop") {
+    if (scanning_) {
         scanStop_ = true;
         return;
     }
@@ -265,6 +265,7 @@ void Game::CommandScan() {
     if (!to) return;
 
     commands_.ScanCaption = "Stop";
+    scanning_ = true;
     scanStop_ = false;
     bool halted = false;
     for (long n = from; n <= to && !scanStop_; ++n) {
@@ -286,6 +287,7 @@ void Game::CommandScan() {
     // A Scan that halted shows its hint; otherwise the box tells how it ended.
     if (!halted) textHint_ = std::string(scanStop_ ? kScanStoppedText : kScanDoneText);
     scanStop_ = false;
+    scanning_ = false;
     commands_.ScanCaption = "Scan";
 }
 

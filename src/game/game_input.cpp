@@ -45,7 +45,7 @@ void Game::MarkMouseUp(int digit, int cell, MouseButton button, bool inside) {
     // Only a mark that is there can be clicked, and a filtered digit not at all.
     if (ctx_.board.CurrentGrid[cell] || !ctx_.board.Has(digit, cell) || !FilterOn(digit))
         return EndTest();
-    const bool noMarks = position().ChosenLevel < 4 && options_.PencilmarksOff;
+    const bool noMarks = PencilmarksOffAt(options_, position().ChosenLevel);
     if (button == MouseButton::Right && noMarks) return EndTest();
 
     ResetHintStage();

@@ -31,14 +31,15 @@ void Game::CommandOptions(const Options& before) {
     const LibraryPosition& position_ = session_.position();
     ResetHintStage();  // a waiting "Show Me" is for the board as it was
     const bool gameOpen = !position_.SudokuSolved && position_.OpenLevel > 0;
-    const bool lowLevel = gameOpen && position_.OpenLevel < 4;
+    const int level = gameOpen ? position_.OpenLevel : 0;
     if (options_.Dimmed != before.Dimmed) HoverCell = kNoHover;
 
     // The marks of the board follow the two pencil-mark options: without them
     // every digit is a click target and the marks are the player's own.
-    const bool marksBefore = before.Pencilmarks && !(lowLevel && before.PencilmarksOff);
-    const bool marksNow = options_.Pencilmarks && !(lowLevel && options_.PencilmarksOff);
-    const bool offChanged = lowLevel && options_.PencilmarksOff != before.PencilmarksOff;
+    const bool marksBefore = before.Pencilmarks && !(gameOpen && PencilmarksOffAt(before, level));
+    const bool marksNow = options_.Pencilmarks && !(gameOpen && PencilmarksOffAt(options_, level));
+    const bool offChanged =
+        PencilmarksOffAt(before, level) != PencilmarksOffAt(options_, level) && gameOpen;
     const bool updateChanged = gameOpen && options_.Pencilmarks != before.Pencilmarks;
     if (offChanged && marksBefore != marksNow) {
         ResetHintStage();

@@ -160,7 +160,7 @@ void Game::RestoreProgress() {
 void Game::AfterLoad() {
     const LibraryPosition& position_ = session_.position();
     ResumePractice();
-    if ((position_.ChosenLevel < 4 && options_.PencilmarksOff) || !options_.Pencilmarks)
+    if (PencilmarksOffAt(options_, position_.ChosenLevel) || !options_.Pencilmarks)
         SpecialPencilmarks();
     textHint_ = std::string(kPlayingHintText);
     clock_.Start();

@@ -66,4 +66,8 @@ void SchrijfVersie(SettingsStore& store, const Options& options) {
     WriteInt(store, kVersion, "Sub", options.VersionSub);
 }
 
+bool PencilmarksOffAt(const Options& options, int level) {
+    return options.PencilmarksOff && level < 4;
+}
+
 }  // namespace tavi

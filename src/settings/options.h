@@ -9,6 +9,10 @@
 
 namespace tavi {
 
+struct Options;
+// The first three levels are played without marks when the option says so.
+bool PencilmarksOffAt(const Options& options, int level);
+
 struct Options {
     // Section "Options".
     bool Dimmed = false;          // marks drawn dim, with a hover highlight
