@@ -11,13 +11,7 @@
 namespace tavi::cli {
 namespace {
 
-std::vector<std::string> Lines(const std::string& text) {
-    std::vector<std::string> lines;
-    std::istringstream in(text);
-    for (std::string line; std::getline(in, line);)
-        lines.push_back(line);
-    return lines;
-}
+using testing::Lines;
 
 // --score only adds a fourth field: the first three are rate's own, line for
 // line, and the fourth is a number with one decimal.

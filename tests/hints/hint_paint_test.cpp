@@ -168,12 +168,5 @@ TEST(PaintHint, ToleratesRecordsOfStaleMarks) {
     }
 }
 
-TEST(PaintHint, DescribesEachPaint) {
-    EXPECT_EQ(DescribePaint({HintPaint::Erase}), "erase");
-    EXPECT_EQ(DescribePaint({HintPaint::Cell, 72, 0, kPatternCell}), "cell J1 pattern cell");
-    EXPECT_EQ(DescribePaint({HintPaint::Digit, 8, 5, kAttackedCandidates}),
-              "digit 5 of A9 attacked candidates");
-}
-
 }  // namespace
 }  // namespace tavi

@@ -82,43 +82,34 @@ struct OutlawLibrary {
     SudokuLogRecord Log(long n) { return PairAt(dir.path(), stem, n).second; }
 };
 
-TEST(ExportSudoku, MovesTheRecordOutAndClosesTheGap) {
+TEST(ExportSudoku, MovesTheRecordOutClosesTheGapAndRefusesANumberOutsideThePair) {
     OutlawLibrary lib(4);
     RecordingNotifier notifier;
-    ASSERT_TRUE(ExportSudoku(lib.dir.path(), 2, RecordOf(1), BusyLog(2), &notifier));
-    EXPECT_TRUE(notifier.messages.empty());
-
-    EXPECT_EQ(WholeRecords(PuzzleFile(lib.dir.path(), lib.stem), 166), 3);
-    EXPECT_EQ(WholeRecords(LogFile(lib.dir.path(), lib.stem), 1449), 3);
-    EXPECT_EQ(lib.Log(2), BusyLog(3));
-    EXPECT_EQ(lib.Log(3), BusyLog(4));
-
-    EXPECT_EQ(PairAt(lib.dir.path(), "Exported_Sudokus.sd", 1), std::pair(RecordOf(1), BusyLog(2)));
-    EXPECT_FALSE(fs::exists(lib.dir / "2Sudoku_Outlaw.sds"));
-    EXPECT_FALSE(fs::exists(lib.dir / "2Sudoku_Outlaw.sdl"));
-
-    // The next export goes after the first.
-    ASSERT_TRUE(ExportSudoku(lib.dir.path(), 3, RecordOf(3), BusyLog(4), &notifier));
-    EXPECT_EQ(WholeRecords(lib.dir / "Exported_Sudokus.sds", 166), 2);
-}
-
-TEST(ExportSudoku, TheLastRecordTakesTheFilesWithIt) {
-    OutlawLibrary lib(1);
-    ASSERT_TRUE(ExportSudoku(lib.dir.path(), 1, RecordOf(0), BusyLog(1), nullptr));
-    EXPECT_FALSE(fs::exists(PuzzleFile(lib.dir.path(), lib.stem)));
-    EXPECT_FALSE(fs::exists(LogFile(lib.dir.path(), lib.stem)));
-    EXPECT_TRUE(FileExists(lib.dir / "Exported_Sudokus.sds"));
-}
-
-TEST(ExportSudoku, ARecordNumberOutsideThePairChangesNothing) {
-    OutlawLibrary lib(3);
     const auto sds = FileBytes(PuzzleFile(lib.dir.path(), lib.stem));
-    RecordingNotifier notifier;
-    EXPECT_FALSE(ExportSudoku(lib.dir.path(), 4, RecordOf(0), {}, &notifier));
+    EXPECT_FALSE(ExportSudoku(lib.dir.path(), 5, RecordOf(0), {}, &notifier));
     EXPECT_FALSE(ExportSudoku(lib.dir.path(), 0, RecordOf(0), {}, &notifier));
     EXPECT_EQ(notifier.messages.size(), 2u);
     EXPECT_EQ(FileBytes(PuzzleFile(lib.dir.path(), lib.stem)), sds);
     EXPECT_FALSE(fs::exists(lib.dir / "Exported_Sudokus.sds"));
+    notifier.messages.clear();
+
+    ASSERT_TRUE(ExportSudoku(lib.dir.path(), 2, RecordOf(1), BusyLog(2), &notifier));
+    EXPECT_TRUE(notifier.messages.empty());
+    EXPECT_EQ(WholeRecords(PuzzleFile(lib.dir.path(), lib.stem), 166), 3);
+    EXPECT_EQ(WholeRecords(LogFile(lib.dir.path(), lib.stem), 1449), 3);
+    EXPECT_EQ(lib.Log(2), BusyLog(3));
+    EXPECT_EQ(lib.Log(3), BusyLog(4));
+    EXPECT_EQ(PairAt(lib.dir.path(), "Exported_Sudokus.sd", 1), std::pair(RecordOf(1), BusyLog(2)));
+    EXPECT_FALSE(fs::exists(lib.dir / "2Sudoku_Outlaw.sds"));
+    EXPECT_FALSE(fs::exists(lib.dir / "2Sudoku_Outlaw.sdl"));
+
+    // The next export goes after the first; the last record takes the files with it.
+    ASSERT_TRUE(ExportSudoku(lib.dir.path(), 3, RecordOf(3), BusyLog(4), &notifier));
+    EXPECT_EQ(WholeRecords(lib.dir / "Exported_Sudokus.sds", 166), 2);
+    for (int n = 2; n >= 1; --n)
+        ASSERT_TRUE(ExportSudoku(lib.dir.path(), n, RecordOf(0), BusyLog(1), nullptr));
+    EXPECT_FALSE(fs::exists(PuzzleFile(lib.dir.path(), lib.stem)));
+    EXPECT_FALSE(fs::exists(LogFile(lib.dir.path(), lib.stem)));
 }
 
 TEST(WriteBruteForceSolution, TheFoundSolutionGoesToTheFileAtItsNumber) {

@@ -18,6 +18,7 @@
 #include "hints/schrijf_hint.h"
 #include "solver/brute_force.h"
 #include "solver/ladder.h"
+#include "support/puzzles.h"
 
 namespace tavi {
 namespace {
@@ -117,21 +118,11 @@ TEST_P(RungCaseLine, FindsWhatItSaysAndSaysIt) {
 
 INSTANTIATE_TEST_SUITE_P(RungCases, RungCaseLine, ::testing::ValuesIn(ReadCases()), CaseName);
 
-std::vector<Digits> HardPuzzles() {
-    std::ifstream file(std::string(TAVI_TEST_DATA_DIR) + "/hard_puzzles.txt");
-    std::vector<Digits> out;
-    for (std::string line; std::getline(file, line);)
-        if (const auto puzzle =
-                line.empty() || line[0] == '#' ? std::nullopt : ParseDigits(line.substr(0, 81)))
-            out.push_back(*puzzle);
-    return out;
-}
-
 // At every state of the hard puzzles where the fixed head of the ladder has
 // nothing left, every ordered rung that finds a hint on the game side must tell
 // and paint exactly what it concludes.
 TEST(RungCases, EveryHintOnTheHardBoardsTellsAndPaintsWhatItConcludes) {
-    const auto puzzles = HardPuzzles();
+    const auto puzzles = testing::HardPuzzles();
     ASSERT_GE(puzzles.size(), 300u) << "tests/data/hard_puzzles.txt";
     std::vector<const Rung*> ordered;
     for (const Rung& r : LadderRungs())
@@ -140,7 +131,7 @@ TEST(RungCases, EveryHintOnTheHardBoardsTellsAndPaintsWhatItConcludes) {
     std::map<int, int> hintsOfKind;
     for (size_t k = 0; k < puzzles.size(); ++k) {
         SolveContext ctx(Side::Workbench);
-        ctx.board = BoardFromPuzzle(puzzles[k]);
+        ctx.board = BoardFromPuzzle(puzzles[k].puzzle);
         bool tried = false;
         int faults = 0;
         WorkbenchRun run;

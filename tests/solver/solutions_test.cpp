@@ -6,7 +6,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <fstream>
 #include <random>
 #include <string>
 
@@ -79,16 +78,12 @@ TEST(Solutions, AgreesWithTheBruteForceSearchOnEveryKindOfGrid) {
 
 // The project's hardest generated puzzles, with the one solution on file.
 TEST(Solutions, AgreesWithTheBruteForceSearchOnTheHardPuzzles) {
-    std::ifstream file(std::string(TAVI_TEST_DATA_DIR) + "/hard_puzzles.txt");
-    int read = 0;
-    for (std::string line; std::getline(file, line);) {
-        if (line.empty() || line[0] == '#') continue;
-        const Digits puzzle = testing::DigitsOf(line.substr(0, 81));
-        ASSERT_EQ(FormatDigits(Solutions(puzzle).first), line.substr(82, 81));
-        ExpectAgreement(puzzle, "hard");
-        ++read;
+    const auto hard = testing::HardPuzzles();
+    ASSERT_GE(hard.size(), 300u);
+    for (const GeneratedPuzzle& h : hard) {
+        ASSERT_EQ(Solutions(h.puzzle).first, h.solution);
+        ExpectAgreement(h.puzzle, "hard");
     }
-    EXPECT_GE(read, 300);
 }
 
 // A few thousand generated puzzles, changed at random: clues taken away, added or

@@ -102,18 +102,6 @@ std::vector<GeneratedPuzzle> GravePuzzles() {
     return out;
 }
 
-// The hardest puzzles the generator found, kept in tests/data.
-std::vector<GeneratedPuzzle> HardPuzzles() {
-    std::ifstream file(std::string(TAVI_TEST_DATA_DIR) + "/hard_puzzles.txt");
-    std::vector<GeneratedPuzzle> out;
-    for (std::string line; std::getline(file, line);) {
-        if (line.empty() || line[0] == '#') continue;
-        out.push_back(
-            {testing::DigitsOf(line.substr(0, 81)), testing::DigitsOf(line.substr(82, 81))});
-    }
-    return out;
-}
-
 // Every rung on its own, so that a rung is checked on many boards even where an
 // easier rung would have come first, for its soundness and for the level it
 // raises: at every state that the ladder passes through on generated puzzles (and
@@ -126,7 +114,7 @@ TEST(Soundness, EveryRungOnItsOwnKeepsTheSolution) {
     EXPECT_GE(graves.size(), 20u);
     puzzles.insert(puzzles.end(), graves.begin(), graves.end());
     const size_t firstHard = puzzles.size();
-    const auto hard = HardPuzzles();
+    const auto hard = testing::HardPuzzles();
     ASSERT_GE(hard.size(), 300u) << "tests/data/hard_puzzles.txt";
     puzzles.insert(puzzles.end(), hard.begin(), hard.end());
 

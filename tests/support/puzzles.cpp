@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <fstream>
 #include <map>
 #include <sstream>
 
@@ -68,6 +69,15 @@ std::vector<std::string> Fields(const std::string& line, char sep) {
         f.push_back(line.substr(start, at - start));
     f.push_back(line.substr(start));
     return f;
+}
+
+std::vector<GeneratedPuzzle> HardPuzzles() {
+    std::ifstream file(std::string(TAVI_TEST_DATA_DIR) + "/hard_puzzles.txt");
+    std::vector<GeneratedPuzzle> out;
+    for (std::string line; std::getline(file, line);)
+        if (!line.empty() && line[0] != '#')
+            out.push_back({DigitsOf(line.substr(0, 81)), DigitsOf(line.substr(82, 81))});
+    return out;
 }
 
 }  // namespace tavi::testing

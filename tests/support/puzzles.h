@@ -16,6 +16,9 @@ namespace tavi::testing {
 // Made once per process and kept.
 const std::vector<GeneratedPuzzle>& GeneratedPuzzles(int count, std::uint64_t start = 20261121);
 
+// The hardest puzzles the generator found, kept in tests/data, with their solutions.
+std::vector<GeneratedPuzzle> HardPuzzles();
+
 // Digits from 81 characters ('.' or '0' empty); fails the test on a bad string.
 Digits DigitsOf(std::string_view text);
 

@@ -182,20 +182,6 @@ class WorkbenchTest : public ::testing::Test {
     Workbench bench{prompter, root};
 };
 
-TEST_F(WorkbenchTest, ABatchThatMovesEveryRecordDeletesTheFiles) {
-    for (int i = 0; i < 4; ++i)
-        Add(3, easy[i]);
-    Add(1, easy[10]);
-    Open(3).CommandCheckAll();
-    EXPECT_EQ(prompter.shown.back().text, "All sudokus solved and rerated !");
-    EXPECT_FALSE(fs::exists(PuzzleFile(root, LevelStem(3))));
-    EXPECT_FALSE(fs::exists(LogFile(root, LevelStem(3))));
-    EXPECT_EQ(Count(1), 5);
-    EXPECT_FALSE(bench.commands().Solve);
-    bench.Command1(3);
-    EXPECT_EQ(prompter.shown.back().text, "No Hard sudokus found to open");
-}
-
 // Puzzles with no solution or several are not rated: they stay where they are,
 // counted in none of the report's counters, and named under their own heading.
 TEST_F(WorkbenchTest, PuzzlesWithoutOneSolutionStayAndAreNamedApart) {
@@ -395,8 +381,9 @@ TEST_F(WorkbenchTest, FailedMovesAreCountedInTheReportNotBoxedOneByOne) {
     EXPECT_EQ(bench.FileErrors(), 5);
 }
 
-// Check All empties Easy; at the next start the delivered Easy file is not
-// copied back, and the moves of a later check into Easy make the pair anew.
+// Check All that moves every record out of Easy deletes the pair; at the next
+// start the delivered Easy file is not copied back, and the moves of a later
+// check into Easy make the pair anew.
 TEST_F(WorkbenchTest, AnEmptiedLevelStaysEmptyAndTakesMovesIn) {
     testing::TempDir app;
     const LibraryFolders folders{app.path(), root};
@@ -407,7 +394,12 @@ TEST_F(WorkbenchTest, AnEmptiedLevelStaysEmptyAndTakesMovesIn) {
                                               {easy[1].puzzle, easy[1].solution, 0, 0}});
     CopyLibraryFiles(folders);
     Open(1).CommandCheckAll();
-    EXPECT_FALSE(FileExists(PuzzleFile(root, LevelStem(1))));
+    EXPECT_EQ(prompter.shown.back().text, "All sudokus solved and rerated !");
+    EXPECT_FALSE(fs::exists(PuzzleFile(root, LevelStem(1))));
+    EXPECT_FALSE(fs::exists(LogFile(root, LevelStem(1))));
+    EXPECT_FALSE(bench.commands().Solve);
+    bench.Command1(1);
+    EXPECT_EQ(prompter.shown.back().text, "No Easy sudokus found to open");
     CopyLibraryFiles(folders);
     EXPECT_FALSE(FileExists(PuzzleFile(root, LevelStem(1)))) << "copied back";
     Open(9).CommandCheckAll();
