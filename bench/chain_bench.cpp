@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The colouring, chain and loop rungs, one call at a time, over the states the
 // ladder passes through on generated puzzles of every level. Each iteration runs
 // the rung once on every state; the counters give the worst single call (over all

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The last rungs before bifurcation on boards where they find nothing, which is
 // where they cost the most: the whole search runs out. The boards are the states
 // the fixed head of the ladder leaves on the forum's hardest puzzles. Each

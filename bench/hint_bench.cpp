@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // How long a press of Hint takes on the boards a game passes through: every state
 // the ladder reaches on a few hundred generated puzzles of all levels. Reports the
 // median, the 99th percentile and the worst, in milliseconds.

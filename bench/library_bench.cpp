@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The library files: making the nine log files of a large library at the first
 // run, and moving one record between memory and disk.
 #include <benchmark/benchmark.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Making the delivered library: random puzzles rated into Easy to Kamikaze (the
 // goal: 1,000 each in under 5 minutes on two cores), walks of the search for hard
 // puzzles (candidates tried and kept per second), and the canonical form that

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The uniqueness, exclusion and Sue-de-Coq rungs on boards where they find
 // nothing: the whole scan, which is what a rating pays each time it passes them.
 // Each iteration is one call on one board.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Puzzle sets for the benchmarks: made by the generator, or read from a list by
 // path (one puzzle per line, '#' lines skipped). The public lists live outside the
 // project; TAVI_PUZZLE_DIR points at them.

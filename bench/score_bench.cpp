@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The difficulty score against the plain rating, puzzle for puzzle: the score
 // comes out of the same run, so the two should stay within a few per cent. Each
 // iteration rates one puzzle of the set, so items_per_second reads as puzzles per

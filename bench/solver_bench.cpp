@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Rating and brute-force throughput. Each iteration handles one puzzle, so
 // items_per_second reads as puzzles per second.
 #include <benchmark/benchmark.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The cost of one scan of a technique over a board where it finds nothing: the
 // price every rating pays each time the ladder passes the rung.
 #include <benchmark/benchmark.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The workbench over large libraries: a check of 10,000 Easy to Hard puzzles, and
 // removing the duplicates of 50,000 records.
 #include <benchmark/benchmark.h>

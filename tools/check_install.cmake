@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Installs the build under PREFIX and checks what a desktop and the installed
 # program look for. Run by ctest: cmake -DBUILD=... -DPREFIX=... -DAPP_ID=...
 # -DPROGRAMS=games -DSHARE=share/games/tavi-sudoku -P this.

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Runs the sound tool into a scratch folder and compares every file, byte for byte,
 # with the committed sounds.
 file(REMOVE_RECURSE ${OUT})

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // tavi-make-icons DIR: writes the program's icons for the desktop into DIR, as
 // the icon theme lays them out: hicolor/NxN/apps/ID.png in the usual sizes and
 // hicolor/scalable/apps/ID.svg.

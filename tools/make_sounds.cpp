@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Synthesises the ten sounds of the game as small WAV files (22050 Hz, mono,
 // 16 bit). The files are committed under data/sounds; run this again only to
 // change them:  tavi-make-sounds data/sounds

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // tavi-sudoku: the game window over the core. The folders, the settings store,
 // the options and the platform's services are made here and handed to the game;
 // the game starts before the window shows, as its questions may come first.

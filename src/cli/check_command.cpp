@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // library check: the workbench's Check All over the libraries of a folder, from
 // the command line. Moves and rewrites are the workbench's own.
 #include <algorithm>
@@ -80,8 +81,7 @@ int LibraryCheckCommand(const std::filesystem::path& folder, int onlyLevel, std:
     }
     out << "hardest technique\tpuzzles\n";
     for (int t = 0; t < kTechniqueCount; ++t)
-        if (hardest[t])
-            out << TechniqueCaption(t) << '\t' << hardest[t] << '\n';
+        if (hardest[t]) out << TechniqueCaption(t) << '\t' << hardest[t] << '\n';
     // A file that could not be written or read, or a damaged record: the work
     // is not done.
     if (bench.FileErrors() || unreadable) {

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The commands of tavi-sudoku-cli, each over streams so that tests can drive them.
 // Every command answers the process exit status (puzzle_lines.h): 0; 1 when some
 // puzzle was invalid (clashing givens: reported, not rated); 2 when some input

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Work shared out over threads, results taken in order: the commands that make or
 // solve many puzzles give the same output whatever the number of threads.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The puzzles of a library as `library build` makes them: random minimal puzzles
 // rated by the plain ladder fill the levels they reach, and the search for hard
 // puzzles fills the levels above them, walking out from the hardest random ones.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "cli/library_commands.h"
 
 #include <algorithm>
@@ -247,7 +248,8 @@ int ExportLibrary(const fs::path& sdsFile, std::ostream& out, std::ostream& err,
                     << " It was left out.\n";
             continue;
         }
-        out << FormatDigits(r.Puzzle, '.') << '\t' << FormatDigits(r.Solution) << '\t' << BestTime(r);
+        out << FormatDigits(r.Puzzle, '.') << '\t' << FormatDigits(r.Solution) << '\t'
+            << BestTime(r);
         if (score) out << '\t' << FormatScore(RatePuzzleWithScore(ctx, r.Puzzle).score);
         out << '\n';
     }
@@ -279,10 +281,10 @@ int ImportLibrary(std::istream& in, int level, const fs::path& dir, std::ostream
         return SudokuRecordFromBytes(bytes).Puzzle;
     });
     {
-        std::ifstream in(sds, std::ios::binary);
+        std::ifstream held(sds, std::ios::binary);
         SudokuRecordBytes bytes;
         for (long n = 1; n <= count; ++n) {
-            if (!in.read(reinterpret_cast<char*>(bytes.data()), std::streamsize(bytes.size())))
+            if (!held.read(reinterpret_cast<char*>(bytes.data()), std::streamsize(bytes.size())))
                 break;
             known.Add(SudokuRecordFromBytes(bytes).Puzzle, std::uint64_t(n));
         }

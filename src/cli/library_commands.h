@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The commands of tavi-sudoku-cli that make puzzles and move them in and out of
 // library files: generate, library build, library export and library import.
 // Each answers the exit status: 0, 1 when some input was skipped, 2 when the

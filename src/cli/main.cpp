@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // tavi-sudoku-cli: the command-line companion of Tavi Sudoku 1, for rating,
 // solving and explaining puzzles in bulk.
 #include <fstream>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Reading puzzles for the command-line companion: one per line, the first 81
 // characters are the puzzle, the rest of the line is ignored. Blank lines and
 // lines starting with '#' are skipped; a line that is no puzzle is reported with

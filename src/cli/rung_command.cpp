@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The rung command, which runs one technique on boards written out whole, and the
 // states command, which writes out the boards a rating run passes through.
 #include <string>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Painting with brushes, the digit filter and the colours of a hint.
 #include "game/brushes.h"
 

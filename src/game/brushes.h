@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The brushes and the paint of the board: which palette label each mouse button
 // holds, the colours painted on cells and on single marks, and the digit filter
 // (Command1) that hides a digit's marks. A click with a brush active paints and

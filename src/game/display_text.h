@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Small text conversions of the game window: clock fields and the numbers typed
 // into its input boxes.
 #pragma once

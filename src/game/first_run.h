@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The log files at start: made on the first run, and the mark that they exist
 // written at once, so that a run that fails half way tries again next time.
 #pragma once

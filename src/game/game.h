@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The game window's model: the board in play and its marks, the commands and
 // what they may do, the texts the window shows, and the questions it asks. No
 // widget lives here: the shell draws this state, forwards the person's clicks,
@@ -24,8 +25,8 @@
 #include "game/hint_flow.h"
 #include "game/library_session.h"
 #include "game/move_log.h"
-#include "game/recovery_copy.h"
 #include "game/practice.h"
+#include "game/recovery_copy.h"
 #include "hints/hint_paint.h"
 #include "library/library_files.h"
 #include "library/records.h"

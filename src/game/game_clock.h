@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The clock of a game over the injected time of day: it runs from the load,
 // takes a hint's price at once, pauses while the window is minimised, goes on
 // past midnight, and knows the record's best time. Whether it runs and shows is

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the window is told: the game looks at what it shows when a public
 // routine starts, and again when the outermost one ends, and names the parts
 // that differ.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What changed in the game, as the window is told after each of the game's
 // routines: the parts of the window to draw again. The game compares what it
 // shows before and after, so no routine can forget to say what it changed.

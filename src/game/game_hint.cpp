@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Hint, Autosolve and Scan: the solver step by step on the game's board. Before
 // any technique runs, the board is checked for what a technique can't see: wrong
 // digits, lost candidates and digits still marked in their peers.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Cell input: marks clicked to place or take away, the steps they write, the
 // digit filter, row and column selection, Reset Cell, and painting with brushes.
 #include "game/game.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Puzzles of the user's own: Make clears the board for the clues, which come by
 // clicks on the marks, by a text typed or pasted into the puzzle line, or by a
 // file dropped on it; Validate checks the entry, rates it with the solver and

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What a change of the options does to the game on the board.
 #include "game/game.h"
 #include "grid/candidates.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Practising a technique: its puzzle opens as a normal game of its level, saved
 // and resumed like any other; only the first hint of the technique is marked.
 #include <sstream>

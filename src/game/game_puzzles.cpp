@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Puzzles in and out: New, Open, the resume at start, Save, Solution, and the
 // pages that open in the browser. New, Open and the resume share one loading
 // routine.

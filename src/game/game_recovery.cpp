@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The recovery copy as the game keeps it: written whenever what the window shows
 // of the game changed, removed when no game is on the board or the program
 // ends normally, and offered back at the start after a run that did not end.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The program's life around the board: the start-up, the end of a game, and the
 // ways out.
 #include <filesystem>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Undo and redo: the move log walks the board back and forth; the game keeps
 // the commands, the counter and the wells in step.
 #include "game/game.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The game's clock as the window drives it, and the wells beside the board.
 #include "game/game.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The checks before the techniques, the stages of a hint without pencil marks,
 // and what the hint window is told.
 #include "game/hint_flow.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The hint flow of the game: the stage of a hint without pencil marks (the cell
 // first, "Show Me" the digit), the checks made before any technique runs (wrong
 // digits, lost candidates, digits still marked in their peers), the last hint a

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Where the game stands in the library: the level chosen, the puzzle open, the
 // last record used per level and whether a level was left with a game in
 // progress. The game model owns one of these; the routines here move it between

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The game's reads and writes of the library.
 #include "game/library_session.h"
 

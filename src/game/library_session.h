@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The library session of the game: which level is chosen, which record is open
 // (its puzzle and its log record as read), where the game stands in the
 // library, and the reads and writes of the pair's files that a game makes:

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The entry of a puzzle of the user's own: the texts of Make and Validate, and
 // how a text of clues is read, whether typed or pasted into the puzzle line or
 // dropped on it as a file.

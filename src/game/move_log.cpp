@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Undo and redo walk the move log. A step holds exactly the marks it changed, so
 // it is reversed and replayed from the log alone, whatever the options say now.
 #include "game/move_log.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The move log of a game: every step the person or the solver took, with
 // exactly the marks it changed, so that a step is undone and redone from the log
 // alone whatever the options say by then. Steps up to CurrentStep are on the

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Practising one technique: the techniques of the ladder from rung 8 to 38 with
 // how many puzzles of the library need each as their hardest step, the next such
 // puzzle the player has not finished, a generated one when the library has none,

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The practice index: for each puzzle of a library file, the technique of its
 // hardest step, with the level and the score of its rating. It is kept beside the
 // file ("Sudoku_Easy.sdp" beside "Sudoku_Easy.sds") and tied to the file's bytes

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The recovery copy: the game on the board as it stands after every step
 // (puzzle, digits, marks, clock and move log), kept beside the library so that a
 // crash or a kill loses nothing that was on screen. It is no save: the log

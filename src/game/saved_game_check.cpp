@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "game/saved_game_check.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A saved game is checked against its puzzle before it is laid on the board. A
 // log record may come from another puzzle (a library renumbered behind the
 // game's back) or be damaged: a step that touches a clue cell, or names a clue

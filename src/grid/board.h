@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // One complete board: the puzzle, its solution, the digits as they stand now and
 // the live candidates. The game and the workbench each own one; the techniques see
 // nothing else.

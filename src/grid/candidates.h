@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The plain candidate routines of a board. Everything that changes candidates goes
 // through these, or through VerwijderKnop of the solver, which adds the hint and
 // move-log behaviour on top of WisKnop.

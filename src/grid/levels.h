@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The nine difficulty levels, 1..9, in the order of their names, and the files
 // that hold each level's puzzles.
 #pragma once

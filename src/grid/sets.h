@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Sets of cells and of digits, the vocabulary the techniques are written in.
 // A CellSet holds any of the 81 cells in two machine words; a DigitSet any of the
 // nine digits in the low bits of a candidate mask. Both iterate in rising order,

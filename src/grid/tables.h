@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The vocabulary of the board: how cells, rows, columns, boxes and digits are
 // numbered, and the conversion tables between them. Everything is built at
 // compile time and never changes.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What a hint's sentence and its colours both work out again from the record and
 // the board, so that the two always tell the same story. Several kinds store less
 // than they say: the ALS kinds keep no removals (they are read from the hit's

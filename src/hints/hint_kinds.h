@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The 37 kinds of hint: the name the hint window shows behind "Hint - " and the
 // heads that open the sentences. The colours a hint paints with are the nine
 // roles of HintColor (settings/colors.h); a paint names its role, never a colour,

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The colours of a hint as a list of paints for the board to apply in order: each
 // paints a cell, or one candidate digit of a cell, in one of the nine roles of
 // HintColor, and a later paint on the same spot replaces an earlier one. The list

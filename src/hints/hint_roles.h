@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The roles in which a hint paints cells and candidates. Each role has its
 // colour among the user's hint colours, which are stored in this order.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The walk of Hint and Autosolve over the ladder: the fixed head, then the rungs
 // from position 8 on in the user's TechniqueOrder, each only if TechniqueOnOff
 // has it on. Hint stops at the first hit and changes nothing; Autosolve applies

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The hint for play without pencil marks: the board's marks mean nothing then,
 // so the next placement is worked out on a private table of candidates built from
 // the digits alone. The board itself is never read beyond CurrentGrid.

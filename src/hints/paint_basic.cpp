@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Painting of the singles, the intersections, the subsets, bifurcation and the
 // bivalue universal grave.
 #include <cstdlib>

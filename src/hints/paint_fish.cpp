@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Painting of the fish and of the single-digit patterns.
 #include <algorithm>
 

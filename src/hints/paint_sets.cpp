@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Painting of the almost locked sets, 3D Medusa, the forcing chains and MultiFish.
 #include <algorithm>
 

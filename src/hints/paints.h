@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The painting of each family of kinds, after WisKleuren; PaintHint dispatches
 // to them by HintKind. The order of the paints is the order in which the board
 // is coloured, and it matters: a later paint replaces an earlier one.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "hints/schrijf_hint.h"
 
 #include "hints/hint_facts.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // SchrijfHint: the sentence that explains a hint, built from the hint record and
 // the board the hint was found on. Pure: it reads both and changes neither. The
 // colours that go with the sentence are PaintHint's (hints/hint_paint.h), the

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The small pieces every hint sentence is built from: cells, rows, columns and
 // boxes as the sentences name them, and lists. The names tolerate a value out of
 // range (a stale or faulty record) by writing nothing, rather than reading past a

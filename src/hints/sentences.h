@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The sentence writer's families of kinds; SchrijfHint dispatches to them by
 // HintKind. Each answers the whole sentence of its kinds, head included.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Sentences of the colours and the chains: simple and multi colours, XY-Chains,
 // nice loops and alternating inference chains.
 #include "hints/hint_facts.h"

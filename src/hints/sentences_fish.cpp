@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Sentences of the fish and of the single-digit patterns: X-Wing, Swordfish,
 // Jellyfish, the multi-value and finned X-Wings, the empty rectangle, the kite and
 // the skyscraper.

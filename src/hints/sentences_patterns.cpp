@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Sentences of the wings, the aligned exclusions, Sue-de-Coq and the unique and
 // avoidable rectangles.
 #include "hints/hint_facts.h"

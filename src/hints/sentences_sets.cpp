@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Sentences of the almost locked sets, 3D Medusa, the forcing chains and
 // MultiFish. These kinds keep less in the record than they tell, and work the
 // rest out again from the board (hints/hint_facts.h).

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Where a puzzle stands in the library of a folder, if it does: each level's
 // puzzle file read record by record, nothing held.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // One program at a time on a data folder. The game window holds the lock of its
 // data folder while it runs, and the commands that rewrite library files take it
 // for their run, so two of them never overwrite each other's records.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Puzzles in the files of other programs, as the import reads them (and the
 // game, a text pasted or dropped while a puzzle is made). These layouts are
 // understood, line by line and mixed freely:

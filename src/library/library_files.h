@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // One record at a time between a library file and memory. Each read or write
 // opens the file, seeks once, moves one record and closes it again: no file stays
 // open and nothing is cached, so the file on disk is always the truth.

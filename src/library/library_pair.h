@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The two files of a level move together: record k of the `.sdl` file belongs to
 // record k of the `.sds` file of the same stem. These routines read, write, add
 // and take out records in both files at once, and put the first file back when

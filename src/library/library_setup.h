@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Getting the library in place at start: the delivered puzzle files are copied to
 // the user's data folder once, and on the first run every puzzle gets an empty log
 // record.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Moving records from one level's pair to another as steps a kill cannot split.
 //
 // A run (Check All, Solve) appends each moved record to the pair of its new level

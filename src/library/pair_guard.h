@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Keeping a pair whole through kills and damage. Every writer that changes a
 // pair leaves, at any instant, either the old pair or the new one:
 //

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Taking records out of a level's pair of files as one crash-safe rewrite: the
 // kept records move up in their order, and a kill at any instant leaves either the
 // old pair or the new pair whole (pair_guard.h).

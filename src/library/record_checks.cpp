@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "library/record_checks.h"
 
 #include "grid/tables.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What a record read from disk must hold before anything indexes with it. The
 // library files may come from elsewhere or be damaged, so every field is checked
 // against its range; the answer names the first field that is wrong.

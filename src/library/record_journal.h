@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Records written over records that are there go through a note first, so that a
 // kill at any instant leaves either all the old records or all the new ones.
 //

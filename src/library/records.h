@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The two records of the library files. A `.sds` file is a row of SudokuRecords
 // (the puzzle, its solution and the best time); the `.sdl` file of the same stem
 // holds, record for record, the user's progress on each puzzle. Both are fixed

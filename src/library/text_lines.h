@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Reading text a line at a time with a bound: a line without an end, or of
 // noise, is never held whole, so no input can take more memory than the bound.
 #pragma once

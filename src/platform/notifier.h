@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // How the core speaks to the person: a beep and a message box with a title
 // (Notifier), and questions with buttons and the input box (Prompter). The shell
 // implements them with real dialogs; tests record what was said and script the

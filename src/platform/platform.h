@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the game needs of the platform, as small interfaces the shell implements
 // and tests script: questions and message boxes, sounds, the time of day, and
 // opening a page in the user's browser.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Where everything of a board lies at a given size: the 81 cells with their
 // 3 x 3 marks, the row headers on the left and the column headers on top (when
 // there are headers), and the lines between them. Whole device units throughout,

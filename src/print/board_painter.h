@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The one board painter. The game window's board, the hint window's frozen copy,
 // the colours window's preview and the printed pages are all drawn by
 // PaintBoard from a BoardPicture, a small description of what stands on the

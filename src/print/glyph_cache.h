@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Rendered digits, kept per size and colour: a full board draws up to 729 marks
 // and 81 digits on every repaint, and a resize renders each glyph once.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The type of the printed page: digits in a serif face metric-compatible with
 // Times New Roman, headings and captions in a sans face metric-compatible with
 // Arial. The families are asked for by those names and fontconfig answers with

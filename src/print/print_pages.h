@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The printed pages: the print job of the core drawn with the board painter, on
 // a printer (PDF included) or, scaled, as the print window's preview, so the
 // preview is always what will print.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What a print job is, apart from the drawing: the settings of the print window,
 // the range it shows, the page in A4 measure with the places of the puzzles on
 // it, which puzzle goes where, and the puzzles read from the library with their

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The colours the user can change: the nine hint colours by role, and the back
 // and fore colour of the board's palette labels. Values are 0x00BBGGRR, the byte
 // order of the platform's colour value that the store has always held.

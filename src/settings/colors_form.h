@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The colours window works on a copy: a click on a sample label or a hint colour
 // selects it (its caption shows " X"), a click on a swatch of the palette gives
 // the selected one that colour, Defaults puts back the program's colours, and

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The options of the program, read once at start and written at exit. They live
 // in one object that the game and the workbench are given; nothing reads them
 // from anywhere else.

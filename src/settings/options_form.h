@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The options window works on a copy: the check boxes change only the copy, OK
 // takes it, Cancel and the close box drop it.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Typed values over the text of the store. The store may hold anything a person
 // or another program put there; a value that can't be read as its type gives the
 // default, so a damaged settings file never stops the program, and is noted in

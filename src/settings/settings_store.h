@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The per-user key store that all settings live in: sections of named text
 // values, read with a default. The program keeps it in an INI file; tests keep
 // it in memory.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The Solving Techniques Manager: per technique whether Hint and Autosolve use it,
 // whether Autosolve halts at it, and the order of the techniques from 8 to 38.
 // Changes count at once; there is no Cancel.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Technique numbers and the order of the ladder. Numbers 0 to 39 index the
 // technique tables; the ladder runs 3 to 39, with 3 to 7 its fixed head and 39,
 // Bifurcation, always last. Entry i of an order is the position of technique i.

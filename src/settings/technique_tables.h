@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The user's choice per technique: used by Hint and Autosolve or not, halt
 // Autosolve there or not, and the position in the ladder. The head of the ladder
 // (0 to 7) and Bifurcation (39) keep their places; the positions 8 to 38 are a

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Bifurcation, the last rung: try each candidate of each two-candidate cell and
 // keep it when the logic then solves the whole board. A trial that fails proves
 // nothing that is used; only a full logical solution counts. Digits are tried in

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Exhaustive search: does a puzzle have exactly one solution, and which?
 // The search keeps a log of which peers lost a digit at each trial, so that a
 // trial is taken back exactly and without searching.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // One puzzle in many clothes: relabelling the digits, swapping rows within a band,
 // bands, columns within a stack, stacks, and turning the grid over its diagonal all
 // give a puzzle that plays the same. The canonical form is one chosen member of all

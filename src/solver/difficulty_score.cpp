@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "solver/difficulty_score.h"
 
 #include <algorithm>
@@ -21,9 +22,7 @@ double Doubling(int amount, double base, double step, double most) {
 
 }  // namespace
 
-double RungWeightOf(const Rung& rung) {
-    return kRungCatalog[std::size_t(RungIndex(rung))].weight;
-}
+double RungWeightOf(const Rung& rung) { return kRungCatalog[std::size_t(RungIndex(rung))].weight; }
 
 double StepDifficulty(const Rung& rung, const StepSize& size) {
     const double weight = RungWeightOf(rung);

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The difficulty score: a decimal number that ranks puzzles finer than the nine
 // levels. It falls out of the same rating run as the level: each hit of the
 // ladder is a step whose difficulty is its rung's weight plus what the hit tells

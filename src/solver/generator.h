@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Making puzzles: a random solved grid, then clues taken away in random order for
 // as long as the solution stays unique. Every clue left is needed, so the puzzle
 // is minimal. The same start value always gives the same puzzles.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Finding puzzles harder than random ones. Random minimal puzzles seldom reach
 // Extreme and never the levels above it, so the search starts from the hardest
 // puzzles the generator made and walks their neighbourhood: take one or two clues

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The one hint record. A technique asked for a hint (HintOnly) stops at its first
 // hit and leaves what it found here; the sentence, the colours and the caption are
 // all derived from this record elsewhere. A technique fills only the fields its

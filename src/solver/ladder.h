@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The ladder: the techniques from the simplest to the hardest, back to the top
 // after every success, until the board is solved or no technique helps. The
 // hardest technique a puzzle needed is its rating.

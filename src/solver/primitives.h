@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The candidate routines as the techniques call them: they honour the mode, keep
 // the game's move log in step, and write down what a hit concludes.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Working memory that a few techniques keep from one call to the next, so that
 // the ladder, which runs them again after every hit while most of the board stays
 // as it was, does not start from nothing each time: the subsets' record of units

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The solution counter: how many solutions a grid of givens has, up to a limit,
 // and the first one found. Every place that only needs that answer asks here;
 // the brute-force search with its log stays for the workbench and Bifurcation,

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Everything a technique works on: the board, the level reached, the mode, the
 // hint record, and the hooks through which the game keeps its move log in step
 // and the workbench keeps its window alive. Every technique is written once

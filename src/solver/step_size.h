@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What a hit tells of its own size beyond its rung: the nodes of a chain or loop,
 // how deep the branches of a forcing chain had to run, the trials Bifurcation
 // made. The ladder's walk empties it before each rung; the difficulty score reads

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Every technique of the ladder, one routine each. A technique reads the
 // candidates, stops at its first hit, removes candidates or places a digit through
 // the primitives and answers true; the walk then raises SolvingLevel to the rung's

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The About box: the program's name, version and licence, its home page, and the
 // revision history of FormRevision below them. The game window's version label
 // opens it.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The program's icon: a rounded blue square holding a small board of 3 x 3
 // boxes, the middle one lit. The same shapes make the window's icon, the PNG
 // icons of the desktop in every size, and the scalable SVG one.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The board with what stands beside it: the digit filter buttons (Command1) and
 // the wells. Placed by hand so that the button and the well of a digit line up
 // with a row of the board (beside it) or a column (below it), whichever leaves

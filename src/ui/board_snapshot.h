@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the game window's board shows, as the board painter's description: the
 // board widget draws it afresh on every paint, and the hint window keeps a
 // frozen copy, so that later moves on the board leave the copy as it was until

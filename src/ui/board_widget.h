@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The board of the game window: 81 cells with their big digit or their 3 x 3
 // pencil marks, the painted colours, the row headers A to J (no I) and the
 // column headers 1 to 9. The board painter draws what the game holds; the

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/check_window.h"
 
 #include <QApplication>
@@ -21,8 +22,8 @@
 #include "solver/ladder.h"
 #include "ui/qt_convert.h"
 #include "ui/release_controls.h"
-#include "workbench/rating_pool.h"
 #include "ui/workbench_score.h"
+#include "workbench/rating_pool.h"
 
 namespace tavi::ui {
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // FormCheck, the file workbench: the nine library buttons, navigation, the double
 // board (the puzzle in Label1, its solution or the solver's board in Label2), the
 // commands, and the progress frame of a run. It draws the Workbench model and

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // FormColors: the colours of the board's palette labels and the nine hint
 // colours, chosen from a palette, with a small board as a live preview drawn by
 // the board painter. It works on a copy; accept takes it and writes it to the

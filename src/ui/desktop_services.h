@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The time of day for the game's clock, and opening pages with the desktop's
 // default handler.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // FormHint: the small hint window. A frozen copy of the game's board with the
 // hint's colours, captioned with the technique that found the hint, so the
 // person can keep the hint in view while trying things on the board. Its menu

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Play from the keyboard beside the mouse: the arrow keys move a cursor over the
 // board, 1 to 9 place a digit in its cell, Ctrl or Alt with a digit takes that
 // pencil mark away, Delete and Backspace clear the cell. Each key makes the very

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // MainWindow: the game window. The board with its digit filter and wells, the
 // levels, the commands, the hint box, the step counter and clock, the palette,
 // the puzzle's text line and the small labels at the foot. Every control shows

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The controls of the game window and where they stand.
 #include <QButtonGroup>
 #include <QGridLayout>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The game window's "Practise..." command: the practice window picks a technique
 // and a puzzle, and the game opens it.
 #include <QPushButton>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // FormOptions: the options window. It works on a copy of the options: the boxes
 // change only the copy, OK takes it, Cancel and the close box leave the options
 // as they were. The techniques manager it opens is the exception: its changes

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The window's small pictures, drawn rather than shipped: the brush pointer
 // (unless a "Brush.ico" lies in the program's folder), the emblem that opens the
 // web site and the one that opens the file window.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The "Practise..." window of the game: the techniques of the ladder from rung 8
 // to 38, each with the number of library puzzles that need it as their hardest
 // step. Choosing one picks the next such puzzle the player has not finished, or,

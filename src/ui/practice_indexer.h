@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Keeps the practice indexes of the library up to date on a thread of its own, so
 // that neither the start nor the practice window waits for a rating run. A fresh
 // index is only read (milliseconds); a library file that changed is rated again.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // FormPrint: prints puzzles of a level, one, two or four to a page, for up to
 // ten pages, with or without solutions, or the puzzle on the screen with its
 // pencil marks. The preview beside the settings is the first page as it will

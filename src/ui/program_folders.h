@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The two folders of the program: the folder of what the program brings (the
 // delivered library, the help pages and the sounds), and the user's data folder ("TaviSud1" in the
 // platform's per-user data folder), where all game files live.

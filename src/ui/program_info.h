@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the program says of itself: its name and version, its licence, and the
 // answers to --help and --version on the terminal, given before any window or
 // display is touched.

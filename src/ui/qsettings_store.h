@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The program's settings store: an INI file of the user, application "TaviSud1".
 // Writes are gathered in memory and reach the file at Flush and when the store
 // goes.

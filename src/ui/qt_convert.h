@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Small conversions between the core's types and Qt's: colours, mouse buttons
 // and text.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The game's questions as Qt dialogs: message boxes with the game's titles,
 // texts, buttons and icons, and the input box.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The game's ten sounds, wave files in the program's folder played through Qt
 // Multimedia. Missing files and a machine without an audio device make it
 // silent: it then says it isn't available, and the game turns sounds off.

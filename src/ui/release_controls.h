@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Buttons and labels that tell which mouse button was released over them, and
 // whether the release was still over them: the game's clicks on the digit
 // filter, the palette and the labels count only then, and the right button has

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // FormRevision: the program's revision history in a text box, with a button to
 // close it.
 #pragma once

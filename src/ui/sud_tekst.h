@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // SudTekst: the puzzle's line under the board. In play it shows the 81 digits of
 // the puzzle and is locked; while a puzzle is made it takes typed or pasted
 // clues and the drop of a text file, and shows the game's prompt until the user

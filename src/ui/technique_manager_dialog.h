@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // SolveTech: the Solving Techniques Manager. One row per technique, standing at
 // the technique's position in the ladder, with an include box (used by Hint and
 // Autosolve), a halt box (Autosolve stops there) and a button that picks the row

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The wells beside the board: for each digit a small map of the nine boxes, by
 // band and by stack, with the boxes that hold the digit filled in. A digit in
 // all nine boxes shows as completed. One row per digit, level with the board's

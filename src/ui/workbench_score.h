@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The difficulty score of the workbench's puzzle, shown under its number. Rated
 // once per puzzle and kept, and not while a batch runs.
 #pragma once

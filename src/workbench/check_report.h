@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What a check of a library ends with: what becomes of the two files, and the
 // report the workbench gives. The counters: R the puzzles moved to another level,
 // O those moved to Outlaw, U those solved and left in place, out of T records.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Equal puzzles in a library: records whose 81 puzzle bytes agree byte for byte
 // (a symmetry or a relabelling is no duplicate). The first of each group stays.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Records of a level written out as text for other programs: one puzzle a line,
 // '.' for an empty cell, then the level. The import reads such a file back.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Importing the puzzles of a foreign file into the library: each puzzle is read
 // (foreign_puzzles.h), checked for exactly one solution and for being new to the
 // library, rated by the ladder, and appended with its solution to the pair of its

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Puzzles rated on worker threads, each with a solver context of its own, and the
 // results handed back in the order the puzzles were handed in: a run on many
 // cores reads, writes, moves and reports exactly as a run on one. Files are never

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The file workbench, FormCheck, without a widget: one library open at a time on
 // a private board of its own, so that a run never touches the game. It steps
 // through the puzzles, solves one, a range or the whole file by logic (rerating:

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The learner's side of the command-line companion: hint and steps --explain.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include <gtest/gtest.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -143,10 +144,29 @@ TEST(CliInput, BadLinesAreReportedBoundedAndTheRestIsProcessed) {
     } cases[] = {
         {good + "\n123\n# comment\n\n" + badChar + "\n" + good + " trailing\n" +
              good.substr(0, 80) + "\n",
-         {"line 2", "line 5", "line 7"}, 2},
+         {"line 2", "line 5", "line 7"},
+         2},
         {many,
-         {"line 1: no puzzle line: longer than 4096 characters", "", "", "", "", "", "", "", "",
-          "", "", "", "", "", "", "", "", "", "", "",
+         {"line 1: no puzzle line: longer than 4096 characters",
+          "",
+          "",
+          "",
+          "",
+          "",
+          "",
+          "",
+          "",
+          "",
+          "",
+          "",
+          "",
+          "",
+          "",
+          "",
+          "",
+          "",
+          "",
+          "",
           "standard input: and 12 more lines that are no puzzle"},
          1},
     };

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The library commands that rewrite a folder refuse one that a running game
 // holds, with exit code 2, and leave its files as they were.
 #include <gtest/gtest.h>

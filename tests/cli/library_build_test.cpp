@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The puzzles of `library build`: every level holds puzzles of its own level only,
 // of one solution, each once up to the grid's symmetries, easier ones first; and
 // the same start value gives the same library on one thread or two, search included.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "cli/library_commands.h"
 
 #include <gtest/gtest.h>
@@ -100,15 +101,15 @@ TEST(CliLibrary, BuildWritesNineRatedFilesAndReportsTheCounts) {
     EXPECT_EQ(Fields(lines[9])[0], "generated");
 
     // The counts level by level; a list that is not nine whole numbers is refused.
-    const Output counted =
-        RunCommand(LibraryCommand, {"library", "build", "--out", dir.path().string(), "--counts",
-                                    "1,0,0,0,0,0,0,0,0"});
+    const Output counted = RunCommand(
+        LibraryCommand,
+        {"library", "build", "--out", dir.path().string(), "--counts", "1,0,0,0,0,0,0,0,0"});
     EXPECT_EQ(counted.status, 0) << counted.err;
     EXPECT_EQ(Lines(counted.out)[0].substr(0, 7), "Easy\t1\t");
     EXPECT_EQ(Lines(counted.out)[1].substr(0, 9), "Medium\t0\t");
     for (const char* bad : {"1,2,3", "1,2,3,4,5,6,7,8,9,10", "1,2,x,4,5,6,7,8,9"})
-        EXPECT_EQ(RunCommand(LibraryCommand, {"library", "build", "--out", dir.path().string(),
-                                              "--counts", bad})
+        EXPECT_EQ(RunCommand(LibraryCommand,
+                             {"library", "build", "--out", dir.path().string(), "--counts", bad})
                       .status,
                   2)
             << bad;

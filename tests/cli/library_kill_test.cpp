@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Kills in the middle of every writer of a pair: a child process appends,
 // imports, saves or exports until it is killed at a random instant, and then the
 // pair must open whole, as one of the states the writer passes through, with

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The practice index against the command line's rating, and the index file kept
 // beside a library: fresh when the library is as it was, made again when it
 // changed or the index file is damaged.

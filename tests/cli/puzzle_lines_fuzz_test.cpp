@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Random and mutated text through the puzzle-line reader: every puzzle it hands
 // on is 81 cells of 0 to 9 that match the text, and every line it refuses is
 // named with its source and number. These run under the address and

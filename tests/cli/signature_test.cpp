@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The ladder's signature over a fixed list of puzzles must stay as it is recorded:
 // a change of any rung's behaviour shows here. The puzzles are the first column of
 // the file itself, so a change of the generator cannot move this check. When a

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The game against damaged files, unreadable settings, large libraries and a
 // clock or a scan that carried state from one puzzle to the next.
 #include <gtest/gtest.h>
@@ -104,11 +105,13 @@ TEST_F(Faults, UnreadableSettingsAreSaidAndNoSavedGameIsLost) {
         ASSERT_GE(prompter.shown.size(), 2u) << level << " " << busy;
         const std::string said = prompter.shown[0].text;
         EXPECT_NE(said.find("Technique/OnOff4=banana"), std::string::npos) << said;
-        if (std::string(level) != "2")
+        if (std::string(level) != "2") {
             EXPECT_NE(said.find("Sudoku/Level=" + std::string(level)), std::string::npos) << said;
-        if (std::string(busy) != "Yes")
+        }
+        if (std::string(busy) != "Yes") {
             EXPECT_NE(said.find("SudokuLevel2/Busy=" + std::string(busy)), std::string::npos)
                 << said;
+        }
         EXPECT_EQ(prompter.shown[1].text, "Do you want to proceed with the last saved sudoku ?");
         EXPECT_EQ(game->CurrentStep(), saved.StepCount);
     }

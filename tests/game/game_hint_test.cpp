@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Hint, Autosolve and Scan on the game's board: the checks before the techniques
 // in their order, the penalties on a scripted clock, the halts.
 #include "grid/candidates.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Cell input and the move log: placing and taking away marks under each option,
 // the step each click writes, undo and redo, Reset Cell, filters and brushes.
 #include "support/game_fixture.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A game is never lost: a long game saves its latest 100 steps with its whole
 // board, and a saved game whose steps could not have been played on its puzzle
 // loses those steps, never a clue.

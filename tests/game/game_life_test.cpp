@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The program's life: the start, the resume of a busy level, and every way out.
 #include "support/game_fixture.h"
 

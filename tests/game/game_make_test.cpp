@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Puzzles of the user's own: the way into making, the clues by click, text and
 // drop, and every way out of Validate, with the person's answers scripted.
 #include <fstream>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What a change of the options does to the game on the board, and the penalty.
 #include "grid/candidates.h"
 #include "settings/options_form.h"

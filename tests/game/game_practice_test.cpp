@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Practising a technique: the puzzle opens as a normal game of its level, is saved
 // and resumed like any other, and only the first hint of the technique is marked.
 #include "hints/hint_search.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Puzzles in and out: New and Open with their questions, the load of a saved
 // game, Save and its refusals, Solution, the end of a game and its best time.
 #include "support/game_fixture.h"

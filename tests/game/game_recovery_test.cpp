@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The recovery copy under kills: a game played in a child process is killed
 // (SIGKILL) at random instants; the next start offers it back with every step
 // that was on screen before the last one, and no library record but the game's

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The game model under a long random run: placements, marks taken away, empty
 // steps, undo, redo, Reset Cell, and save with a restart in random order, over
 // the generated library. Undoing everything gives back the board and marks the

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Nothing stale on the board: a hint's colours, its text and the headers it
 // picked go with the action that made the hint false, and stay while it holds;
 // Make shows nothing of the game before.

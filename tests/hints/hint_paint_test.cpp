@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The colours of representative kinds, judged on the board they leave: the last
 // role painted on each cell and candidate.
 #include "hints/hint_paint.h"

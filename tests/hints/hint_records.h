@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Hint records filled by hand, the way each technique leaves them, for the kinds
 // whose technique is not on the ladder yet. Every field the kind does not name
 // keeps a stale mark, so a sentence or a paint that reads one shows it.

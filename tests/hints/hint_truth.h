@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Whether a hint tells the truth: what its sentence names and what its colours
 // mark, set against what the hit concludes. Shared by the checks over the rung
 // cases and over the board states of the hard puzzles.

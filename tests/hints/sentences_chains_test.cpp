@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The sentences of the colours, the chains, the almost locked sets, Medusa, the
 // forcing chains and MultiFish, from records filled as their techniques fill them.
 // The kinds that tell more than they keep are given boards to work it out from.

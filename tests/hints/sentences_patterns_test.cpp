@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The sentences of the fish, Sue-de-Coq and the rectangles in the forms that no
 // real hit leaves, from records filled by hand.
 #include "hints/hint_records.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The library delivered in data/, read from the files themselves: every puzzle has
 // one solution, which its record holds, rates on the plain ladder exactly at the
 // level of its file, and stands once in the whole library, even in other clothes;

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The data-folder lock: held by one process at a time, free again the moment
 // its holder is killed, whatever the lock file then holds.
 #include "library/folder_lock.h"

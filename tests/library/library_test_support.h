@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A scratch folder per test, and small helpers to lay library files in it.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Random and mutated bytes through the readers of the library files: whatever
 // they accept holds only values in range, and nothing they read runs outside the
 // board or the files. These run under the address and undefined-behaviour

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The print job apart from drawing: the range label, the places on the page,
 // which puzzle goes where, and what a read failure does to the job.
 #include "printmodel/print_model.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Random and mutated values for every setting read at start: whatever the store
 // holds, the options, the technique tables and the library position come out in
 // range, and every value that was not understood is noted. These run under the

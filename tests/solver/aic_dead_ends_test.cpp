@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The dead-end table of the alternating inference chains against a plain map:
 // whatever it answers for a key is what was kept for that key, a key it never
 // kept answers -1, it keeps nearly everything while it is far from full, and
@@ -30,7 +31,7 @@ Key RandomKey(std::mt19937_64& rng) {
 
 TEST(AicDeadEnds, AnswersOnlyWhatWasKeptAndForgetsOnClear) {
     std::mt19937_64 rng(31);
-    DeadEnds table(12);  // 4096 entries
+    DeadEnds table(12);                         // 4096 entries
     EXPECT_EQ(table.Find(RandomKey(rng)), -1);  // a new table holds nothing
     for (int round = 0; round < 3; ++round) {
         std::map<Key, int, KeyOrder> kept;

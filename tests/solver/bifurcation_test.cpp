@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Bifurcation on the boards where the head of the ladder gets stuck. The guess
 // that must be taken is worked out trial by trial here, so the tests hold the
 // rung to its order and its restore whatever the ladder learns later.

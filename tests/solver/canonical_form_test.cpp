@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The canonical form over many generated puzzles: every symmetry of the grid gives
 // the same form, the form is itself one of the puzzle's forms, and puzzles that are
 // not the same give different forms.

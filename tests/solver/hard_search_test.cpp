@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The rating with its measures, and walks of the search for hard puzzles: what a
 // walk reports holds for every find, and a walk is fixed by its start and seed.
 #include "solver/hard_search.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A hint must tell exactly the step that the same rung would take, and change
 // nothing. This walks generated puzzles up the ladder and, at every state, asks
 // each rung for a hint before letting it act: the conclusions in the record must

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Every technique case of tests/data/rung_cases.txt: the board, the technique, the
 // changes it makes on the workbench side, and the sentence and the colours its hint
 // writes on the game side. A technique's cases are data lines there, not a test of

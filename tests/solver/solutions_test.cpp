@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The solution counter against the documented brute-force search, which serves
 // as the oracle: both must say none, one or several, and give the same solution
 // when there is one.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Soundness of the whole ladder: over thousands of generated puzzles whose unique
 // solution is known, no rung may ever take away a true candidate or place a wrong
 // digit. The test walks the rung table, so every technique joins it by itself the

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Boards built by hand for the scan-order tests: start from a board where every
 // cell is open with all nine candidates, then shape the candidates of a few
 // units so that exactly the patterns a test wants are on it.

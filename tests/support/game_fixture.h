@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A game on a library of generated puzzles in a temporary folder, with the
 // person's answers scripted and the clock, the sounds and the store faked.
 #pragma once

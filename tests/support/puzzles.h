@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Puzzles for the tests, made by the project's own generator from fixed start values, and small
 // helpers to build boards from text.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the program says of itself: --help and --version on the terminal, before
 // any window, and the About box's name, version and licence.
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The board painter by its pixels: a candidate painted in a hint role stays
 // visible on whatever colour its cell is painted in.
 #include "print/board_painter.h"

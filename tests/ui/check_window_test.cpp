@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The workbench window during and after a run: Escape aborts a run and nothing
 // closes the window while it goes on; the commands stay where they are when the
 // table of hardest techniques comes and goes.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The highlight around the cursor: which cells and marks it picks out for each
 // cursor and option, and that the colours of hints and brushes lie above it.
 #include <QImage>

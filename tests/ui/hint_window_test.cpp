@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The small hint window: a frozen copy of the board with the hint's colours, its
 // caption, and its menu (Refresh, Save as BMP, Print).
 #include "ui/hint_window.h"

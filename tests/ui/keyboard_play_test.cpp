@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Keyboard play against mouse play: two windows over the same generated library,
 // one played with clicks and one with keys, must end in the same game.
 #include <QApplication>

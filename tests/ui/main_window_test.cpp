@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The game window over a real game: buttons and the board reach the game, and
 // what the game then holds is what the window shows.
 #include <QCheckBox>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Making a puzzle in the window: Make opens the puzzle line for a drop, a text
 // file dropped on it puts its clues on the board, and digit keys enter clues too.
 #include <QClipboard>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The options window works on a copy: Cancel and the close box drop it, OK takes
 // it; the techniques manager it opens changes the tables at once.
 #include "ui/options_dialog.h"

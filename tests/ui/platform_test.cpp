@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The platform the shell gives the game: message boxes and the input box, page
 // addresses, sounds without files, and the board's geometry.
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The practice window over a real game: the counts come from the library's index,
 // and Practise opens the next puzzle of the chosen technique in the game window.
 #include <QTreeWidget>

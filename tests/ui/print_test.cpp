@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Printing: a job printed to a PDF file has the pages and texts it should, read
 // back with pdftotext; the window keeps its range label and what it enables.
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The shell's tests run under one application object, without a display.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The Solving Techniques Manager on screen: rows where the order puts them, the
 // fixed boxes, the order buttons and the default order, all straight into the
 // tables.

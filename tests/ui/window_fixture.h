@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The game window over a game on a generated library in a temporary folder, with
 // scripted answers, shown offscreen at 800 x 600.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Check All, Check Some and Import on several threads leave the same files, in
 // the same record order, with the same report, as on one thread: over a library
 // of every level, puzzles without one solution and a damaged record among them.

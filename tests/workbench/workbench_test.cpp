@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The file workbench over libraries in a temporary folder, with the person's
 // answers scripted: rerating moves, the report of a check, abort, delete,
 // duplicates and the reader of foreign files.
@@ -7,13 +8,13 @@
 
 #include <sstream>
 
-#include "solver/difficulty_score.h"
 #include "grid/candidates.h"
 #include "library/foreign_puzzles.h"
 #include "library/library_files.h"
 #include "library/library_pair.h"
 #include "library/library_setup.h"
 #include "library/library_test_support.h"
+#include "solver/difficulty_score.h"
 #include "solver/ladder.h"
 #include "support/boards.h"
 #include "support/game_fixture.h"

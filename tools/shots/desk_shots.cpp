@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Pictures of the game window as a person meets it on a small desktop: the
 // whole screen with the game window and the small hint window where they open,
 // the technique manager and the options window on that screen, dimmed marks

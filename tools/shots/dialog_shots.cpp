@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Pictures of the print window (its preview with one, two and four puzzles to a
 // page, the on-screen puzzle in its current state, and "From" beyond the
 // library), a PDF of a job, the colours window and the practice window, for a

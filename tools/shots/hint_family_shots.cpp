@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The game window with a hint of each family on the board: a single, a pointing
 // pair, a naked triple, a hidden pair and an X-Wing. Each board is a state
 // that the ladder passes through on a generated puzzle. Pictures are written

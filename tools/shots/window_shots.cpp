@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Pictures of the windows for a person to look at, written into the folder named
 // by TAVI_SHOTS_DIR: run `TAVI_SHOTS_DIR=DIR build/tests/tavi-shots`.
 // Pictures of the window for a person to look at: at start, in play (marks, a

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Pictures of the file workbench: a library open, a check running, and the
 // report of hardest techniques after it.
 #include <QApplication>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Alternating inference chains: the nice loop's walk over nodes that are a cell
 // and a digit, so that the digit may change inside a cell. Links alternate strong
 // and weak from the first node; at each position the links inside the cell are

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The table in which the alternating inference chains keep the branches they
 // walked without a hit: a key of the walk's state, and the number of times the
 // branch ran into the chain limit. Open addressing with a few probes: a key that

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // ALS-xz: two almost locked sets (N cells of one unit holding N + 1 digits) joined
 // by a restricted common digit x, that is a digit whose holders in one set all see
 // its holders in the other. Then a second common digit z is in one of the sets for

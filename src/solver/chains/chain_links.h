@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the colouring and chain techniques share: the units a cell lies in, the
 // conjugate pairs of a digit, the colouring of a digit's clusters, and the
 // removal from every cell that sees two given cells.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Forcing chains: assume in turn every possibility of one choice, let the singles
 // run on a scratch table, and keep what all possibilities agree on. The choice is
 // either the candidates of one cell or the holders of one digit in one unit. A

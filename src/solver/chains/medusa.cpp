@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // 3D Medusa: one cluster of candidates of every digit, coloured in two colours
 // along strong links in a house (a digit held twice) and in a cell (a bi-value
 // cell). Every link of the cluster says "exactly one of the two", so one colour is

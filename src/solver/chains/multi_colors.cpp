@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Multi colours: two separate clusters of one digit, each coloured as for simple
 // colours. A colour that sees both colours of the other cluster is false (type 1,
 // which decides the clusters); two colours that see each other cannot both hold,

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // MultiFish: a count over four digits at once. Every row where none of the four
 // stands yet must still take all four (the truths); they can only go into empty
 // cells where such a row crosses a column free of the four (one digit a cell), or

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Nice loops on one digit: a depth-first walk over the holders of conjugate pairs
 // with links alternating strong and weak, from a strong link at the first cell.
 // It ends in a closed loop (the weak links' houses lose the digit), in a strong

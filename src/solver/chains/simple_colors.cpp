@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Simple colours: the conjugate pairs of one digit joined into clusters of two
 // alternating colours. Two cells of one colour in one house make that colour false
 // (a wrap); a cell that sees both colours loses the digit (a trap).

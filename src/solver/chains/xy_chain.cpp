@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // XY-Chains: a depth-first walk through bi-value cells, each step leaving a cell
 // by the digit it did not come in on. A step on digit x joins two cells only when
 // they are the only holders of x in the row, column or box between them. Two

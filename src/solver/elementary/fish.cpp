@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The basic fish: X-Wing, Swordfish and Jellyfish. For one digit, a set of rows
 // whose candidates all lie in as many columns takes that digit out of those
 // columns everywhere else, and the same with rows and columns exchanged.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Pointing pairs and box/line reductions: where a digit of a box is held to one
 // line, or a digit of a line to one box, the rest of the other unit loses it.
 #include "solver/primitives.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Single-digit patterns built on conjugate pairs, a digit held exactly twice by a
 // line: the empty rectangle, the two-string kite and the skyscraper.
 #include "solver/primitives.h"

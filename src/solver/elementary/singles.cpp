@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Naked and hidden singles: the only rungs that every puzzle needs.
 #include "solver/primitives.h"
 #include "solver/techniques.h"

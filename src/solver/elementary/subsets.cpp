@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Naked and hidden subsets. One routine finds them all: the ladder calls it for
 // naked pairs, naked triples, hidden pairs, naked quads, hidden triples and naked
 // quints, in that order.

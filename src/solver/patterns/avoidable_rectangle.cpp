@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Two more techniques that rest on the puzzle having one solution: the avoidable
 // rectangle, built from digits the solver placed (never from givens, which could
 // not be swapped), and the bivalue universal grave.

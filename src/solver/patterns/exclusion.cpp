@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Aligned exclusion: list every way two (or three) cells that see each other can
 // hold their digits, strike each way that would leave a cell, or a group of cells,
 // that sees all of them without enough digits, and remove the digits that no way

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Sue-de-Coq: the unsolved cells where a line crosses a box, with the cells of the
 // line and of the box outside the crossing whose digits all lie among the
 // crossing's. When the digits split so that the line cells can only take some and

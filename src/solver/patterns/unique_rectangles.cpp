@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Unique rectangles: four unsolved cells on two rows, two columns and two boxes
 // that could all come down to the same two digits would let those digits swap,
 // and the puzzle would have two solutions. Something has to break the rectangle,

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The wings: a stem (or hinge) and bi-value branches that between them force one
 // digit into one of the pattern's cells, so that every cell seeing all the cells
 // that may hold it loses it. XY-Wing, XYZ-Wing and WXYZ-Wing.
