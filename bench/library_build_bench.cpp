@@ -49,9 +49,9 @@ void BM_SearchWalk(benchmark::State& state) {
     }
     HardPuzzleSearch search(8, 4);
     long tried = 0, unique = 0, kept = 0;
-    std::uint64_t seed = 1;
+    std::uint64_t draw = 1;
     for (auto _ : state) {
-        const WalkReport walk = search.Walk(start, seed++, 100);
+        const WalkReport walk = search.Walk(start, draw++, 100);
         tried += walk.tried, unique += walk.unique, kept += walk.kept;
     }
     using benchmark::Counter;

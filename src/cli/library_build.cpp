@@ -22,7 +22,7 @@ using Clock = std::chrono::steady_clock;
 // levels from here on are the search's.
 constexpr int kFirstSearchedLevel = 8;
 // The hardest puzzles kept, random ones at first, for the search to start from.
-constexpr std::size_t kSeedCount = 48;
+constexpr std::size_t kStartPoolSize = 48;
 // The walks start from this many of the hardest puzzles met.
 constexpr std::size_t kWalkStarts = 16;
 // Walks per batch, the same for any number of threads: the start puzzles of a
@@ -124,12 +124,12 @@ class Hardest {
         const auto at = std::upper_bound(
             list_.begin(), list_.end(), rating.Hardness(),
             [](const auto& hardness, const auto& entry) { return hardness > entry.first; });
-        if (std::size_t(at - list_.begin()) >= kSeedCount) return;
+        if (std::size_t(at - list_.begin()) >= kStartPoolSize) return;
         list_.insert(at, {rating.Hardness(), puzzle});
-        if (list_.size() > kSeedCount) list_.pop_back();
+        if (list_.size() > kStartPoolSize) list_.pop_back();
     }
     bool Full(int level) const {
-        return list_.size() == kSeedCount && std::get<0>(list_.back().first) >= level;
+        return list_.size() == kStartPoolSize && std::get<0>(list_.back().first) >= level;
     }
     std::vector<Digits> Puzzles() const {
         std::vector<Digits> out;
@@ -170,9 +170,9 @@ LibraryPuzzles MakeLibraryPuzzles(const LibraryPlan& plan) {
             hardest.Offer(r.puzzle.puzzle, r.rating);
             if (library.Add(r.puzzle.puzzle, r.puzzle.solution, r.rating)) noteFull(r.rating.level);
             // The search wants Extreme puzzles to start from.
-            const bool seedsWanted = plan.walks != 0 && library.Short(kFirstSearchedLevel) &&
-                                     !hardest.Full(kFirstSearchedLevel - 1);
-            return (library.Short(1, kFirstSearchedLevel - 1) || seedsWanted) && timeLeft();
+            const bool startsWanted = plan.walks != 0 && library.Short(kFirstSearchedLevel) &&
+                                      !hardest.Full(kFirstSearchedLevel - 1);
+            return (library.Short(1, kFirstSearchedLevel - 1) || startsWanted) && timeLeft();
         });
     made.randomSeconds = elapsed();
     for (int level = 1; level < kFirstSearchedLevel; ++level)
@@ -180,17 +180,17 @@ LibraryPuzzles MakeLibraryPuzzles(const LibraryPlan& plan) {
 
     // The search, for the levels still short, from the hardest random puzzles and
     // then from the hardest it met itself.
-    const std::vector<Digits> seeds = hardest.Puzzles();
+    const std::vector<Digits> starts = hardest.Puzzles();
     int wantedLevel = kFirstSearchedLevel;
     while (wantedLevel <= kLevelCount && !library.Wants(wantedLevel))
         ++wantedLevel;
-    if (wantedLevel <= kLevelCount && timeLeft() && plan.walks != 0 && !seeds.empty()) {
+    if (wantedLevel <= kLevelCount && timeLeft() && plan.walks != 0 && !starts.empty()) {
         const double searchStart = elapsed();
         for (int level = wantedLevel; level <= kLevelCount; ++level) {
             made.searched[level] = library.Wants(level);
             begun[level] = searchStart;
         }
-        std::vector<Digits> pool = seeds;
+        std::vector<Digits> pool = starts;
         SolveContext rerate(Side::Workbench);
         const long walks = RunInOrder<WalkReport>(
             plan.walks, plan.threads, kWalksPerBatch,

@@ -66,9 +66,9 @@ LadderRating RateOnLadder(SolveContext& ctx, const Digits& puzzle) {
     return r;
 }
 
-WalkReport HardPuzzleSearch::Walk(const Digits& start, std::uint64_t seed, long ratings) {
+WalkReport HardPuzzleSearch::Walk(const Digits& start, std::uint64_t draw, long ratings) {
     WalkReport report;
-    std::mt19937_64 rng(Mixed(seed));
+    std::mt19937_64 rng(Mixed(draw));
     const auto below = [&](int n) { return int(rng() % std::uint64_t(n)); };
 
     Digits current = start;

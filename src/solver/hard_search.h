@@ -62,7 +62,7 @@ struct WalkReport {
 };
 
 // One walk from `start` (a puzzle with one solution), its random numbers from
-// `seed`, until `ratings` candidates with one solution were rated (or 50 times as
+// `draw`, until `ratings` candidates with one solution were rated (or 50 times as
 // many were made). Every rated candidate whose level is at least `wantedLevel` is
 // a find; at most `findsPerLevel` per level, so that one walk does not fill a
 // level with near neighbours.
@@ -71,7 +71,7 @@ class HardPuzzleSearch {
     HardPuzzleSearch(int wantedLevel, int findsPerLevel)
         : wanted_(wantedLevel), findsPerLevel_(findsPerLevel) {}
 
-    WalkReport Walk(const Digits& start, std::uint64_t seed, long ratings);
+    WalkReport Walk(const Digits& start, std::uint64_t draw, long ratings);
 
   private:
     int wanted_;

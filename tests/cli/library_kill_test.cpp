@@ -303,7 +303,9 @@ TEST(KillTest, CheckLeavesEveryPuzzleExactlyOnce) {
                 const int i = found->second;
                 ++seen[i];
                 ASSERT_EQ(l, BusyLog(i)) << "the log went its own way";
-                if (settled) ASSERT_EQ(level, rating[i]) << i;
+                if (settled) {
+                    ASSERT_EQ(level, rating[i]) << i;
+                }
             }
         }
         for (int i = 0; i < kPuzzles; ++i)

@@ -91,7 +91,9 @@ TEST(PracticeIndex, AChangedLibraryOrADamagedIndexIsMadeAgain) {
         bytes[random() % bytes.size()] = char("x 9-\n."[random() % 6]);
         testing::WriteBytes(indexFile, bytes);
         const auto read = ReadPracticeIndex(dir.path(), stem, hash);
-        if (read) EXPECT_EQ(read->size(), first->size());
+        if (read) {
+            EXPECT_EQ(read->size(), first->size());
+        }
     }
     testing::WriteBytes(indexFile, kept);
     EXPECT_EQ(ReadPracticeIndex(dir.path(), stem, hash), first);

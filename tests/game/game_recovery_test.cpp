@@ -38,10 +38,10 @@ class Recovery : public GameFixture {
                 game->MoveLog()};
     }
 
-    // A seeded game: New on kLevel, then `actions` random actions; `after(k)`
+    // A drawn game: New on kLevel, then `actions` random actions; `after(k)`
     // runs once action k is done (0: the game is open).
-    void Play(unsigned seed, int actions, const std::function<void(int)>& after) {
-        std::mt19937 random(seed);
+    void Play(unsigned draw, int actions, const std::function<void(int)>& after) {
+        std::mt19937 random(draw);
         auto pick = [&](int n) { return std::uniform_int_distribution<int>(0, n - 1)(random); };
         options = {};
         options.AutoSave = true;
@@ -81,20 +81,22 @@ class Recovery : public GameFixture {
             EXPECT_EQ(FileBytes(PuzzleFile(folders.DataFolder, LevelStem(level))),
                       FileBytes(PuzzleFile(folders.AppFolder, LevelStem(level))));
             for (int n = 1; n <= kPerLevel; ++n)
-                if (level != kLevel || n != 1) EXPECT_EQ(LogOf(level, n), SudokuLogRecord{});
+                if (level != kLevel || n != 1) {
+                    EXPECT_EQ(LogOf(level, n), SudokuLogRecord{});
+                }
         }
     }
 };
 
 TEST_F(Recovery, AGameKilledAtRandomInstantsIsOfferedBackWithEveryStepShown) {
     constexpr int kActions = 400;
-    constexpr unsigned kSeed = 25;
+    constexpr unsigned kDraw = 25;
     const fs::path base = folders.DataFolder;
     // What the window shows after each action, played through without a kill.
     std::vector<Shown> shown;
     store = {};
     folders.DataFolder = base / "reference";
-    Play(kSeed, kActions, [&](int) { shown.push_back(Now()); });
+    Play(kDraw, kActions, [&](int) { shown.push_back(Now()); });
     const auto start = Record(kLevel, 1).puzzle;
 
     std::mt19937 random(7);
@@ -110,7 +112,7 @@ TEST_F(Recovery, AGameKilledAtRandomInstantsIsOfferedBackWithEveryStepShown) {
         ASSERT_GE(child, 0);
         if (child == 0) {
             ::close(channel[0]);
-            Play(kSeed, kActions, [&](int k) {
+            Play(kDraw, kActions, [&](int k) {
                 if (::write(channel[1], &k, sizeof k) != sizeof k) ::_exit(3);
             });
             ::_exit(0);
@@ -271,7 +273,9 @@ TEST_F(Recovery, AnUnsoundCopyIsSetAsideAndTheStartGoesOn) {
         }
         // What reads as a copy is a game of its own puzzle.
         for (int c = 0; c < 81; ++c)
-            if (read->sudoku.Puzzle[c]) ASSERT_EQ(read->grid[c], read->sudoku.Puzzle[c]);
+            if (read->sudoku.Puzzle[c]) {
+                ASSERT_EQ(read->grid[c], read->sudoku.Puzzle[c]);
+            }
     }
     // A clue covered by the copy's digits.
     RecoveryCopy wrong = copy;

@@ -262,12 +262,20 @@ TEST(OpenPair, RepairsNeverLoseAByteAndNeverMakeRecordsOfTheWrongKind) {
             return now.size() <= before.size() && before.size() - now.size() <= tornEnd &&
                    std::equal(now.begin(), now.end(), before.begin());
         };
-        if (hadSds) ASSERT_TRUE(kept(a, sds, kSudokuRecordSize)) << i << " " << said;
-        if (hadSdl) ASSERT_TRUE(kept(b, sdl, 2 * kSudokuLogRecordSize)) << i << " " << said;
+        if (hadSds) {
+            ASSERT_TRUE(kept(a, sds, kSudokuRecordSize)) << i << " " << said;
+        }
+        if (hadSdl) {
+            ASSERT_TRUE(kept(b, sdl, 2 * kSudokuLogRecordSize)) << i << " " << said;
+        }
         if (refused) {
             ASSERT_EQ(count, -1);
-            if (hadSds) ASSERT_EQ(FileBytes(sds), a) << "a refused pair is left as it is";
-            if (hadSdl) ASSERT_EQ(FileBytes(sdl), b);
+            if (hadSds) {
+                ASSERT_EQ(FileBytes(sds), a) << "a refused pair is left as it is";
+            }
+            if (hadSdl) {
+                ASSERT_EQ(FileBytes(sdl), b);
+            }
             continue;
         }
         if (count < 0) continue;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The rating with its measures, and walks of the search for hard puzzles: what a
-// walk reports holds for every find, and a walk is fixed by its start and seed.
+// walk reports holds for every find, and a walk is fixed by its start and its draw number.
 #include "solver/hard_search.h"
 
 #include <gtest/gtest.h>
@@ -66,7 +66,7 @@ TEST(HardSearch, AWalkFindsPuzzlesOfOneSolutionAtTheWantedLevelAndRepeatsItself)
         EXPECT_EQ(fresh.Hardness(), f.rating.Hardness());
     }
 
-    // Another search object, the same start and seed: the same walk. Another seed
+    // Another search object, the same start and draw number: the same walk. Another draw number
     // goes elsewhere.
     HardPuzzleSearch again(wanted, 1000);
     const WalkReport repeat = again.Walk(start, 11, 40);

@@ -108,7 +108,7 @@ TEST(QSettingsStore, AnEmptyLockBesideTheFileIsNoLock) {
         ASSERT_TRUE(ini.open(QIODevice::WriteOnly));
         ini.write("[Options]\nWells=False\n");
     }
-    for (const QByteArray junk : {QByteArray(), QByteArray("not a lock")}) {
+    for (const QByteArray& junk : {QByteArray(), QByteArray("not a lock")}) {
         QFile lock(file + ".lock");
         ASSERT_TRUE(lock.open(QIODevice::WriteOnly));
         lock.write(junk);
