@@ -36,22 +36,18 @@ struct RatedPuzzle {
     LadderRating rating;
 };
 
-// Makes and rates puzzle i of a start value on any thread: the generator jumps
-// over the puzzles that other threads make.
+// Makes and rates puzzle i of a start value on any thread.
 class RandomWorker {
   public:
     explicit RandomWorker(std::uint64_t start) : generator_(start) {}
     RatedPuzzle operator()(long i) {
-        generator_.Skip(std::uint64_t(i - next_));
-        next_ = i + 1;
-        RatedPuzzle r{generator_.Next(), {}};
+        RatedPuzzle r{generator_(i), {}};
         r.rating = RateOnLadder(ctx_, r.puzzle.puzzle);
         return r;
     }
 
   private:
-    PuzzleGenerator generator_;
-    long next_ = 0;
+    NumberedGenerator generator_;
     SolveContext ctx_{Side::Workbench};
 };
 

@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "library/records.h"
+#include "solver/generator.h"
 
 namespace tavi::cli {
 
@@ -45,6 +46,22 @@ struct LibraryPuzzles {
     long generated = 0;  // random puzzles made
     double randomSeconds = 0;
     SearchTally search;
+};
+
+// Makes puzzle i of a start value on any thread: the generator jumps over the
+// puzzles that other threads make.
+class NumberedGenerator {
+  public:
+    explicit NumberedGenerator(std::uint64_t start) : generator_(start) {}
+    GeneratedPuzzle operator()(long i) {
+        generator_.Skip(std::uint64_t(i - next_));
+        next_ = i + 1;
+        return generator_.Next();
+    }
+
+  private:
+    PuzzleGenerator generator_;
+    long next_ = 0;
 };
 
 LibraryPuzzles MakeLibraryPuzzles(const LibraryPlan& plan);

@@ -95,22 +95,6 @@ std::optional<double> Minutes(const std::optional<std::string>& text) {
     return std::nullopt;
 }
 
-// Makes puzzle i of a start value on any thread: the generator jumps over the
-// puzzles that other threads make.
-class NumberedGenerator {
-  public:
-    explicit NumberedGenerator(std::uint64_t start) : generator_(start) {}
-    GeneratedPuzzle operator()(long i) {
-        generator_.Skip(std::uint64_t(i - next_));
-        next_ = i + 1;
-        return generator_.Next();
-    }
-
-  private:
-    PuzzleGenerator generator_;
-    long next_ = 0;
-};
-
 // Enough puzzles per batch that starting the threads costs nothing to speak of.
 int GenerationBatch(int threads) { return 16 * threads; }
 
