@@ -1,44 +1,20 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <gtest/gtest.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
-#include <cstdlib>
-#include <filesystem>
 #include <fstream>
+#include <optional>
 #include <regex>
-#include <sstream>
+#include <set>
 
-#include "cli/commands.h"
+#include "cli/cli_run.h"
 #include "grid/candidates.h"
+#include "library/folder_lock.h"
+#include "library/library_test_support.h"
 #include "solver/ladder.h"
 #include "support/puzzles.h"
 
 namespace tavi::cli {
 namespace {
-
-struct Output {
-    int status;
-    std::string out, err;
-};
-
-template <typename Command>
-Output RunCommand(Command command, const std::string& input) {
-    std::istringstream in(input);
-    std::ostringstream out, err;
-    const int status = command(in, out, err);
-    return {status, out.str(), err.str()};
-}
-
-Output RunRate(const std::string& input) {
-    return RunCommand([](auto& in, auto& out, auto& err) { return Rate(in, out, err); }, input);
-}
-Output RunSolve(const std::string& input) {
-    return RunCommand([](auto& in, auto& out, auto& err) { return Solve(in, out, err); }, input);
-}
-Output RunSteps(const std::string& input) {
-    return RunCommand([](auto& in, auto& out, auto& err) { return Steps(in, out, err); }, input);
-}
 
 using testing::DeadCell, testing::Fields, testing::Lines;
 
@@ -73,9 +49,7 @@ TEST(CliRate, GivesTheRatingAndLevelZeroWithoutOneSolution) {
     EXPECT_NE(o.err.find("line 4: invalid puzzle"), std::string::npos) << o.err;
 
     // With the summary: the same lines, and the count of each level on standard error.
-    const Output summed = RunCommand(
-        [](auto& in, auto& out, auto& err) { return Rate(in, out, err, RateOptions{true}); },
-        input);
+    const Output summed = RunRate(input, RateOptions{true});
     EXPECT_EQ(summed.status, 1);
     EXPECT_EQ(summed.out, o.out);
     for (const char* said :
@@ -118,9 +92,8 @@ TEST(CliSolve, SaysUniqueNoneOrMultiple) {
         many += input;
         manyExpected += expected;
     }
-    const Output threaded = RunCommand(
-        [](auto& in, auto& out, auto& err) { return Solve(in, out, err, "standard input", 2); },
-        many);
+    const Output threaded =
+        Piped(many, [](auto& i, auto& o, auto& e) { return Solve(i, o, e, "standard input", 2); });
     EXPECT_EQ(threaded.status, 1);
     EXPECT_TRUE(threaded.out == manyExpected);
 }
@@ -137,6 +110,10 @@ TEST(CliInput, BadLinesAreReportedBoundedAndTheRestIsProcessed) {
     for (int i = 0; i < 30; ++i)
         many += "bad " + std::to_string(i) + "\n";
     many += good + std::string(5000, ' ') + "\n";
+    // Of its 32 bad lines the first 20 are named and the rest counted.
+    std::vector<std::string> manySaid(21, "");
+    manySaid.front() = "line 1: no puzzle line: longer than 4096 characters";
+    manySaid.back() = "standard input: and 12 more lines that are no puzzle";
     const struct {
         std::string input;
         std::vector<std::string> said;  // a piece of each error line, in order
@@ -146,32 +123,13 @@ TEST(CliInput, BadLinesAreReportedBoundedAndTheRestIsProcessed) {
              good.substr(0, 80) + "\n",
          {"line 2", "line 5", "line 7"},
          2},
-        {many,
-         {"line 1: no puzzle line: longer than 4096 characters",
-          "",
-          "",
-          "",
-          "",
-          "",
-          "",
-          "",
-          "",
-          "",
-          "",
-          "",
-          "",
-          "",
-          "",
-          "",
-          "",
-          "",
-          "",
-          "",
-          "standard input: and 12 more lines that are no puzzle"},
-         1},
+        {many, manySaid, 1},
     };
+    using Command = Output (*)(const std::string&);
+    const Command commands[] = {[](const std::string& i) { return RunRate(i); }, RunSolve,
+                                [](const std::string& i) { return RunSteps(i); }};
     for (const auto& k : cases)
-        for (auto command : {RunRate, RunSolve, RunSteps}) {
+        for (const Command command : commands) {
             const Output o = command(k.input);
             EXPECT_EQ(o.status, 2);
             const auto errors = Lines(o.err);
@@ -189,23 +147,14 @@ TEST(CliInput, BadLinesAreReportedBoundedAndTheRestIsProcessed) {
     EXPECT_EQ(zeros.err, "standard input, line 1: binary data, not puzzle lines; reading stops\n");
 }
 
-TEST(CliSteps, OneLinePerHitThenTheResult) {
-    const Digits puzzle = FiveHoles();
-    const Output o = RunSteps(Text(puzzle) + "\n");
-    EXPECT_EQ(o.status, 0);
-    const auto lines = Lines(o.out);
-    ASSERT_EQ(lines.size(), 6u) << o.out;
-    const Digits solution = testing::GeneratedPuzzles(1)[0].solution;
-    EXPECT_EQ(lines[0], "step\t1\t3\tHidden Single\tA1=" + std::to_string(solution[0]));
-    EXPECT_EQ(lines[5], "result\tsolved\t1\tEasy");
-    EXPECT_EQ(RunSteps(Text(DeadCell()) + "\n").out, "result\tunsolved\t9\tOutlaw\n");
-}
-
 // Over generated puzzles: the placements of the steps rebuild the solution, no
-// step takes away a digit of the solution, and each line names its rung.
+// step takes away a digit of the solution, and each line names its rung. The
+// first puzzle needs singles only: one line per hit, then the result.
 TEST(CliSteps, ReplayOverGeneratedPuzzles) {
     const std::regex change("([A-HJ])([1-9])([=-])([1-9])");
-    const auto& puzzles = testing::GeneratedPuzzles(40);
+    const Digits solution = testing::GeneratedPuzzles(1)[0].solution;
+    std::vector<GeneratedPuzzle> puzzles = testing::GeneratedPuzzles(40);
+    puzzles.insert(puzzles.begin(), {FiveHoles(), solution});
     std::string input;
     for (const auto& p : puzzles)
         input += Text(p.puzzle) + "\n";
@@ -214,6 +163,10 @@ TEST(CliSteps, ReplayOverGeneratedPuzzles) {
     ASSERT_EQ(steps.status, 0);
     size_t next = 0, removals = 0;
     const auto lines = Lines(steps.out);
+    ASSERT_GT(lines.size(), 5u);
+    EXPECT_EQ(lines[0], "step\t1\t3\tHidden Single\tA1=" + std::to_string(solution[0]));
+    EXPECT_EQ(lines[5], "result\tsolved\t1\tEasy");
+    EXPECT_EQ(RunSteps(Text(DeadCell()) + "\n").out, "result\tunsolved\t9\tOutlaw\n");
     for (size_t i = 0; i < puzzles.size(); ++i) {
         Digits grid = puzzles[i].puzzle;
         for (int number = 1;; ++number) {
@@ -254,6 +207,89 @@ TEST(CliSteps, ReplayOverGeneratedPuzzles) {
     }
     EXPECT_EQ(next, lines.size());
     EXPECT_GT(removals, 0u);
+
+    // Explained, each step carries the sentence its rung gives under HintOnly, and
+    // the run takes the same steps as the plain one.
+    const auto explained = Lines(RunSteps(input, true).out);
+    ASSERT_EQ(explained.size(), lines.size());
+    std::set<std::string> heads;
+    for (size_t i = 0; i < lines.size(); ++i) {
+        if (!lines[i].starts_with("step")) {
+            EXPECT_EQ(explained[i], lines[i]);
+            continue;
+        }
+        const auto f = Fields(explained[i]);
+        ASSERT_EQ(f.size(), 6u) << explained[i];
+        EXPECT_EQ(explained[i].substr(0, lines[i].size()), lines[i]);
+        EXPECT_FALSE(f[5].empty()) << explained[i];
+        heads.insert(f[5].substr(0, f[5].find(':')));
+        if (f[2] == "39") {
+            EXPECT_TRUE(f[5].starts_with("BIFURCATION: ")) << f[5];
+        }
+    }
+    EXPECT_TRUE(heads.count("HIDDEN SINGLE"));
+    EXPECT_TRUE(heads.count("POINTING PAIR") || heads.count("BOX LINE REDUCTION"));
+}
+
+// The first hint of each puzzle, with its paints when asked; no hint on a full
+// board, and clashing givens are an invalid puzzle, said as every command says it.
+TEST(CliHint, TheFirstHintOfEachPuzzleWithItsPaints) {
+    const auto& p = testing::GeneratedPuzzles(2);
+    const std::string input = FormatDigits(p[0].puzzle, '.') + "\n" +
+                              FormatDigits(p[1].puzzle, '.') + "\n" + FormatDigits(p[0].solution) +
+                              "\n" + FormatDigits(testing::WithClash(p[0].puzzle)) + "\n";
+    const Output o = Piped(input, [](auto& i, auto& out, auto& e) { return Hint(i, out, e); });
+    const Output painted =
+        Piped(input, [](auto& i, auto& out, auto& e) { return Hint(i, out, e, true); });
+    EXPECT_EQ(o.status, 1);
+    EXPECT_EQ(painted.status, 1);
+    EXPECT_NE(o.err.find("line 4: invalid puzzle"), std::string::npos) << o.err;
+    const auto plain = Lines(o.out), lines = Lines(painted.out);
+    ASSERT_EQ(plain.size(), 4u);
+    for (size_t i = 0; i < 2; ++i) {
+        const auto f = Fields(plain[i]);
+        ASSERT_EQ(f.size(), 2u);
+        EXPECT_EQ(f[0], FormatDigits(p[i].puzzle, '.'));
+        EXPECT_TRUE(f[1].starts_with("HIDDEN SINGLE: ") || f[1].starts_with("NAKED SINGLE: "))
+            << f[1];
+    }
+    EXPECT_EQ(Fields(plain[2]).at(1), "No logical hints, you'll have to guess more than once...");
+    EXPECT_EQ(Fields(plain[3]).at(1), "invalid");
+
+    ASSERT_GT(lines.size(), 2u);
+    EXPECT_EQ(lines[0], plain[0]);
+    EXPECT_EQ(lines[1], "\terase");
+    size_t second = 1;
+    while (second < lines.size() && lines[second][0] == '\t')
+        ++second;
+    ASSERT_LT(second, lines.size());
+    EXPECT_EQ(lines[second], plain[1]);
+    EXPECT_EQ(std::vector(lines.end() - 2, lines.end()), std::vector(plain.end() - 2, plain.end()));
+}
+
+// The ladder's signature over a fixed list of puzzles must stay as it is recorded:
+// a change of any rung's behaviour shows here. The puzzles are the first column of
+// the file itself, so a change of the generator cannot move this check. When a
+// change of the ladder is meant (a new technique), the file is made again with the
+// command in its header.
+TEST(LadderSignature, StaysAsRecorded) {
+    std::ifstream file(std::string(TAVI_TEST_DATA_DIR) + "/ladder_signature.tsv");
+    ASSERT_TRUE(file) << "missing tests/data/ladder_signature.tsv";
+    std::vector<std::string> expected;
+    for (std::string line; std::getline(file, line);)
+        if (!line.empty() && line[0] != '#') expected.push_back(line);
+    ASSERT_EQ(expected.size(), 301u) << "300 puzzles and the line of hits per rung";
+
+    std::string puzzles;
+    for (size_t i = 0; i + 1 < expected.size(); ++i)
+        puzzles += expected[i].substr(0, expected[i].find('\t')) + '\n';
+    std::istringstream in(puzzles);
+    std::ostringstream out, err;
+    ASSERT_EQ(Signature(in, out, err), 0);
+    const auto got = testing::Lines(out.str());
+    ASSERT_EQ(got.size(), expected.size());
+    for (size_t i = 0; i < expected.size(); ++i)
+        EXPECT_EQ(got[i], expected[i]) << "puzzle " << i + 1;
 }
 
 // The rung command reads whole boards; a line that is no board is named by its
@@ -264,8 +300,8 @@ TEST(CliRung, RunsOneTechniqueOnWrittenOutBoardsAndNamesBadLines) {
     std::string clash = line;
     clash[82] = clash[82] == '1' ? '2' : '1';  // A1: over a given, or beside its candidates
     const std::string input = line + "\n" + line.substr(0, 170) + "\n" + clash + "\n" + line + "\n";
-    const auto out = RunCommand(
-        [](auto& in, auto& o, auto& e) { return RungCommand(4, in, o, e, true); }, input);
+    const auto out =
+        Piped(input, [](auto& i, auto& o, auto& e) { return RungCommand(4, i, o, e, true); });
     EXPECT_EQ(out.status, 2);
     const auto lines = Lines(out.out);
     ASSERT_EQ(lines.size(), 2u);
@@ -280,40 +316,34 @@ TEST(CliRung, RunsOneTechniqueOnWrittenOutBoardsAndNamesBadLines) {
 
 // The built program, for its exit status and its two ways of reading.
 TEST(CliProgram, ExitStatusTellsWhetherEveryLineWasAPuzzle) {
-    const auto dir =
-        std::filesystem::temp_directory_path() / ("tavi-cli-test-" + std::to_string(::getpid()));
-    std::filesystem::create_directories(dir);
-    const auto good = dir / "good.txt", bad = dir / "bad.txt", out = dir / "out.txt";
+    const testing::TempDir scratch;
+    const std::filesystem::path& dir = scratch.path();
+    const auto good = dir / "good.txt", bad = dir / "bad.txt";
     std::ofstream(good) << "# two puzzles\n"
                         << Text(FiveHoles()) << "\n"
                         << Text(testing::GeneratedPuzzles(1)[0].puzzle) << "\n";
     std::ofstream(bad) << Text(FiveHoles()) << "\nnot a puzzle\n";
-    auto run = [&](const std::string& args) {
-        const std::string command = std::string(TAVI_CLI_PATH) + " " + args + " > " + out.string() +
-                                    " 2> " + (dir / "err.txt").string();
-        const int status = std::system(command.c_str());
-        return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-    };
-    auto written = [&](const std::filesystem::path& file) {
-        std::ifstream f(file);
-        return std::string(std::istreambuf_iterator<char>(f), {});
-    };
-    EXPECT_EQ(run("rate " + good.string()), 0);
-    EXPECT_EQ(written(out), RunRate(Text(FiveHoles()) + "\n" +
-                                    Text(testing::GeneratedPuzzles(1)[0].puzzle) + "\n")
-                                .out);
-    EXPECT_EQ(run("rate < " + good.string()), 0);
-    EXPECT_EQ(Lines(written(out)).size(), 2u);
-    EXPECT_EQ(run("solve " + bad.string()), 2);
-    EXPECT_EQ(Lines(written(out)).size(), 1u);
-    EXPECT_EQ(run("steps < " + bad.string()), 2);
+    const auto run = [&](const std::string& args) { return RunProgram(args, dir); };
+    Output o = run("rate " + good.string());
+    EXPECT_EQ(o.status, 0);
+    EXPECT_EQ(o.out, RunRate(Text(FiveHoles()) + "\n" +
+                             Text(testing::GeneratedPuzzles(1)[0].puzzle) + "\n")
+                         .out);
+    o = run("rate < " + good.string());
+    EXPECT_EQ(o.status, 0);
+    EXPECT_EQ(Lines(o.out).size(), 2u);
+    o = run("solve " + bad.string());
+    EXPECT_EQ(o.status, 2);
+    EXPECT_EQ(Lines(o.out).size(), 1u);
+    EXPECT_EQ(run("steps < " + bad.string()).status, 2);
     // Every command of the usage text is taken, the board commands too.
-    EXPECT_EQ(run("states --all " + good.string()), 0);
-    const std::string boards = written(out);
-    EXPECT_FALSE(boards.empty());
-    std::ofstream(dir / "boards.txt") << boards;
-    EXPECT_EQ(run("rung 4 " + (dir / "boards.txt").string()), 0);
-    EXPECT_FALSE(written(out).empty());
+    o = run("states --all " + good.string());
+    EXPECT_EQ(o.status, 0);
+    EXPECT_FALSE(o.out.empty());
+    std::ofstream(dir / "boards.txt") << o.out;
+    o = run("rung 4 " + (dir / "boards.txt").string());
+    EXPECT_EQ(o.status, 0);
+    EXPECT_FALSE(o.out.empty());
 
     // Paths that are no readable file, and binary input: a message naming the
     // file (and line), status 2, for every command.
@@ -333,11 +363,39 @@ TEST(CliProgram, ExitStatusTellsWhetherEveryLineWasAPuzzle) {
         {"solve < " + junk.string(), "standard input, line 2: binary data"},
     };
     for (const auto& [args, said] : cases) {
-        EXPECT_EQ(run(args), 2) << args;
-        const std::string err = written(dir / "err.txt");
-        EXPECT_NE(err.find(said), std::string::npos) << args << ": " << err;
+        o = run(args);
+        EXPECT_EQ(o.status, 2) << args;
+        EXPECT_NE(o.err.find(said), std::string::npos) << args << ": " << o.err;
     }
-    std::filesystem::remove_all(dir);
+}
+
+// The library commands that rewrite a folder refuse one that a running game
+// holds, with exit code 2, and leave its files as they were.
+TEST(CliProgram, RewritingCommandsRefuseAHeldFolder) {
+    const testing::TempDir scratch;
+    const std::filesystem::path& dir = scratch.path();
+    const auto run = [&](const std::string& args) { return RunProgram(args, dir); };
+    const std::string d = dir.string(), txt = (dir / "puzzles.txt").string();
+    ASSERT_EQ(run("generate --count 2 --start 9").status, 0);
+    std::filesystem::rename(dir / "out.txt", txt);
+    {
+        std::optional<FolderLock> game;
+        ASSERT_EQ(FolderLock::Take(dir, "tavi-sudoku", game), FolderLock::Result::Taken);
+        for (const std::string& args :
+             {"library check " + d, "library import " + txt + " --dir " + d,
+              "library import " + txt + " --level 3 --dir " + d,
+              "library build --out " + d + " --per-level 1 --minutes 1"}) {
+            const Output o = run(args);
+            EXPECT_EQ(o.status, 2) << args;
+            EXPECT_NE(o.err.find("is in use by tavi-sudoku, process"), std::string::npos)
+                << args << ": " << o.err;
+            EXPECT_FALSE(std::filesystem::exists(dir / "Sudoku_Hard.sds")) << args;
+        }
+    }
+    // Free again: the command runs.
+    const Output o = run("library import " + txt + " --level 3 --dir " + d);
+    EXPECT_EQ(o.status, 0) << o.err;
+    EXPECT_TRUE(std::filesystem::exists(dir / "Sudoku_Hard.sds"));
 }
 
 }  // namespace

@@ -1,10 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "cli/library_commands.h"
-
 #include <gtest/gtest.h>
 
-#include <sstream>
-
+#include "cli/cli_run.h"
 #include "grid/levels.h"
 #include "library/library_files.h"
 #include "library/library_pair.h"
@@ -17,27 +14,13 @@ namespace tavi::cli {
 namespace {
 
 namespace fs = std::filesystem;
-using tavi::testing::TempDir;
+using tavi::testing::Fields, tavi::testing::Lines, tavi::testing::TempDir;
 
-struct Output {
-    int status;
-    std::string out, err;
-};
-
-Output RunCommand(int (*command)(const std::vector<std::string>&, std::ostream&, std::ostream&),
-                  std::vector<std::string> args) {
-    std::ostringstream out, err;
-    const int status = command(args, out, err);
-    return {status, out.str(), err.str()};
-}
-
-using tavi::testing::Fields;
-using tavi::testing::Lines;
-
+// The same start value gives the same minimal puzzles of one solution, however
+// many threads take them out of order.
 TEST(CliGenerate, TheSameStartValueGivesTheSameMinimalUniquePuzzles) {
-    const Output a = RunCommand(GenerateCommand, {"generate", "--count", "4", "--start", "99"});
-    const Output other =
-        RunCommand(GenerateCommand, {"generate", "--count", "4", "--start", "100"});
+    const Output a = RunGenerate({"--count", "4", "--start", "99"});
+    const Output other = RunGenerate({"--count", "4", "--start", "100"});
     EXPECT_EQ(a.status, 0);
     EXPECT_NE(a.out, other.out);
     const auto lines = Lines(a.out);
@@ -54,10 +37,7 @@ TEST(CliGenerate, TheSameStartValueGivesTheSameMinimalUniquePuzzles) {
             EXPECT_EQ(Solutions(fewer).count, 2) << line << " cell " << c;
         }
     }
-}
 
-// Threads take the puzzles out of order; the list must not show it.
-TEST(CliGenerate, TheNumberOfThreadsDoesNotChangeThePuzzles) {
     std::ostringstream one, three;
     ASSERT_EQ(Generate(50, 7, one, 1), 0);
     ASSERT_EQ(Generate(50, 7, three, 3), 0);
@@ -65,14 +45,13 @@ TEST(CliGenerate, TheNumberOfThreadsDoesNotChangeThePuzzles) {
     PuzzleGenerator alone(7);
     alone.Skip(49);
     EXPECT_EQ(Lines(one.str()).back(), FormatDigits(alone.Next().puzzle));
-    EXPECT_EQ(RunCommand(GenerateCommand, {"generate", "--count", "1", "--threads", "0"}).status,
-              2);
+    EXPECT_EQ(RunGenerate({"--count", "1", "--threads", "0"}).status, 2);
 }
 
-TEST(CliLibrary, BuildWritesNineRatedFilesAndReportsTheCounts) {
+TEST(CliLibrary, BuildWritesNineRatedFilesThatCheckAndReportsTheCounts) {
     TempDir dir;
-    const Output o = RunCommand(LibraryCommand, {"library", "build", "--out", dir.path().string(),
-                                                 "--per-level", "2", "--walks", "0"});
+    const Output o =
+        RunLibrary({"build", "--out", dir.path().string(), "--per-level", "2", "--walks", "0"});
     EXPECT_EQ(o.status, 0) << o.err;
     const auto lines = Lines(o.out);
     ASSERT_EQ(lines.size(), 10u) << o.out;
@@ -100,19 +79,39 @@ TEST(CliLibrary, BuildWritesNineRatedFilesAndReportsTheCounts) {
     }
     EXPECT_EQ(Fields(lines[9])[0], "generated");
 
+    // The folder checks without a file error, options in any order; a damaged
+    // record or a library refused makes the check answer 2, and the damaged record
+    // stays as it stands.
+    const std::string d = dir.path().string();
+    Output checked = RunLibrary({"check", "--level", "1", d});
+    EXPECT_EQ(checked.status, 0) << checked.err;
+    EXPECT_EQ(checked.out.find("File Error"), std::string::npos) << checked.out;
+    const fs::path easy = PuzzleFile(dir.path(), LevelStem(1));
+    SudokuRecord damaged = tavi::testing::RecordOf(2);
+    damaged.Solution[5] = damaged.Solution[6];
+    ASSERT_TRUE(WriteSudokuRecord(easy, 2, damaged));
+    const auto before = tavi::testing::FileBytes(easy);
+    checked = RunLibrary({"check", d, "--level", "1"});
+    EXPECT_EQ(checked.status, 2);
+    EXPECT_NE(checked.out.find("Record 2 of Sudoku_Easy.sds is damaged"), std::string::npos)
+        << checked.out;
+    EXPECT_EQ(tavi::testing::FileBytes(easy), before);
+    // Swapped files are refused and left as they are.
+    fs::rename(easy, dir / "x");
+    fs::rename(LogFile(dir.path(), LevelStem(1)), easy);
+    fs::rename(dir / "x", LogFile(dir.path(), LevelStem(1)));
+    checked = RunLibrary({"check", d});
+    EXPECT_EQ(checked.status, 2);
+    EXPECT_NE(checked.out.find("do not read as a puzzle file"), std::string::npos) << checked.out;
+
     // The counts level by level; a list that is not nine whole numbers is refused.
-    const Output counted = RunCommand(
-        LibraryCommand,
-        {"library", "build", "--out", dir.path().string(), "--counts", "1,0,0,0,0,0,0,0,0"});
+    const Output counted =
+        RunLibrary({"build", "--out", d + "/counted", "--counts", "1,0,0,0,0,0,0,0,0"});
     EXPECT_EQ(counted.status, 0) << counted.err;
     EXPECT_EQ(Lines(counted.out)[0].substr(0, 7), "Easy\t1\t");
     EXPECT_EQ(Lines(counted.out)[1].substr(0, 9), "Medium\t0\t");
     for (const char* bad : {"1,2,3", "1,2,3,4,5,6,7,8,9,10", "1,2,x,4,5,6,7,8,9"})
-        EXPECT_EQ(RunCommand(LibraryCommand,
-                             {"library", "build", "--out", dir.path().string(), "--counts", bad})
-                      .status,
-                  2)
-            << bad;
+        EXPECT_EQ(RunLibrary({"build", "--out", d + "/counted", "--counts", bad}).status, 2) << bad;
 }
 
 TEST(CliLibrary, ImportAppendsWithSolutionsAndSkipsBadLinesByNumber) {
@@ -129,8 +128,7 @@ TEST(CliLibrary, ImportAppendsWithSolutionsAndSkipsBadLinesByNumber) {
                         << FormatDigits(clash) << "\n"               // 5
                         << FormatDigits(puzzles[1].puzzle) << "\n";  // 6
     const std::string d = dir.path().string();
-    Output o = RunCommand(LibraryCommand,
-                          {"library", "import", text.string(), "--level", "4", "--dir", d});
+    Output o = RunLibrary({"import", text.string(), "--level", "4", "--dir", d});
     EXPECT_EQ(o.status, 2);  // line 2 is no puzzle
     for (const char* said : {"line 2:", "line 3: more than one solution", "line 5: no solution"})
         EXPECT_NE(o.err.find(said), std::string::npos) << o.err;
@@ -147,17 +145,13 @@ TEST(CliLibrary, ImportAppendsWithSolutionsAndSkipsBadLinesByNumber) {
     // a level without its log gets one, and new puzzles go after the others.
     fs::remove(LogFile(dir.path(), LevelStem(4)));
     std::ofstream(text, std::ios::app) << FormatDigits(puzzles[2].puzzle) << "\n";  // 7
-    o = RunCommand(LibraryCommand,
-                   {"library", "import", "--dir", d, text.string(), "--level", "4"});
+    o = RunLibrary({"import", "--dir", d, text.string(), "--level", "4"});
     EXPECT_EQ(o.out, "added 1 puzzles to Sudoku_Crazy.sds as records 3 to 3\n");
     for (const char* said : {"line 1: already in the level", "line 6: already in the level"})
         EXPECT_NE(o.err.find(said), std::string::npos) << o.err;
     EXPECT_EQ(WholeRecords(LogFile(dir.path(), LevelStem(4)), kSudokuLogRecordSize), 3);
 
-    EXPECT_EQ(RunCommand(LibraryCommand,
-                         {"library", "import", text.string(), "--level", "10", "--dir", d})
-                  .status,
-              2);
+    EXPECT_EQ(RunLibrary({"import", text.string(), "--level", "10", "--dir", d}).status, 2);
 }
 
 TEST(CliLibrary, ExportWritesPuzzleSolutionAndBestTimeAndFlagsADamagedFile) {
@@ -169,7 +163,7 @@ TEST(CliLibrary, ExportWritesPuzzleSolutionAndBestTimeAndFlagsADamagedFile) {
     b.BestMinutes = b.BestSeconds = 0;
     ASSERT_TRUE(WriteSudokuRecord(sds, 1, a));
     ASSERT_TRUE(WriteSudokuRecord(sds, 2, b));
-    Output o = RunCommand(LibraryCommand, {"library", "export", sds.string()});
+    Output o = RunLibrary({"export", sds.string()});
     EXPECT_EQ(o.status, 0);
     EXPECT_EQ(o.out, FormatDigits(a.Puzzle, '.') + "\t" + FormatDigits(a.Solution) + "\t3:07\n" +
                          FormatDigits(b.Puzzle, '.') + "\t" + FormatDigits(b.Solution) +
@@ -184,15 +178,49 @@ TEST(CliLibrary, ExportWritesPuzzleSolutionAndBestTimeAndFlagsADamagedFile) {
     EXPECT_EQ(back, (std::vector<SudokuRecord>{{a.Puzzle, a.Solution, 0, 0}, b}));
 
     std::ofstream(sds, std::ios::app) << "tail";
-    o = RunCommand(LibraryCommand, {"library", "export", sds.string()});
+    o = RunLibrary({"export", sds.string()});
     EXPECT_EQ(o.status, 2);
     EXPECT_EQ(Lines(o.out).size(), 2u);
     EXPECT_NE(o.err.find("damaged: 4 bytes"), std::string::npos) << o.err;
 
-    EXPECT_EQ(RunCommand(LibraryCommand, {"library", "export", (dir / "none.sds").string()}).status,
-              2);
-    EXPECT_EQ(RunCommand(LibraryCommand, {"library", "shuffle"}).status, 2);
-    EXPECT_EQ(RunCommand(GenerateCommand, {"generate", "--count", "-1"}).status, 2);
+    EXPECT_EQ(RunLibrary({"shuffle"}).status, 2);
+    EXPECT_EQ(RunGenerate({"--count", "-1"}).status, 2);
+}
+
+// --score only adds a fourth field to rate: the first three are rate's own, line
+// for line, and the fourth is a number with one decimal; library export --score
+// ends each line with that same score.
+TEST(CliLibrary, ScoreAddsAFourthFieldToRateAndExportGivesTheSame) {
+    TempDir dir;
+    std::vector<SudokuRecord> records;
+    std::string input;
+    for (const GeneratedPuzzle& p : tavi::testing::GeneratedPuzzles(120)) {
+        records.push_back({p.puzzle, p.solution, 0, 0});
+        input += FormatDigits(p.puzzle) + '\n';
+    }
+    const std::string clash = FormatDigits(tavi::testing::WithClash(records[0].Puzzle)) + '\n';
+    const Output plain = RunRate(input + clash), scored = RunRate(input + clash, {false, true});
+    EXPECT_EQ(scored.status, plain.status);
+    const auto plainLines = Lines(plain.out), scores = Lines(scored.out);
+    ASSERT_EQ(plainLines.size(), scores.size());
+    for (std::size_t i = 0; i < plainLines.size(); ++i) {
+        if (plainLines[i].find("invalid") != std::string::npos) {
+            EXPECT_EQ(scores[i], plainLines[i]);
+            continue;
+        }
+        ASSERT_EQ(scores[i].substr(0, plainLines[i].size() + 1), plainLines[i] + '\t');
+        const std::string score = scores[i].substr(plainLines[i].size() + 1);
+        EXPECT_TRUE(score.size() >= 3 && score[score.size() - 2] == '.') << score;
+        EXPECT_GT(std::stod(score), 0.9);
+    }
+
+    ASSERT_TRUE(WriteSudokuFile(dir / "x.sds", records));
+    const Output exported = RunLibrary({"export", (dir / "x.sds").string(), "--score"});
+    ASSERT_EQ(exported.status, 0) << exported.err;
+    const auto lines = Lines(exported.out);
+    ASSERT_EQ(lines.size(), records.size());
+    for (std::size_t i = 0; i < lines.size(); ++i)
+        EXPECT_EQ(lines[i].substr(lines[i].rfind('\t')), scores[i].substr(scores[i].rfind('\t')));
 }
 
 // Without a level, import reads a foreign file as the workbench does and files each
@@ -214,38 +242,6 @@ TEST(CliLibrary, ImportWithoutALevelRatesAndFilesEachPuzzle) {
         << out.str();
 }
 
-// A folder made by build checks without a file error, options in any order; a
-// damaged record or a library refused makes the check answer 2, and the
-// damaged record stays as it stands.
-TEST(CliLibrary, CheckAnswersTwoWhenItCouldNotDoAllItsWork) {
-    TempDir dir;
-    const std::string d = dir.path().string();
-    Output o = RunCommand(LibraryCommand, {"library", "build", "--per-level", "3", "--out", d,
-                                           "--minutes", "0.02", "--threads", "1"});
-    ASSERT_EQ(o.status, 0) << o.err;
-    o = RunCommand(LibraryCommand, {"library", "check", "--level", "1", d});
-    EXPECT_EQ(o.status, 0) << o.err;
-    EXPECT_EQ(o.out.find("File Error"), std::string::npos) << o.out;
-
-    const fs::path easy = PuzzleFile(dir.path(), LevelStem(1));
-    SudokuRecord bad = tavi::testing::RecordOf(2);
-    bad.Solution[5] = bad.Solution[6];
-    ASSERT_TRUE(WriteSudokuRecord(easy, 2, bad));
-    const auto before = tavi::testing::FileBytes(easy);
-    o = RunCommand(LibraryCommand, {"library", "check", d, "--level", "1"});
-    EXPECT_EQ(o.status, 2);
-    EXPECT_NE(o.out.find("Record 2 of Sudoku_Easy.sds is damaged"), std::string::npos) << o.out;
-    EXPECT_EQ(tavi::testing::FileBytes(easy), before);
-
-    // Swapped files are refused and left as they are.
-    fs::rename(easy, dir / "x");
-    fs::rename(LogFile(dir.path(), LevelStem(1)), easy);
-    fs::rename(dir / "x", LogFile(dir.path(), LevelStem(1)));
-    o = RunCommand(LibraryCommand, {"library", "check", d});
-    EXPECT_EQ(o.status, 2);
-    EXPECT_NE(o.out.find("do not read as a puzzle file"), std::string::npos) << o.out;
-}
-
 // A check of every level rates each puzzle once: those it moves into a later
 // level are not checked and counted there again, so the table of hardest
 // techniques adds up to the puzzles of the folder, for any number of threads.
@@ -259,8 +255,7 @@ TEST(CliLibrary, CheckOfEveryLevelCountsEachPuzzleOnce) {
             ASSERT_TRUE(AppendToPair(dir.path(), LevelStem(1), {p.puzzle, p.solution, 0, 0}, {}));
             ++count;
         }
-        const Output o = RunCommand(
-            LibraryCommand, {"library", "check", "--threads", threads, dir.path().string()});
+        const Output o = RunLibrary({"check", "--threads", threads, dir.path().string()});
         ASSERT_EQ(o.status, 0) << o.err;
         const std::string table = o.out.substr(o.out.find("hardest technique"));
         long counted = 0;
@@ -283,7 +278,7 @@ TEST(CliLibrary, OversizedInputsAreRefusedOrReportedInBrief) {
     const fs::path sds = dir / "huge.sds";
     std::ofstream(sds).close();
     fs::resize_file(sds, std::uintmax_t(50) << 30);  // 50 GB, sparse
-    Output o = RunCommand(LibraryCommand, {"library", "export", sds.string()});
+    Output o = RunLibrary({"export", sds.string()});
     EXPECT_EQ(o.status, 2);
     EXPECT_NE(o.err.find("is no library"), std::string::npos) << o.err;
     fs::remove(sds);
@@ -295,8 +290,7 @@ TEST(CliLibrary, OversizedInputsAreRefusedOrReportedInBrief) {
             out << "junk line " << i << "\n";
         out << std::string(100000, '7') << "\n";  // one line far too long
     }
-    o = RunCommand(LibraryCommand,
-                   {"library", "import", "--dir", dir.path().string(), junk.string()});
+    o = RunLibrary({"import", "--dir", dir.path().string(), junk.string()});
     EXPECT_EQ(o.status, 2);
     EXPECT_LT(o.out.size() + o.err.size(), 4000u);
     EXPECT_NE(o.out.find("5001 malformed (lines 1, 2, 3"), std::string::npos) << o.out;

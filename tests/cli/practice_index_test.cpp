@@ -4,9 +4,7 @@
 // changed or the index file is damaged.
 #include <gtest/gtest.h>
 
-#include <sstream>
-
-#include "cli/commands.h"
+#include "cli/cli_run.h"
 #include "game/practice.h"
 #include "grid/levels.h"
 #include "library/library_test_support.h"
@@ -42,12 +40,7 @@ TEST(PracticeIndex, AgreesWithRateScoreOnALibrary) {
     std::string input;
     for (const GeneratedPuzzle& p : testing::GeneratedPuzzles(200, 33))
         input += FormatDigits(p.puzzle) + '\n';
-    std::istringstream in(input);
-    std::ostringstream out, err;
-    cli::RateOptions options;
-    options.score = true;
-    cli::Rate(in, out, err, options);
-    std::istringstream lines(out.str());
+    std::istringstream lines(cli::RunRate(input, {false, true}).out);
     std::string text, name, score;
     int level = 0;
     for (const PracticeFacts& f : *index) {
