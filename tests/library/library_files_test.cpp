@@ -84,7 +84,7 @@ TEST(LibraryRecords, ReadsOutsideTheFileFailWithAReason) {
     EXPECT_NE(why.find("missing.sds was not found"), std::string::npos) << why;
 }
 
-TEST(LibraryRecords, WritesNeverLeaveAGapOrGrowADamagedFile) {
+TEST(LibraryRecords, WritesNeverLeaveAGapGrowADamagedFileOrTakeALongLog) {
     TempDir dir;
     const fs::path sds = dir / "b.sds";
     std::string why;
@@ -108,25 +108,20 @@ TEST(LibraryRecords, WritesNeverLeaveAGapOrGrowADamagedFile) {
     EXPECT_NE(why.find("damaged"), std::string::npos) << why;
     EXPECT_EQ(FileBytes(sds), bytes);
     EXPECT_TRUE(WriteSudokuRecord(sds, 1, RecordOf(1)));  // whole records can still change
-}
 
-TEST(LibraryRecords, ALogOfMoreThanAHundredStepsIsRefusedAndTheFileKept) {
-    TempDir dir;
+    // A log of more than a hundred steps is refused and the file kept.
     const fs::path sdl = dir / "c.sdl";
     ASSERT_TRUE(WriteSudokuLogRecord(sdl, 1, BusyLog(1)));
-    const auto before = FileBytes(sdl);
+    const auto log = FileBytes(sdl);
     SudokuLogRecord tooLong = BusyLog(2);
     tooLong.StepCount = 101;
-    std::string why;
     EXPECT_FALSE(WriteSudokuLogRecord(sdl, 1, tooLong, &why));
     EXPECT_NE(why.find("at most 100 steps"), std::string::npos) << why;
-    EXPECT_EQ(FileBytes(sdl), before);
+    EXPECT_EQ(FileBytes(sdl), log);
     tooLong.StepCount = 100;
     EXPECT_TRUE(WriteSudokuLogRecord(sdl, 1, tooLong));
-}
 
-TEST(LibraryRecords, AWriteThatCantOpenTheFileChangesNothing) {
-    TempDir dir;
+    // A write that can't open its file changes nothing.
     fs::create_directory(dir / "d.sds");  // a folder where the file should be
     EXPECT_FALSE(WriteSudokuRecord(dir / "d.sds", 1, RecordOf(0)));
     EXPECT_FALSE(WriteSudokuRecord(dir / "no" / "such" / "e.sds", 1, RecordOf(0)));
