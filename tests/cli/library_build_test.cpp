@@ -65,16 +65,5 @@ TEST(LibraryBuild, LevelsHoldTheirOwnPuzzlesOnceEasierFirstTheSameOnAnyNumberOfT
         EXPECT_EQ(two.levels[level], one.levels[level]) << level;
 }
 
-TEST(LibraryBuild, ALevelNobodyWantsStaysEmptyAndNoSearchRunsWhenTheRandomLevelsSuffice) {
-    LibraryPlan plan;
-    plan.wanted = {0, 3, 0, 2, 0, 0, 0, 0, 0, 0};
-    plan.start = 5;
-    const LibraryPuzzles made = MakeLibraryPuzzles(plan);
-    for (int level = 1; level <= kLevelCount; ++level)
-        EXPECT_EQ(long(made.levels[level].size()), plan.wanted[level]) << level;
-    EXPECT_EQ(made.search.walks, 0);
-    EXPECT_FALSE(made.searched[8]);
-}
-
 }  // namespace
 }  // namespace tavi::cli

@@ -64,7 +64,7 @@ TEST_F(HintWindowTest, TheCopyHoldsTheBoardAsShownWithTheHintsColours) {
     EXPECT_GT(painted, 0);
 }
 
-TEST_F(HintWindowTest, CaptionRefreshAndAFrozenCopy) {
+TEST_F(HintWindowTest, CaptionRefreshAFrozenCopyAndPrinting) {
     HintWindow& w = WithHint();
     EXPECT_TRUE(w.isVisible());
     EXPECT_EQ(w.windowTitle().toStdString(), game->HintWindowCaption());
@@ -86,6 +86,21 @@ TEST_F(HintWindowTest, CaptionRefreshAndAFrozenCopy) {
     EXPECT_EQ(w.Snapshot(), SnapshotOf(*game));
     EXPECT_NE(w.Snapshot(), before);
     EXPECT_EQ(w.windowTitle(), "Main Duplicate");
+
+    // Printing without a printer does no harm: to a file, and a cancelled dialog.
+    QTemporaryDir dir;
+    QPrinter pdf;
+    pdf.setOutputFormat(QPrinter::PdfFormat);
+    pdf.setOutputFileName(dir.filePath("hint.pdf"));
+    EXPECT_TRUE(w.PrintTo(pdf));
+    EXPECT_GT(QFile(dir.filePath("hint.pdf")).size(), 1000);
+    bool dialogSeen = false;
+    WhenModal([&](QWidget* modal) {
+        dialogSeen = true;
+        modal->close();
+    });
+    w.findChild<QAction*>("mnuWindowPrint")->trigger();
+    EXPECT_TRUE(dialogSeen);
 
     w.findChild<QAction*>("mnuWindowClose")->trigger();
     EXPECT_FALSE(w.isVisible());
@@ -124,25 +139,6 @@ TEST_F(HintWindowTest, SaveAsBmpGoesToTheFolderChosenLastAndMakesAFolderOnlyForA
     Answer(std::nullopt);
     w.SaveAsBmp();
     EXPECT_EQ(asked.back()[1], QDir(chosen).filePath(PictureFileName(name) + "_0002.bmp"));
-}
-
-TEST_F(HintWindowTest, PrintingWithoutAPrinterDoesNoHarm) {
-    HintWindow& w = WithHint();
-    QTemporaryDir dir;
-    QPrinter pdf;
-    pdf.setOutputFormat(QPrinter::PdfFormat);
-    pdf.setOutputFileName(dir.filePath("hint.pdf"));
-    EXPECT_TRUE(w.PrintTo(pdf));
-    EXPECT_GT(QFile(dir.filePath("hint.pdf")).size(), 1000);
-
-    // The print dialog opens and is cancelled.
-    bool dialogSeen = false;
-    WhenModal([&](QWidget* modal) {
-        dialogSeen = true;
-        modal->close();
-    });
-    w.findChild<QAction*>("mnuWindowPrint")->trigger();
-    EXPECT_TRUE(dialogSeen);
 }
 
 TEST(HintWindowPlace, BesideTheGameWindowElseWhereItHidesTheLeastAndAlwaysOnTheScreen) {
@@ -190,23 +186,26 @@ TEST(ReadableInk, MarksStandOutOnEveryHintColour) {
     EXPECT_EQ(ReadableOn(ColorOf(kDimmedMarkColor), std::nullopt), ColorOf(kDimmedMarkColor));
 }
 
-}  // namespace
-}  // namespace tavi::ui
-
-namespace tavi::ui {
-namespace {
-
-class HintWindowInGame : public WindowFixture {};
+using HintWindowInGame = WindowFixture;
 
 // The hint window never shows a board of the game before: New, Make and the end
-// of Make give it a fresh copy, as "Main Duplicate".
-TEST_F(HintWindowInGame, AnotherGameReplacesTheCopyOfTheOneBefore) {
+// of Make give it a fresh copy, as "Main Duplicate". A place kept in the store
+// that no screen shows any more is dropped: the window opens wholly on the screen.
+TEST_F(HintWindowInGame, AnotherGameReplacesTheCopyOfTheOneBeforeOnTheScreen) {
+    store.Write("FormHint", "Left", "5000");
+    store.Write("FormHint", "Top", "-3000");
     OpenPlaying();
+    window->SetStore(&store);
     options.HintWindow = true;
     Press("CommandHint");
     auto* hints = window->findChild<HintWindow*>(QStringLiteral("FormHint"));
     ASSERT_NE(hints, nullptr);
+    ASSERT_TRUE(hints->isVisible());
     ASSERT_TRUE(hints->windowTitle().startsWith("Hint - "));
+    const QRect screen = hints->screen()->availableGeometry(), at = hints->frameGeometry();
+    EXPECT_TRUE(screen.contains(at))
+        << at.x() << "," << at.y() << " " << at.width() << "x" << at.height() << " on "
+        << screen.width() << "x" << screen.height();
     for (const char* command : {"CommandNew", "CommandMake", "CommandMake"}) {
         hints->ShowHint();  // a copy of the board as it is before the command
         const HintSnapshot before = hints->Snapshot();
@@ -219,25 +218,6 @@ TEST_F(HintWindowInGame, AnotherGameReplacesTheCopyOfTheOneBefore) {
         if (!game->MakeMode && std::string_view(command) == "CommandMake") continue;
         EXPECT_NE(hints->Snapshot(), before) << command;
     }
-}
-
-// A place kept in the store that no screen shows any more is dropped: the
-// window opens wholly on the screen.
-TEST_F(HintWindowInGame, ARememberedPlaceOffTheScreensIsDropped) {
-    store.Write("FormHint", "Left", "5000");
-    store.Write("FormHint", "Top", "-3000");
-    OpenPlaying();
-    window->SetStore(&store);
-    options.HintWindow = true;
-    Press("CommandHint");
-    auto* hints = window->findChild<HintWindow*>(QStringLiteral("FormHint"));
-    ASSERT_NE(hints, nullptr);
-    ASSERT_TRUE(hints->isVisible());
-    const QRect screen = hints->screen()->availableGeometry();
-    EXPECT_TRUE(screen.contains(hints->frameGeometry()))
-        << hints->frameGeometry().x() << "," << hints->frameGeometry().y() << " "
-        << hints->frameGeometry().width() << "x" << hints->frameGeometry().height() << " on "
-        << screen.width() << "x" << screen.height();
 }
 
 }  // namespace

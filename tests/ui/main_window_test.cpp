@@ -177,29 +177,15 @@ TEST_F(MainWindowTest, ACellBrushPaintsWithItsColourAndThePointerShowsTheBrush) 
     EXPECT_EQ(window->cursor().shape(), Qt::ArrowCursor);
 }
 
-TEST_F(MainWindowTest, ExitAsksOnceAndTheCloseBoxCanBeRefused) {
-    Open();
-    const std::size_t before = prompter.shown.size();  // the first run's notes
-    prompter.answers = {Answer::No};
-    window->close();
-    EXPECT_TRUE(window->isVisible());
-
-    prompter.answers = {Answer::Yes};
-    Press("CommandExit");
-    EXPECT_FALSE(window->isVisible());
-    EXPECT_TRUE(prompter.answers.empty());
-    EXPECT_EQ(prompter.shown.size(), before + 2);
-    EXPECT_EQ(prompter.shown.back().title, "Quit Tavi Sudoku");
-}
-
-TEST_F(MainWindowTest, TheFootLabelsOpenTheSiteAndTheRevisionHistory) {
+// The foot labels open the site and the revision history; Exit asks once and the
+// close box can be refused.
+TEST_F(MainWindowTest, TheFootLabelsOpenTheSiteAndTheHistoryAndExitAsksOnce) {
     Open();
     QTest::mouseClick(Find<ClickLabel>("Picture1"), Qt::LeftButton);
     ASSERT_EQ(pages.opened.size(), 1u);
     EXPECT_TRUE(QString::fromStdString(pages.opened[0]).endsWith("help/index.html#about"));
     EXPECT_EQ(Find<ClickLabel>("Label1")->toolTip(),
               "DoubleClick here for \"file managment window\"");
-
     auto* version = Find<ClickLabel>("Label2");
     EXPECT_EQ(version->text(), "Version 1.6");
     QTest::mouseClick(version, Qt::LeftButton);
@@ -207,6 +193,18 @@ TEST_F(MainWindowTest, TheFootLabelsOpenTheSiteAndTheRevisionHistory) {
     auto* about = window->findChild<QDialog*>("FormAbout");
     ASSERT_NE(about, nullptr);
     EXPECT_TRUE(about->isVisible());
+    about->close();
+
+    const std::size_t before = prompter.shown.size();  // the first run's notes
+    prompter.answers = {Answer::No};
+    window->close();
+    EXPECT_TRUE(window->isVisible());
+    prompter.answers = {Answer::Yes};
+    Press("CommandExit");
+    EXPECT_FALSE(window->isVisible());
+    EXPECT_TRUE(prompter.answers.empty());
+    EXPECT_EQ(prompter.shown.size(), before + 2);
+    EXPECT_EQ(prompter.shown.back().title, "Quit Tavi Sudoku");
 }
 
 TEST_F(MainWindowTest, TheOptionsWindowChangesTheOptionsAndTheBoardFollows) {
@@ -242,18 +240,10 @@ TEST_F(MainWindowTest, AHintShowsInTheSmallWindowWhenAskedForAndOnADoubleClick) 
     EXPECT_EQ(hints->windowTitle().toStdString(), game->HintWindowCaption());
 }
 
-}  // namespace
-}  // namespace tavi::ui
-
-namespace tavi::ui {
-namespace {
-
-class WindowSize : public WindowFixture {};
-
 // The least size of the game window fits a 1920 x 1080 screen at twice the scale
 // (960 x 540, with a title bar), and no control is squeezed below its own least
 // size there.
-TEST_F(WindowSize, TheLeastSizeFitsNineSixtyByFiveForty) {
+TEST_F(MainWindowTest, TheLeastSizeFitsNineSixtyByFiveForty) {
     MainWindow& w = Open();
     EXPECT_LE(w.minimumSizeHint().width(), 960);
     EXPECT_LE(w.minimumSizeHint().height(), 540 - 40);
@@ -268,8 +258,7 @@ TEST_F(WindowSize, TheLeastSizeFitsNineSixtyByFiveForty) {
             << button->objectName().toStdString();
         EXPECT_GE(button->height(), button->minimumSizeHint().height());
     }
-    const BoardGeometry& board = Board()->Layout();
-    EXPECT_GE(board.CellSize(), 30);
+    EXPECT_GE(Board()->Layout().CellSize(), 30);
 }
 
 }  // namespace

@@ -46,7 +46,7 @@ TEST(QtPrompter, ABoxNeverGrowsPastTheScreen) {
     }
 }
 
-TEST(QtPrompter, AsksWithTheGamesTitleTextButtonsAndIcon) {
+TEST(QtPrompter, AsksWithTheGamesTextsAndAClosedBoxAnswersWhatChangesLeast) {
     QtPrompter prompter;
     WhenModal([](QWidget* w) {
         auto* box = qobject_cast<QMessageBox*>(w);
@@ -68,10 +68,8 @@ TEST(QtPrompter, AsksWithTheGamesTitleTextButtonsAndIcon) {
         box->button(QMessageBox::Retry)->click();
     });
     EXPECT_EQ(prompter.Ask("t", "x", Buttons::AbortRetryIgnore, Icon::Exclamation), Answer::Retry);
-}
 
-TEST(QtPrompter, ClosingABoxAnswersWhatChangesLeast) {
-    QtPrompter prompter;
+    // Closing a box answers what changes least.
     for (auto [buttons, expected] :
          {std::pair{Buttons::YesNo, Answer::No}, std::pair{Buttons::YesNoCancel, Answer::Cancel},
           std::pair{Buttons::OkCancel, Answer::Cancel}, std::pair{Buttons::Ok, Answer::Ok}}) {
@@ -79,10 +77,8 @@ TEST(QtPrompter, ClosingABoxAnswersWhatChangesLeast) {
         EXPECT_EQ(prompter.Ask("Quit Tavi Sudoku", "Do you really want to quit ?", buttons),
                   expected);
     }
-}
 
-TEST(QtPrompter, TheInputBoxGivesTheTextOrNothingOnCancel) {
-    QtPrompter prompter;
+    // The input box gives the text, or nothing on Cancel.
     WhenModal([](QWidget* w) {
         auto* box = qobject_cast<QInputDialog*>(w);
         ASSERT_NE(box, nullptr);

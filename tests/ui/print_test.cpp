@@ -70,7 +70,7 @@ class PrintTest : public ::testing::Test {
     std::vector<std::pair<QString, QString>> told;
 };
 
-TEST_F(PrintTest, APdfJobHoldsItsPagesHeadingsNumbersAndSolutions) {
+TEST_F(PrintTest, APdfJobHoldsItsPagesAndARecordBeyondTheLibraryCancelsIt) {
     if (QStandardPaths::findExecutable(QStringLiteral("pdftotext")).isEmpty())
         GTEST_SKIP() << "pdftotext is not installed";
     settings.PrintPuzzlesPerPageIndex = 0;  // one to a page
@@ -98,29 +98,26 @@ TEST_F(PrintTest, APdfJobHoldsItsPagesHeadingsNumbersAndSolutions) {
     for (QChar c : pages[0])
         digits += c.isDigit();
     EXPECT_EQ(digits, expected + 1 + 1);  // and the 2 of "# 2" and the 1 of "Page 1"
-}
 
-TEST_F(PrintTest, ARecordBeyondTheLibraryCancelsTheJobAndKeepsThePagesSoFar) {
-    if (QStandardPaths::findExecutable(QStringLiteral("pdftotext")).isEmpty())
-        GTEST_SKIP() << "pdftotext is not installed";
+    // A record beyond the library cancels the job and keeps the pages so far.
     settings.PrintPuzzlesPerPageIndex = 1;  // two to a page: 1 2 | 3 4
-    settings.PrintPages = 2;
+    settings.PrintFrom = 1;
     settings.PrintSolutions = false;
-    PrintWindow window(settings, {}, Folder());
-    window.SetTeller(
+    PrintWindow beyond(settings, {}, Folder());
+    beyond.SetTeller(
         [this](const QString& title, const QString& text) { told.emplace_back(title, text); });
-    bool ok = true;
-    const QString text = PdfText(PrintToPdf(window, &ok));
+    ok = true;
+    const QString cut = PdfText(PrintToPdf(beyond, &ok));
     EXPECT_FALSE(ok);
     ASSERT_EQ(told.size(), 1u);
     EXPECT_EQ(told[0].first, "Print canceled");
     EXPECT_EQ(told[0].second, "An error occurred while trying to read sudokus from file");
-    const QStringList pages = text.split(QChar('\f'), Qt::SkipEmptyParts);
-    ASSERT_EQ(pages.size(), 2);
-    EXPECT_TRUE(pages[0].contains("Page 1"));
-    EXPECT_TRUE(HasNumber(pages[1], 3));
-    EXPECT_FALSE(HasNumber(pages[1], 4));
-    EXPECT_FALSE(pages[1].contains("Page 2"));
+    const QStringList kept = cut.split(QChar('\f'), Qt::SkipEmptyParts);
+    ASSERT_EQ(kept.size(), 2);
+    EXPECT_TRUE(kept[0].contains("Page 1"));
+    EXPECT_TRUE(HasNumber(kept[1], 3));
+    EXPECT_FALSE(HasNumber(kept[1], 4));
+    EXPECT_FALSE(kept[1].contains("Page 2"));
 }
 
 TEST_F(PrintTest, TheOnScreenPuzzleEnablesItsChoicesAndTakesAPlaceFromTheRange) {

@@ -13,6 +13,12 @@
 namespace tavi::ui {
 namespace {
 
+void WriteFile(const QString& file, const QByteArray& bytes = {}) {
+    QFile f(file);
+    ASSERT_TRUE(f.open(QIODevice::WriteOnly));
+    f.write(bytes);
+}
+
 TEST(QSettingsStore, KeepsSectionsKeysAndTextInAnIniFile) {
     QTemporaryDir dir;
     const QString file = dir.filePath("TaviSud1.ini");
@@ -36,6 +42,8 @@ TEST(QSettingsStore, KeepsSectionsKeysAndTextInAnIniFile) {
     EXPECT_EQ(again.Read("Colors", "HColor0", ""), "65280");
     EXPECT_EQ(again.Read("Text", "Spaces", ""), " a, b ");
     EXPECT_EQ(again.Read("Options", "Sounds", "fallback"), "fallback");
+    // The user's store is named after the application.
+    EXPECT_TRUE(QSettingsStore().FileName().endsWith("TaviSud1/TaviSud1.ini"));
 }
 
 // A hand-edited value the options can't read falls back and is noted.
@@ -58,13 +66,7 @@ TEST(QSettingsStore, AHandEditedValueFallsBackAndIsNoted) {
         << folder.Problem();
 }
 
-TEST(QSettingsStore, TheUsersStoreIsNamedAfterTheApplication) {
-    const QSettingsStore store;
-    EXPECT_TRUE(store.FileName().endsWith("TaviSud1/TaviSud1.ini"))
-        << store.FileName().toStdString();
-}
-
-TEST(ProgramFolders, DataFolderIsTaviSud1InTheUsersDataFolderAndIsMade) {
+TEST(ProgramFolders, TheDataFolderIsMadeAndAnInstalledProgramFindsItsShare) {
     QTemporaryDir home;
     const QByteArray old = qgetenv("XDG_DATA_HOME");
     qputenv("XDG_DATA_HOME", home.path().toUtf8());
@@ -76,25 +78,19 @@ TEST(ProgramFolders, DataFolderIsTaviSud1InTheUsersDataFolderAndIsMade) {
     EXPECT_EQ(folders.DataFolder, std::filesystem::path(home.path().toStdString()) / "TaviSud1");
     EXPECT_TRUE(std::filesystem::is_directory(folders.DataFolder));
     EXPECT_FALSE(folders.AppFolder.empty());
-}
 
-TEST(ProgramFolders, AnInstalledProgramFindsWhatItBringsUnderShare) {
-    QTemporaryDir prefix;
-    const QDir root(prefix.path());
+    // An installed program finds what it brings under share.
+    const QDir root(home.path());
     root.mkpath("bin");
     // Without help pages under share, the build folder: beside the program.
     EXPECT_EQ(DeliveredFolder(root.filePath("bin")), root.filePath("bin"));
     root.mkpath("share/tavi-sudoku/help");
-    QFile page(root.filePath("share/tavi-sudoku/help/index.html"));
-    ASSERT_TRUE(page.open(QIODevice::WriteOnly));
-    page.close();
+    WriteFile(root.filePath("share/tavi-sudoku/help/index.html"));
     EXPECT_EQ(DeliveredFolder(root.filePath("bin")), root.filePath("share/tavi-sudoku"));
     // Installed as a game: PREFIX/games with PREFIX/share/games.
     root.mkpath("games");
     root.mkpath("share/games/tavi-sudoku/help");
-    QFile gamePage(root.filePath("share/games/tavi-sudoku/help/index.html"));
-    ASSERT_TRUE(gamePage.open(QIODevice::WriteOnly));
-    gamePage.close();
+    WriteFile(root.filePath("share/games/tavi-sudoku/help/index.html"));
     EXPECT_EQ(DeliveredFolder(root.filePath("games")), root.filePath("share/games/tavi-sudoku"));
 }
 
@@ -103,16 +99,9 @@ TEST(ProgramFolders, AnInstalledProgramFindsWhatItBringsUnderShare) {
 TEST(QSettingsStore, AnEmptyLockBesideTheFileIsNoLock) {
     QTemporaryDir dir;
     const QString file = dir.filePath("TaviSud1.ini");
-    {
-        QFile ini(file);
-        ASSERT_TRUE(ini.open(QIODevice::WriteOnly));
-        ini.write("[Options]\nWells=False\n");
-    }
+    WriteFile(file, "[Options]\nWells=False\n");
     for (const QByteArray& junk : {QByteArray(), QByteArray("not a lock")}) {
-        QFile lock(file + ".lock");
-        ASSERT_TRUE(lock.open(QIODevice::WriteOnly));
-        lock.write(junk);
-        lock.close();
+        WriteFile(file + ".lock", junk);
         QSettingsStore store(file);
         EXPECT_FALSE(QFile::exists(file + ".lock"));
         EXPECT_EQ(store.Read("Options", "Wells", "True"), "False");
@@ -127,11 +116,7 @@ TEST(QSettingsStore, AnEmptyLockBesideTheFileIsNoLock) {
 TEST(QSettingsStore, AFileThatIsNoSettingsFileSaysHowToFixIt) {
     QTemporaryDir dir;
     const QString file = dir.filePath("TaviSud1.ini");
-    {
-        QFile ini(file);
-        ASSERT_TRUE(ini.open(QIODevice::WriteOnly));
-        ini.write("[Options\n\xff\xfe=\n[[[\n");
-    }
+    WriteFile(file, "[Options\n\xff\xfe=\n[[[\n");
     const QSettingsStore store(file);
     if (store.Problem().empty()) GTEST_SKIP() << "this Qt reads the file anyway";
     EXPECT_NE(store.Problem().find("delete or rename that file"), std::string::npos);
