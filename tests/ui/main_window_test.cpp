@@ -87,7 +87,7 @@ TEST_F(MainWindowTest, ALeftClickOnAMarkPlacesTheDigitAndTheBoardDrawsIt) {
     EXPECT_LT(blueness(cell), 1000);
 }
 
-TEST_F(MainWindowTest, AClickCountsOnlyWhenReleasedOverTheMarkItWasPressedOn) {
+TEST_F(MainWindowTest, AClickCountsOnlyWhenReleasedOverItsMarkAndTheFilterHidesMarks) {
     OpenPlaying();
     const auto [cell, digit] = FirstOpenCell();
     int other = 1;
@@ -110,6 +110,23 @@ TEST_F(MainWindowTest, AClickCountsOnlyWhenReleasedOverTheMarkItWasPressedOn) {
     EXPECT_EQ(Board()->TargetAt(MarkCentre(other, cell)), (BoardSpot{BoardSpot::Cell, cell, 0}));
     Board()->SetCursorCell(-1);
     EXPECT_EQ(InkIn(BoardImage(), MarkRect(other, cell)), 0);
+
+    // The digit filter hides its marks and their clicks.
+    const int steps = game->CurrentStep();
+    auto* button = Find<ReleaseButton>(QStringLiteral("Command1_%1").arg(digit));
+    QTest::mouseClick(button, Qt::LeftButton);
+    EXPECT_FALSE(game->FilterOn(digit));
+    EXPECT_TRUE(button->font().strikeOut());
+    EXPECT_EQ(InkIn(BoardImage(), MarkRect(digit, cell)), 0);
+    ClickMark(digit, cell);
+    EXPECT_EQ(game->CurrentStep(), steps);
+    // A right click on the button is no filter click; the left one shows them again.
+    QTest::mouseClick(button, Qt::RightButton);
+    EXPECT_FALSE(game->FilterOn(digit));
+    QTest::mouseClick(button, Qt::LeftButton);
+    EXPECT_TRUE(game->FilterOn(digit));
+    EXPECT_FALSE(button->font().strikeOut());
+    EXPECT_GT(InkIn(BoardImage(), MarkRect(digit, cell)), 0);
 }
 
 TEST_F(MainWindowTest, HeadersPickACellForResetCellAndThePickedHeaderIsRed) {
@@ -135,26 +152,6 @@ TEST_F(MainWindowTest, HeadersPickACellForResetCellAndThePickedHeaderIsRed) {
     QTest::mouseClick(Board(), Qt::LeftButton, {}, at.RowHeaderRect(cell / 9).center());
     EXPECT_EQ(game->SelectedRow, kNoLine);
     EXPECT_EQ(redIn(BoardImage(), at.RowHeaderRect(cell / 9)), 0);
-}
-
-TEST_F(MainWindowTest, TheDigitFilterHidesItsMarksAndTheirClicks) {
-    OpenPlaying();
-    const auto [cell, digit] = FirstOpenCell();
-    auto* button = Find<ReleaseButton>(QStringLiteral("Command1_%1").arg(digit));
-    QTest::mouseClick(button, Qt::LeftButton);
-    EXPECT_FALSE(game->FilterOn(digit));
-    EXPECT_TRUE(button->font().strikeOut());
-    EXPECT_EQ(InkIn(BoardImage(), MarkRect(digit, cell)), 0);
-    ClickMark(digit, cell);
-    EXPECT_EQ(game->CurrentStep(), 0);
-
-    // A right click on the button is no filter click; the left one shows them again.
-    QTest::mouseClick(button, Qt::RightButton);
-    EXPECT_FALSE(game->FilterOn(digit));
-    QTest::mouseClick(button, Qt::LeftButton);
-    EXPECT_TRUE(game->FilterOn(digit));
-    EXPECT_FALSE(button->font().strikeOut());
-    EXPECT_GT(InkIn(BoardImage(), MarkRect(digit, cell)), 0);
 }
 
 TEST_F(MainWindowTest, ACellBrushPaintsWithItsColourAndThePointerShowsTheBrush) {
@@ -207,7 +204,7 @@ TEST_F(MainWindowTest, TheFootLabelsOpenTheSiteAndTheHistoryAndExitAsksOnce) {
     EXPECT_EQ(prompter.shown.back().title, "Quit Tavi Sudoku");
 }
 
-TEST_F(MainWindowTest, TheOptionsWindowChangesTheOptionsAndTheBoardFollows) {
+TEST_F(MainWindowTest, TheOptionsWindowChangesTheOptionsAndAHintShowsWhereAsked) {
     OpenPlaying();
     EXPECT_FALSE(window->Area()->Wells()->isHidden());
     WhenModal([](QWidget* dialog) {
@@ -220,10 +217,8 @@ TEST_F(MainWindowTest, TheOptionsWindowChangesTheOptionsAndTheBoardFollows) {
     Press("CommandOptions");
     EXPECT_FALSE(options.Wells);
     EXPECT_TRUE(window->Area()->Wells()->isHidden());
-}
 
-TEST_F(MainWindowTest, AHintShowsInTheSmallWindowWhenAskedForAndOnADoubleClick) {
-    OpenPlaying();
+    // A hint shows in the small window when asked for, and on a double click.
     Press("CommandHint");
     EXPECT_EQ(window->findChild<HintWindow*>(), nullptr);  // the option is off
     auto* text = Find<QPlainTextEdit>("TextHint");
