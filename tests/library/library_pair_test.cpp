@@ -21,7 +21,7 @@ using testing::BusyLog, testing::FileBytes, testing::MakeLevelFiles, testing::Pa
 
 constexpr std::string_view kStem = "Sudoku_Medium.sd";
 
-TEST(ReadPair, AMissingPairOrARecordBeyondTheEndIsSaidAndNothingRead) {
+TEST(ReadPair, AMissingPairOrARecordBeyondTheEndIsSaidAndAWriteIsWholeOrNothing) {
     TempDir dir;
     SudokuRecord r = RecordOf(3);
     SudokuLogRecord l = BusyLog(1);
@@ -36,11 +36,8 @@ TEST(ReadPair, AMissingPairOrARecordBeyondTheEndIsSaidAndNothingRead) {
     EXPECT_NE(notifier.messages[0].second.find("Record 3"), std::string::npos);
     EXPECT_EQ(std::pair(r, l), std::pair(RecordOf(3), BusyLog(1)));
     EXPECT_EQ(PairAt(dir.path(), kStem, 2), std::pair(RecordOf(1), SudokuLogRecord{}));
-}
 
-TEST(WritePair, WhenTheLogCantFollowThePuzzleRecordIsPutBack) {
-    TempDir dir;
-    MakeLevelFiles(dir.path(), kStem, 3);
+    // When the log can't follow, the puzzle record is put back.
     const fs::path sds = PuzzleFile(dir.path(), kStem);
     const auto before = FileBytes(sds);
     SudokuLogRecord tooLong = BusyLog(0);
@@ -48,7 +45,7 @@ TEST(WritePair, WhenTheLogCantFollowThePuzzleRecordIsPutBack) {
     std::string why;
     EXPECT_FALSE(WritePair(dir.path(), kStem, 2, RecordOf(6), tooLong, &why));
     EXPECT_EQ(FileBytes(sds), before);
-    EXPECT_FALSE(WritePair(dir.path(), kStem, 4, RecordOf(6), tooLong, &why));  // an append
+    EXPECT_FALSE(WritePair(dir.path(), kStem, 3, RecordOf(6), tooLong, &why));  // an append
     EXPECT_EQ(FileBytes(sds), before);
 }
 
