@@ -235,10 +235,13 @@ TEST(CliSteps, ReplayOverGeneratedPuzzles) {
 // board, and clashing givens are an invalid puzzle, said as every command says it.
 TEST(CliHint, TheFirstHintOfEachPuzzleWithItsPaints) {
     const auto& p = testing::GeneratedPuzzles(2);
-    const std::string input = FormatDigits(p[0].puzzle, '.') + "\n" +
-                              FormatDigits(p[1].puzzle, '.') + "\n" + FormatDigits(p[0].solution) +
-                              "\n" + FormatDigits(testing::WithClash(p[0].puzzle)) + "\n";
-    const Output o = Piped(input, [](auto& i, auto& out, auto& e) { return Hint(i, out, e); });
+    const std::string puzzles =
+        FormatDigits(p[0].puzzle, '.') + "\n" + FormatDigits(p[1].puzzle, '.') + "\n";
+    const std::string input = puzzles + FormatDigits(p[0].solution) + "\n" +
+                              FormatDigits(testing::WithClash(p[0].puzzle)) + "\n";
+    const auto hint = [](auto& i, auto& out, auto& e) { return Hint(i, out, e); };
+    EXPECT_EQ(Piped(puzzles, hint).status, 0);
+    const Output o = Piped(input, hint);
     const Output painted =
         Piped(input, [](auto& i, auto& out, auto& e) { return Hint(i, out, e, true); });
     EXPECT_EQ(o.status, 1);
