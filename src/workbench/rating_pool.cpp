@@ -30,7 +30,7 @@ RatedPuzzle Rate(SolveContext& ctx, const Digits& puzzle, const TechniqueOrder* 
             r.hardest = &rung;
     };
     r.rated = true;
-    r.solved = SolveSudoku(ctx, run);
+    r.solved = SolveSudoku(ctx, run).solved;
     r.level = r.solved ? ctx.SolvingLevel : kOutlaw;
     if (r.solved)
         r.solution = ctx.board.CurrentGrid;

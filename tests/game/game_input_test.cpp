@@ -191,7 +191,7 @@ TEST_F(Input, BrushesPaintAndDoNotPlay) {
     g.RowHeaderUp(8, MouseButton::Right, true);
     for (int c = 72; c < 81; ++c)
         EXPECT_EQ(g.CellPaint(c), options.colors.LabelBack[7]);
-    EXPECT_EQ(g.SelectedRow, kNoLine);
+    EXPECT_EQ(g.SelectedRow(), kNoLine);
     // The left brush moves to label 7: the right one drops.
     g.PaletteUp(7, MouseButton::Left, true);
     EXPECT_FALSE(g.brush().RightBrush);
@@ -207,17 +207,17 @@ TEST_F(Input, BrushesPaintAndDoNotPlay) {
 TEST_F(Input, HoverOnlyWithDimmedMarks) {
     Game& g = Playing(2);
     g.MarkMouseMove(3, 10);
-    EXPECT_EQ(g.HoverCell, kNoHover);
+    EXPECT_EQ(g.HoverCell(), kNoHover);
     options.Dimmed = true;
     g.MarkMouseMove(0, 81);  // off the board: no mark is hovered
-    EXPECT_EQ(g.HoverCell, kNoHover);
+    EXPECT_EQ(g.HoverCell(), kNoHover);
     EXPECT_TRUE(g.MarkDimmed(2, 0));
     g.MarkMouseMove(3, 10);
-    EXPECT_EQ(g.HoverCell, 2 * 81 + 10);
+    EXPECT_EQ(g.HoverCell(), 2 * 81 + 10);
     EXPECT_FALSE(g.MarkDimmed(3, 10));
     EXPECT_TRUE(g.MarkDimmed(4, 10));
     g.GridMouseMove();
-    EXPECT_EQ(g.HoverCell, kNoHover);
+    EXPECT_EQ(g.HoverCell(), kNoHover);
 }
 
 TEST_F(Input, TheWindowHearsWhatChangedAndOnlyThat) {

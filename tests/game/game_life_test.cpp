@@ -65,7 +65,7 @@ TEST_F(Life, ResumingABusyLevelAnsweredYes) {
     EXPECT_TRUE(again.GridEnabled());
     // The resumed start never sets the window title.
     EXPECT_EQ(again.Caption(), " - Hard - 1");
-    EXPECT_EQ(again.WindowTitle, "");
+    EXPECT_EQ(again.WindowTitle(), "");
 }
 
 // A busy level not resumed, by the player's No or because its record was

@@ -106,7 +106,7 @@ TEST_F(Make, EveryWayOutOfValidateThatStoresNothing) {
         EXPECT_EQ(prompter.Texts(), k.said);
         EXPECT_TRUE(prompter.answers.empty());
         EXPECT_EQ(AllRecords(), before);
-        EXPECT_EQ(g.MakeMode, k.stillMaking);
+        EXPECT_EQ(g.MakeMode(), k.stillMaking);
         if (k.stillMaking) {
             // The clues stand as entered, with the marks they leave.
             EXPECT_EQ(g.board().CurrentGrid, entered);
@@ -145,7 +145,7 @@ TEST_F(Make, AHardPuzzleClickedInEndsAsTheLastRecordOfTheHardPairAfterAFailedWri
     ASSERT_EQ(prompter.shown.size(), 1u);
     EXPECT_EQ(prompter.shown[0].title, "File Error");
     EXPECT_EQ(Records(3), count);
-    EXPECT_TRUE(g.MakeMode);
+    EXPECT_TRUE(g.MakeMode());
     EXPECT_EQ(g.board().CurrentGrid, puzzle);
 
     std::filesystem::remove(log);
@@ -242,7 +242,7 @@ TEST_F(Make, TheWayInAsksAboutTheGameAndLeavesOnlyTheBoardAndValidate) {
     making.Scan = false;
     making.MakeCaption = "Validate";
     EXPECT_EQ(g.commands(), making);
-    EXPECT_TRUE(g.MakeMode);
+    EXPECT_TRUE(g.MakeMode());
     EXPECT_TRUE(g.GridEnabled());
     EXPECT_EQ(g.board().CurrentGrid, Digits{});
     EXPECT_EQ(g.SudTekst(), kMakePrompt);

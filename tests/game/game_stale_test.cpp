@@ -18,7 +18,7 @@ class Stale : public GameFixture {
         return false;
     }
     bool HeadersPicked() const {
-        return game->SelectedRow != kNoLine || game->SelectedColumn != kNoLine;
+        return game->SelectedRow() != kNoLine || game->SelectedColumn() != kNoLine;
     }
     // Whether `k` is done on the board.
     bool Done(const Conclusion& k) const {
@@ -39,7 +39,7 @@ TEST_F(Stale, AWrongDigitsReportGoesWithTheDigitAndStaysWhileItHolds) {
     const std::string report = g.TextHint();
     EXPECT_EQ(report, "Incorrect number (" + std::to_string(wrong) + ") at cell " + CellName(cell) +
                           " - Use [Undo] or [Reset Cell]");
-    EXPECT_EQ(std::pair(g.SelectedRow, g.SelectedColumn), std::pair(cell / 9, cell % 9));
+    EXPECT_EQ(std::pair(g.SelectedRow(), g.SelectedColumn()), std::pair(cell / 9, cell % 9));
     EXPECT_EQ(g.CellPaint(cell), options.colors.HintColor[kAttackedCell]);
     EXPECT_EQ(g.ClockSeconds(), 10);
     // A step elsewhere leaves the report true: it stays.

@@ -226,7 +226,9 @@ TEST_F(WorkbenchTest, SolveRatesInPlaceOrMovesAndDeleteOfTheOnlyRecordLeavesNoFi
     Add(1, Broken(0));
     Add(1, other[0]);
     Open(1).CommandSolve();
-    EXPECT_TRUE(prompter.Showed("Sudoku solved and rated as Easy"));
+    EXPECT_EQ(prompter.Last(),
+              testing::TitleText("Sudoku solved", "Sudoku solved and rated as Easy"));
+    EXPECT_EQ(prompter.beeps, 1);
     EXPECT_EQ(Count(1), 3);
     bench.CommandNext();
     bench.CommandSolve();
@@ -243,6 +245,34 @@ TEST_F(WorkbenchTest, SolveRatesInPlaceOrMovesAndDeleteOfTheOnlyRecordLeavesNoFi
     EXPECT_FALSE(fs::exists(PuzzleFile(root, LevelStem(1))));
     EXPECT_FALSE(fs::exists(LogFile(root, LevelStem(1))));
     EXPECT_FALSE(bench.commands().Delete);
+}
+
+// The window hears what each command changed, compared with what it showed, and
+// nothing of a command that changed nothing.
+TEST_F(WorkbenchTest, TheWindowHearsWhatChangedAndOnlyThat) {
+    for (int i = 0; i < 3; ++i)
+        Add(2, other[i]);
+    std::vector<unsigned> heard;
+    bench.SetEvents([&](Changes c) { heard.push_back(c.bits); });
+    Open(2);
+    bench.CommandPrevious();  // at the first record: nothing to do
+    bench.CommandNext();
+    bench.CommandNext();   // the last one: Next and Last go off
+    bench.CommandAbort();  // no run
+    EXPECT_EQ(heard,
+              (std::vector<unsigned>{kWorkbenchTitle | kWorkbenchCommands | kWorkbenchRecord,
+                                     kWorkbenchTitle | kWorkbenchRecord | kWorkbenchCommands,
+                                     kWorkbenchTitle | kWorkbenchRecord | kWorkbenchCommands}));
+    // A run tells its progress as it breathes, the table of hardest techniques
+    // as it fills, and the frame gone at its end.
+    heard.clear();
+    bench.SetRedrawEvery(std::chrono::milliseconds(0));
+    bench.CommandCheckAll();
+    ASSERT_GE(heard.size(), 3u);
+    EXPECT_EQ(heard.front(), kWorkbenchProgress | kWorkbenchCommands);
+    EXPECT_TRUE(
+        std::any_of(heard.begin(), heard.end(), [](unsigned c) { return c & kWorkbenchReport; }));
+    EXPECT_TRUE(Changes{heard.back()}.Has(kWorkbenchProgress | kWorkbenchCommands));
 }
 
 TEST_F(WorkbenchTest, BruteForceAnswersAndRemoveDuplicatesKeepsTheFirst) {
