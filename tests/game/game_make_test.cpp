@@ -227,11 +227,14 @@ TEST_F(Make, CluesFromTypedTextAndDroppedFiles) {
     }
 }
 
+// Make shows nothing of the game before: another board, the plain caption,
+// empty wells.
 TEST_F(Make, TheWayInAsksAboutTheGameAndLeavesOnlyTheBoardAndValidate) {
     Game& g = Playing(1);
     options.AutoSave = false;
     options.AskSave = true;
     PlaceOne();
+    const int generation = g.Generation();
     prompter.shown.clear();
     prompter.answers = {Answer::No, Answer::No};
     g.CommandMake();
@@ -247,6 +250,11 @@ TEST_F(Make, TheWayInAsksAboutTheGameAndLeavesOnlyTheBoardAndValidate) {
     EXPECT_EQ(g.board().CurrentGrid, Digits{});
     EXPECT_EQ(g.SudTekst(), kMakePrompt);
     EXPECT_EQ(g.LabelTijd(), "");
+    EXPECT_EQ(g.Caption(), "Tavi Sudoku 1");
+    EXPECT_GT(g.Generation(), generation);
+    for (int d = 1; d <= 9; ++d)
+        for (int b = 0; b < 9; ++b)
+            EXPECT_FALSE(g.WellFilled(d, b));
     // The palette and the digit filter are dead.
     g.PaletteUp(0, MouseButton::Left, true);
     g.DigitButtonUp(5, MouseButton::Left, true);

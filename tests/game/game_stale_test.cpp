@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Nothing stale on the board: a hint's colours, its text and the headers it
-// picked go with the action that made the hint false, and stay while it holds;
-// Make shows nothing of the game before.
+// picked go with the action that made the hint false, and stay while it holds.
 #include "support/game_fixture.h"
 
 namespace tavi::testing {
@@ -139,19 +138,6 @@ TEST_F(Stale, ATechniqueHintStaysUntilItsLastConclusionIsDone) {
         EXPECT_GT(hints, 5) << level;
     }
     EXPECT_GT(partial, 0);
-}
-
-TEST_F(Stale, MakeShowsNothingOfTheGameBefore) {
-    Game& g = Playing(4);
-    PlaceOne();
-    ASSERT_NE(g.Caption(), "Tavi Sudoku 1");
-    const int generation = g.Generation();
-    g.CommandMake();
-    EXPECT_EQ(g.Caption(), "Tavi Sudoku 1");
-    EXPECT_GT(g.Generation(), generation);
-    for (int d = 1; d <= 9; ++d)
-        for (int b = 0; b < 9; ++b)
-            EXPECT_FALSE(g.WellFilled(d, b));
 }
 
 }  // namespace
