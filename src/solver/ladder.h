@@ -97,6 +97,8 @@ struct LadderObserver {
 // The rating run of the workbench. Starts from Puzzle and from candidates that the
 // caller has prepared (SetupCandidates). Follows `order` for the rungs from 8 on.
 struct WorkbenchRun {
+    // During an import or a check the progress texts go to observer.progress
+    // ("Solving Imported Sudoku : Rated ..." or "Solving Sudoku : Rated ...").
     bool ImportRunning = false;
     bool CheckRunning = false;
     const TechniqueOrder* order = nullptr;  // the default order when null

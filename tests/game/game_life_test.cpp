@@ -7,6 +7,8 @@ namespace {
 
 using Life = GameFixture;
 
+// The first start informs, makes the log files (first_run_test has how) and
+// leaves nothing open; without a library it can't go on.
 TEST_F(Life, FirstStartWithAnEmptyStore) {
     Game& g = Started();
     EXPECT_EQ(prompter.Texts(), std::vector<std::string>{std::string(
@@ -19,23 +21,14 @@ TEST_F(Life, FirstStartWithAnEmptyStore) {
     EXPECT_FALSE(g.GridEnabled());
     EXPECT_TRUE(g.position().SudokuSolved);
     EXPECT_EQ(g.commands(), CommandStates{});
-    // The library was copied to the data folder, and every puzzle has a log record.
-    for (int level = 1; level <= 9; ++level)
-        EXPECT_EQ(WholeRecords(LogFile(folders.DataFolder, LevelStem(level)), kSudokuLogRecordSize),
-                  kPerLevel);
 
-    // The second start makes nothing and asks nothing.
-    prompter.shown.clear();
-    Started();
-    EXPECT_TRUE(prompter.shown.empty());
-}
-
-TEST_F(Life, AFirstRunWithoutALibraryCannotGoOn) {
+    store = {};
+    std::filesystem::remove_all(folders.DataFolder);
     std::filesystem::remove(PuzzleFile(folders.AppFolder, LevelStem(4)));
+    prompter.shown.clear();
     NewGame();
     EXPECT_FALSE(game->Start());
     EXPECT_EQ(prompter.Texts().back(), "Failed to write sudoku logfiles, program can't continue.");
-    EXPECT_EQ(store.Read("Options", "Logfiles", "False"), "False");
 }
 
 // Plays one step on a New of `level` and leaves through Exit with "Never" saving
