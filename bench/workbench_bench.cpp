@@ -65,7 +65,7 @@ void BM_CheckAll_10000(benchmark::State& state) {
         Silent silent;
         Workbench bench(silent, folder);
         bench.SetThreads(int(state.range(0)));
-        bench.SetChanged([&] {
+        bench.SetEvents([&](Changes) {
             ++redraws;
             std::this_thread::sleep_for(std::chrono::milliseconds(2));
         });

@@ -169,6 +169,10 @@ class Game : private MoveListener {
     int Generation() const { return generation_; }
     // A search is running: the window takes no other command meanwhile.
     bool Busy() const { return busy_; }
+    // Lays `position` on the board in play (its clues, solution, digits and
+    // marks), as a test or a picture sets up a position to take a hint from; the
+    // wells follow. The move log stays as it is.
+    void LayPosition(const Board& position);
     // Colours of a hint on the board.
     void ApplyPaints(const std::vector<HintPaint>& paints);
     // After the colours window: the hint on the board takes the new hint colours.
@@ -209,7 +213,6 @@ class Game : private MoveListener {
 
     // --- State for the window -----------------------------------------------
     const Board& board() const { return ctx_.board; }
-    SolveContext& context() { return ctx_; }
     const Options& options() const { return options_; }
     const LibraryPosition& position() const { return session_.position(); }
     const SudokuRecord& sudoku() const { return session_.sudoku(); }
@@ -233,7 +236,7 @@ class Game : private MoveListener {
         return brushes_.MarkPaint(digit, cell);
     }
     bool MarkDimmed(int digit, int cell) const {
-        return options_.Dimmed && HoverCell != (digit - 1) * 81 + cell;
+        return options_.Dimmed && hoverCell_ != (digit - 1) * 81 + cell;
     }
     bool GridEnabled() const { return gridEnabled_; }
     const std::string& TextHint() const { return textHint_; }
@@ -251,11 +254,15 @@ class Game : private MoveListener {
     bool WellsVisible() const { return options_.Wells; }
     bool DigitCompleted(int digit) const;
 
-    int HoverCell = kNoHover;  // the mark under the pointer, (digit - 1) * 81 + cell, or none
-    int SelectedRow = kNoLine;
-    int SelectedColumn = kNoLine;
-    bool MakeMode = false;
-    std::string WindowTitle;
+    // The mark under the pointer, (digit - 1) * 81 + cell, or kNoHover.
+    int HoverCell() const { return hoverCell_; }
+    // The row and the column picked with the headers, or kNoLine.
+    int SelectedRow() const { return selectedRow_; }
+    int SelectedColumn() const { return selectedColumn_; }
+    // The user is entering a puzzle of their own (between Make and Validate's end).
+    bool MakeMode() const { return makeMode_; }
+    // The program's title that the captions are made from; empty after a resumed start.
+    const std::string& WindowTitle() const { return windowTitle_; }
 
     // Plays a sound of the table when sounds are on; -1 plays nothing.
     void Speel(int id);
@@ -279,19 +286,14 @@ class Game : private MoveListener {
     };
     // Opened at the start of each public routine: the outermost one tells the
     // window what changed when it ends.
-    class ChangeScope {
-      public:
-        explicit ChangeScope(Game& game);
-        ~ChangeScope();
-        ChangeScope(const ChangeScope&) = delete;
-        ChangeScope& operator=(const ChangeScope&) = delete;
-
-      private:
-        Game& game_;
-    };
+    using ChangeScope = tavi::ChangeScope<Game>;
+    friend ChangeScope;
     View Look() const;
     // Tells the window what changed since the last look.
     void Announce();
+    // The end of the outermost routine: the window is told, then a long game is
+    // told that a reload keeps its last 100 steps.
+    void ScopeEnded();
 
     // MoveListener: the solver's placements and removals become steps.
     void ZetAuto(Board& board, int digit, int cell) override;
@@ -392,6 +394,11 @@ class Game : private MoveListener {
     HintFlow hints_;
     HintTruth truth_;     // what keeps the hint on the board true
     int generation_ = 0;  // counts the boards laid out: new games, Make, its end
+    int hoverCell_ = kNoHover;
+    int selectedRow_ = kNoLine;
+    int selectedColumn_ = kNoLine;
+    bool makeMode_ = false;
+    std::string windowTitle_;
     PracticeMark practice_;
     CommandStates commands_;
     std::array<std::array<bool, 9>, 10> wells_{};

@@ -6,20 +6,15 @@
 
 namespace tavi {
 
-Game::ChangeScope::ChangeScope(Game& game) : game_(game) {
-    if (game_.scopes_++ == 0) game_.seen_ = game_.Look();
-}
-
-Game::ChangeScope::~ChangeScope() {
-    if (--game_.scopes_ != 0) return;
-    game_.Announce();
-    if (game_.longGameDue_) {
-        game_.longGameDue_ = false;
+void Game::ScopeEnded() {
+    Announce();
+    if (longGameDue_) {
+        longGameDue_ = false;
         // Autosolve's steps and an ended game are never saved: nothing to say.
-        const LibraryPosition& p = game_.position();
-        if (!p.SudokuSolved && !p.SudokuAutosolved && !game_.busy_) {
-            game_.longGameSaid_ = true;
-            game_.services_.prompter.Message(kLongGameTitle, kLongGameText);
+        const LibraryPosition& p = position();
+        if (!p.SudokuSolved && !p.SudokuAutosolved && !busy_) {
+            longGameSaid_ = true;
+            services_.prompter.Message(kLongGameTitle, kLongGameText);
         }
     }
 }
@@ -28,9 +23,9 @@ Game::View Game::Look() const {
     View v;
     v.grid = ctx_.board.CurrentGrid;
     v.marks = ctx_.board.Candidates;
-    v.row = SelectedRow;
-    v.column = SelectedColumn;
-    v.hover = HoverCell;
+    v.row = selectedRow_;
+    v.column = selectedColumn_;
+    v.hover = hoverCell_;
     v.level = position().ChosenLevel;
     v.hintShows = hints_.WindowShows();
     v.generation = generation_;

@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What changed in the game, as the window is told after each of the game's
 // routines: the parts of the window to draw again. The game compares what it
-// shows before and after, so no routine can forget to say what it changed.
+// shows before and after (platform/changes.h).
 #pragma once
 
 #include <functional>
+
+#include "platform/changes.h"
 
 namespace tavi {
 
@@ -20,18 +22,6 @@ enum Change : unsigned {
     kChangeBrush = 1u << 7,       // the palette's captions and the pointer
     kChangeLevel = 1u << 8,       // the level chosen
     kChangeHintWindow = 1u << 9,  // a hint to show in the small hint window, or another game
-};
-
-// A set of changes.
-struct Changes {
-    unsigned bits = 0;
-
-    bool Has(unsigned change) const { return (bits & change) != 0; }
-    bool Any() const { return bits != 0; }
-    Changes& operator|=(unsigned change) {
-        bits |= change;
-        return *this;
-    }
 };
 
 // The window's listener, called once at the end of each of the game's routines

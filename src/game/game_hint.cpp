@@ -23,6 +23,12 @@ void Game::ColoursChanged() {
     brushes_.Recolour(options_.colors.HintColor);
 }
 
+void Game::LayPosition(const Board& position) {
+    const ChangeScope scope(*this);
+    ctx_.board = position;
+    SetupWells();
+}
+
 void Game::ApplyPaints(const std::vector<HintPaint>& paints) {
     const ChangeScope scope(*this);
     brushes_.ApplyPaints(paints, options_.colors.HintColor);
@@ -44,8 +50,8 @@ bool Game::ReportCell(const std::optional<CellReport>& report, bool penalty) {
     if (!report) return false;
     Speel(report->sound);
     if (report->picksCell) {
-        SelectedRow = report->cell / 9;
-        SelectedColumn = report->cell % 9;
+        selectedRow_ = report->cell / 9;
+        selectedColumn_ = report->cell % 9;
     }
     textHint_ = report->text;
     ApplyPaints(report->paints);
@@ -224,14 +230,14 @@ void Game::ForgetStaleHint() {
     if (truth_.kind == HintTruth::kNone || HintStillTrue(truth_, ctx_.board)) return;
     brushes_.WipeHint();
     if (textHint_ == truth_.text) textHint_ = std::string(kPlayingHintText);
-    if (truth_.pickedCell && SelectedRow == truth_.cell / 9 && SelectedColumn == truth_.cell % 9)
-        SelectedRow = SelectedColumn = kNoLine;
+    if (truth_.pickedCell && selectedRow_ == truth_.cell / 9 && selectedColumn_ == truth_.cell % 9)
+        selectedRow_ = selectedColumn_ = kNoLine;
     truth_ = {};
 }
 
 void Game::CommandScan() {
     const ChangeScope scope(*this);
-    if (MakeMode) return;  // no library file is open while a puzzle is made
+    if (makeMode_) return;  // no library file is open while a puzzle is made
     if (scanning_) {
         scanStop_ = true;
         return;

@@ -8,12 +8,12 @@ namespace tavi {
 
 MoveStep& Game::BeginStep(int cell) {
     // While a puzzle is made its clues can't be taken back with Undo.
-    if (!MakeMode) commands_.Undo = true;
+    if (!makeMode_) commands_.Undo = true;
     commands_.Redo = false;
     MoveStep& step = moves_.BeginStep(cell);
     ShowStepCount();
     // Said once, when the routine that took the game past what a record holds ends.
-    if (!MakeMode && !longGameSaid_ && moves_.CurrentStep() > kLogSteps) longGameDue_ = true;
+    if (!makeMode_ && !longGameSaid_ && moves_.CurrentStep() > kLogSteps) longGameDue_ = true;
     return step;
 }
 
@@ -89,12 +89,12 @@ void Game::CandidateRemoved(int digit, int cell) {
 void Game::MarkMouseMove(int digit, int cell) {
     const ChangeScope scope(*this);
     const bool onBoard = digit >= 1 && digit <= 9 && cell >= 0 && cell <= 80;
-    if (options_.Dimmed) HoverCell = onBoard ? (digit - 1) * 81 + cell : kNoHover;
+    if (options_.Dimmed) hoverCell_ = onBoard ? (digit - 1) * 81 + cell : kNoHover;
 }
 
 void Game::GridMouseMove() {
     const ChangeScope scope(*this);
-    HoverCell = kNoHover;
+    hoverCell_ = kNoHover;
 }
 
 void Game::GridMouseUp(int cell, MouseButton button, bool inside) {
@@ -108,10 +108,10 @@ void Game::RowHeaderUp(int row, MouseButton button, bool inside) {
     if (!inside || row < 0 || row > 8) return;
     if (brushes_.Active()) return brushes_.RowClicked(row, button);
     if (button != MouseButton::Left) return;
-    if (SelectedRow == row) {
-        SelectedRow = kNoLine;
+    if (selectedRow_ == row) {
+        selectedRow_ = kNoLine;
     } else {
-        SelectedRow = row;
+        selectedRow_ = row;
         Speel(kSoundHeader);
     }
 }
@@ -121,10 +121,10 @@ void Game::ColumnHeaderUp(int column, MouseButton button, bool inside) {
     if (!inside || column < 0 || column > 8) return;
     if (brushes_.Active()) return brushes_.ColumnClicked(column, button);
     if (button != MouseButton::Left) return;
-    if (SelectedColumn == column) {
-        SelectedColumn = kNoLine;
+    if (selectedColumn_ == column) {
+        selectedColumn_ = kNoLine;
     } else {
-        SelectedColumn = column;
+        selectedColumn_ = column;
         Speel(kSoundHeader);
     }
 }
@@ -133,7 +133,7 @@ void Game::DigitButtonUp(int digit, MouseButton button, bool inside) {
     const ChangeScope scope(*this);
     if (!inside || digit < 1 || digit > 9) return;
     if (brushes_.Active()) return brushes_.DigitClicked(digit, button);
-    if (button != MouseButton::Left || MakeMode) return;
+    if (button != MouseButton::Left || makeMode_) return;
     if (FilterOn(digit))
         brushes_.Hide(digit);
     else
@@ -147,7 +147,7 @@ void Game::ToonPencilmarks(int digit) {
 
 void Game::PaletteUp(int index, MouseButton button, bool inside) {
     const ChangeScope scope(*this);
-    if (MakeMode || !inside || index < 0 || index >= kPaletteLabels) return;
+    if (makeMode_ || !inside || index < 0 || index >= kPaletteLabels) return;
     if (button == MouseButton::Middle) return;
     if (index == 4) {
         brushes_.Off();
@@ -164,9 +164,9 @@ void Game::PaletteUp(int index, MouseButton button, bool inside) {
 void Game::CommandResetCell() {
     const ChangeScope scope(*this);
     if (busy_) return;  // a search is running
-    if (SelectedRow == kNoLine || SelectedColumn == kNoLine) return;
+    if (selectedRow_ == kNoLine || selectedColumn_ == kNoLine) return;
     ResetHintStage();
-    const int cell = SelectedRow * 9 + SelectedColumn;
+    const int cell = selectedRow_ * 9 + selectedColumn_;
     if (sudoku().Puzzle[cell] != 0) return;  // clues can't be reset
     Speel(kSoundResetCell);
     const bool redo = commands_.Redo;

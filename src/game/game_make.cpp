@@ -114,7 +114,7 @@ std::optional<std::string> ReadDroppedHead(const std::filesystem::path& file) {
 void Game::CommandMake() {
     const ChangeScope scope(*this);
     if (busy_) return;  // a search is running
-    if (MakeMode)
+    if (makeMode_)
         Validate();
     else
         StartMaking();
@@ -133,11 +133,11 @@ void Game::StartMaking() {
     session_.position().SudokuSolved = true;
     session_.position().SudokuAutosolved = false;
     EnableGrid();
-    MakeMode = true;
+    makeMode_ = true;
     // Nothing of the game before stays: its wells and its title.
     for (auto& digit : wells_)
         digit.fill(false);
-    caption_ = WindowTitle;
+    caption_ = windowTitle_;
 
     commands_.Open = commands_.Save = commands_.Print = false;
     commands_.MakeCaption = "Validate";
@@ -149,14 +149,14 @@ void Game::StartMaking() {
 
 void Game::SudTekstChange(const std::string& text) {
     const ChangeScope scope(*this);
-    if (!MakeMode || busy_) return;
+    if (!makeMode_ || busy_) return;
     sudTekst_ = text;
     if (text.size() > 80) EnterClues(text, kMakeErrorTitle);
 }
 
 void Game::SudTekstDrop(const std::vector<std::filesystem::path>& files) {
     const ChangeScope scope(*this);
-    if (!MakeMode || busy_) return;
+    if (!makeMode_ || busy_) return;
     if (const auto refusal = RefuseDrop(files)) {
         services_.prompter.Ask(refusal->title, refusal->text, Buttons::Ok, Icon::Exclamation);
         return;
@@ -222,7 +222,7 @@ void Game::Validate() {
     ctx_.confirmPattern = nullptr;
     ctx_.listener = nullptr;
     busy_ = true;
-    const bool solved = SolveSudokuGame(ctx_, nullptr);
+    const bool solved = SolveSudokuGame(ctx_).solved;
     busy_ = false;
     ctx_.listener = this;
     ctx_.confirmPattern = std::move(confirm);
@@ -305,10 +305,10 @@ void Game::EndMaking() {
     ClearGrid();
     ClearSudokuData();
     DisableGrid();
-    MakeMode = false;
+    makeMode_ = false;
     for (auto& digit : wells_)
         digit.fill(false);
-    caption_ = WindowTitle;
+    caption_ = windowTitle_;
     commands_.Open = commands_.Print = commands_.New = true;
     commands_.Save = false;
     commands_.MakeCaption = "Make";

@@ -33,7 +33,7 @@ void Game::CommandOptions(const Options& before) {
     ResetHintStage();  // a waiting "Show Me" is for the board as it was
     const bool gameOpen = !position_.SudokuSolved && position_.OpenLevel > 0;
     const int level = gameOpen ? position_.OpenLevel : 0;
-    if (options_.Dimmed != before.Dimmed) HoverCell = kNoHover;
+    if (options_.Dimmed != before.Dimmed) hoverCell_ = kNoHover;
 
     // The marks of the board follow the two pencil-mark options: without them
     // every digit is a click target and the marks are the player's own.

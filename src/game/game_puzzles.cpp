@@ -168,7 +168,8 @@ void Game::AfterLoad() {
 
     const int level = position_.ChosenLevel;
     const int number = position_.PuzzleNumber[level];
-    caption_ = WindowTitle + " - " + std::string(LevelName(level)) + " - " + std::to_string(number);
+    caption_ =
+        windowTitle_ + " - " + std::string(LevelName(level)) + " - " + std::to_string(number);
     caption_ += clock_.TimeToBeat(sudoku());
     if (options_.Wells) SetupWells();
     session_.Opened();
@@ -264,7 +265,7 @@ void Game::CommandSolution() {
     const ChangeScope scope(*this);
     if (busy_) return;  // a search is running
     // One slip would end the game and its best time: a game in play asks first.
-    if (!position().SudokuSolved && !MakeMode &&
+    if (!position().SudokuSolved && !makeMode_ &&
         services_.prompter.Ask(kSolutionQuestionTitle, kSolutionQuestion, Buttons::YesNo,
                                Icon::Question) != Answer::Yes)
         return;

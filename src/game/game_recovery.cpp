@@ -17,7 +17,7 @@ constexpr std::string_view kRecoveryTitle = "Game recovery";
 
 bool Game::GameOnBoard() const {
     const LibraryPosition& p = position();
-    return !MakeMode && !p.SudokuSolved && p.OpenLevel != 0 && moves_.LastStep() > 0;
+    return !makeMode_ && !p.SudokuSolved && p.OpenLevel != 0 && moves_.LastStep() > 0;
 }
 
 RecoveryCopy Game::CopyOfGame() const {

@@ -34,8 +34,8 @@ bool Game::Start() {
     CopyLibraryFiles(session_.folders());
 
     position_.ChosenLevel = 2;
-    MakeMode = false;
-    SelectedRow = SelectedColumn = kNoLine;
+    makeMode_ = false;
+    selectedRow_ = selectedColumn_ = kNoLine;
     HaalOpties(services_.store, options_);
     // The position keys are read with the others, so that their faults are said
     // in the same message.
@@ -52,13 +52,13 @@ bool Game::Start() {
     ClearGrid();
     DisableGrid();
     ClearSudokuData();
-    HoverCell = kNoHover;
+    hoverCell_ = kNoHover;
 
     session_.Closed();
     // A run that did not end normally left its game in the recovery copy.
     if (OfferRecoveryCopy()) {
-        WindowTitle = "Tavi Sudoku 1";
-        caption_ = WindowTitle + caption_;
+        windowTitle_ = "Tavi Sudoku 1";
+        caption_ = windowTitle_ + caption_;
         return true;
     }
     // A "Level" or "Busy" that could not be read does not hide a saved game.
@@ -85,8 +85,8 @@ bool Game::Start() {
             if (!resumed && position_.PuzzleNumber[level] > 1) --position_.PuzzleNumber[level];
         }
     }
-    WindowTitle = "Tavi Sudoku 1";
-    caption_ = WindowTitle;
+    windowTitle_ = "Tavi Sudoku 1";
+    caption_ = windowTitle_;
     return true;
 }
 
@@ -117,7 +117,7 @@ void Game::Speel(int id) {
 
 void Game::ZetOpgelost() {
     const ChangeScope scope(*this);
-    if (MakeMode) return;
+    if (makeMode_) return;
     clock_.Tick();
     clock_.Stop();
     ResetHintStage();
@@ -242,7 +242,7 @@ void Game::ClearGrid() {
     brushes_.ShowAll();
     labelStap_.clear();
     ResetHintStage();
-    SelectedRow = SelectedColumn = kNoLine;
+    selectedRow_ = selectedColumn_ = kNoLine;
 }
 
 void Game::ClearSudokuData() {

@@ -76,7 +76,7 @@ PuzzleRating RatePuzzleWithScore(SolveContext& ctx, const Digits& puzzle) {
     WorkbenchRun run;
     run.observer.hit = [&](const Rung& rung) { tally.Hit(rung, ctx.stepSize); };
     ctx.board = BoardFromPuzzle(puzzle);
-    const bool solved = SolveSudoku(ctx, run);
+    const bool solved = SolveSudoku(ctx, run).solved;
     PuzzleRating r;
     r.level = solved ? ctx.SolvingLevel : kOutlaw;
     r.score = tally.Score(solved);

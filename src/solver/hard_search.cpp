@@ -59,7 +59,7 @@ LadderRating RateOnLadder(SolveContext& ctx, const Digits& puzzle) {
         for (int c = 0; c < 81; ++c)
             r.pairsAtLastRung += CountDigits(ctx.board.Candidates[c]) == 2;
     };
-    const bool solved = SolveSudoku(ctx, run);
+    const bool solved = SolveSudoku(ctx, run).solved;
     r.level = solved ? ctx.SolvingLevel : kOutlaw;
     r.stepsAtLevel = hitsAtLevel[std::min(ctx.SolvingLevel, 9)];
     r.cellsLeft = solved ? 0 : ctx.board.EmptyCount();

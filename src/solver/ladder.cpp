@@ -111,13 +111,6 @@ int CountEmpty(const Digits& d) {
     return n;
 }
 
-void SpeakSolved(Notifier* notifier, int level, bool beep, bool message) {
-    if (!notifier) return;
-    if (beep) notifier->Beep();
-    if (message && level >= 1 && level <= 8)
-        notifier->Message("Sudoku solved", SolvedMessage(level));
-}
-
 }  // namespace
 
 std::span<const Rung> LadderRungs() { return kRungs; }
@@ -207,12 +200,12 @@ std::string SolvedMessage(int level) {
     return "Sudoku solved and rated as " + std::string(LevelName(level));
 }
 
-bool SolveSudoku(SolveContext& ctx, const WorkbenchRun& run) {
+SolveOutcome SolveSudoku(SolveContext& ctx, const WorkbenchRun& run) {
     Board& b = ctx.board;
     ctx.SolvingLevel = 0;
     b.CurrentGrid = b.Puzzle;
     int cellsLeft = CountEmpty(b.Puzzle);
-    if (GivensClash(b.Puzzle)) return false;
+    if (GivensClash(b.Puzzle)) return {};
 
     static const RungOrder kDefaultOrder = OrderedRungs(DefaultTechniqueOrder());
     const RungOrder order = run.order ? OrderedRungs(*run.order) : kDefaultOrder;
@@ -241,21 +234,18 @@ bool SolveSudoku(SolveContext& ctx, const WorkbenchRun& run) {
         };
 
     const WalkEnd end = WalkLadder(ctx, walk, cellsLeft).end;
-    if (end == WalkEnd::Contradiction) return false;
+    if (end == WalkEnd::Contradiction) return {false, false, ctx.SolvingLevel};
     // An exhausted ladder on a full board (filled by a rung other than a single)
-    // still speaks, but the run answers false.
-    if (end == WalkEnd::Solved || cellsLeft == 0)
-        SpeakSolved(run.notifier, ctx.SolvingLevel, !run.ImportRunning,
-                    !run.ImportRunning && !run.CheckRunning);
-    return end == WalkEnd::Solved;
+    // is full, but the run answers unsolved.
+    return {end == WalkEnd::Solved, end == WalkEnd::Solved || cellsLeft == 0, ctx.SolvingLevel};
 }
 
-bool SolveSudokuGame(SolveContext& ctx, Notifier* notifier, const LadderObserver& observer) {
+SolveOutcome SolveSudokuGame(SolveContext& ctx, const LadderObserver& observer) {
     Board& b = ctx.board;
     ctx.SolvingLevel = 0;
     b.CurrentGrid = b.Puzzle;
     int cellsLeft = CountEmpty(b.Puzzle);
-    if (GivensClash(b.Puzzle)) return false;
+    if (GivensClash(b.Puzzle)) return {};
 
     LadderWalk walk;
     walk.rungs = kFixedOrder.View();
@@ -264,9 +254,8 @@ bool SolveSudokuGame(SolveContext& ctx, Notifier* notifier, const LadderObserver
             observer.hit(rung);
             return true;
         };
-    if (WalkLadder(ctx, walk, cellsLeft).end != WalkEnd::Solved) return false;
-    SpeakSolved(notifier, ctx.SolvingLevel, true, true);
-    return true;
+    const bool solved = WalkLadder(ctx, walk, cellsLeft).end == WalkEnd::Solved;
+    return {solved, solved, ctx.SolvingLevel};
 }
 
 bool BIFSolveSudoku(SolveContext& ctx, int digit, int cell) {

@@ -96,19 +96,30 @@ struct LadderObserver {
 
 // The rating run of the workbench. Starts from Puzzle and from candidates that the
 // caller has prepared (SetupCandidates). Follows `order` for the rungs from 8 on.
-// True if logic solved the board; SolvingLevel then holds the rating.
 struct WorkbenchRun {
+    // During an import or a check the progress texts go to observer.progress
+    // ("Solving Imported Sudoku : Rated ..." or "Solving Sudoku : Rated ...").
     bool ImportRunning = false;
     bool CheckRunning = false;
     const TechniqueOrder* order = nullptr;  // the default order when null
-    Notifier* notifier = nullptr;           // beep and "Sudoku solved and rated as ..."
     LadderObserver observer;
 };
-bool SolveSudoku(SolveContext& ctx, const WorkbenchRun& run);
 
-// The game's check of a puzzle the user made: every rung in the fixed order, and
-// the beep and message at a solved board.
-bool SolveSudokuGame(SolveContext& ctx, Notifier* notifier, const LadderObserver& observer = {});
+// How a run of the ladder ended: whether logic solved the board, the level it
+// reached (SolvingLevel), and whether the board is full. A workbench run that a
+// rung other than a single filled ends exhausted, unsolved on a full board; its
+// caller still says it solved. The caller reports the outcome (SolvedMessage).
+struct SolveOutcome {
+    bool solved = false;
+    bool full = false;
+    int level = 0;
+
+    explicit operator bool() const { return solved; }
+};
+SolveOutcome SolveSudoku(SolveContext& ctx, const WorkbenchRun& run);
+
+// The game's check of a puzzle the user made: every rung in the fixed order.
+SolveOutcome SolveSudokuGame(SolveContext& ctx, const LadderObserver& observer = {});
 
 // The trial of Bifurcation: `digit` in `cell`, then the fixed ladder without
 // Bifurcation. True if the logic then fills the board.

@@ -9,8 +9,8 @@ BoardPicture PictureOf(const Game& game) {
     BoardPicture s;
     const Board& board = game.board();
     s.enabled = game.GridEnabled();
-    s.selectedRow = game.SelectedRow < 9 ? game.SelectedRow : -1;
-    s.selectedColumn = game.SelectedColumn < 9 ? game.SelectedColumn : -1;
+    s.selectedRow = game.SelectedRow() < 9 ? game.SelectedRow() : -1;
+    s.selectedColumn = game.SelectedColumn() < 9 ? game.SelectedColumn() : -1;
     for (int c = 0; c < 81; ++c) {
         s.digits[c] = board.CurrentGrid[c];
         s.clue[c] = s.digits[c] != 0 && game.IsClue(c);

@@ -68,7 +68,7 @@ CheckWindow::CheckWindow(std::filesystem::path dataFolder, const TechniqueOrder*
     bench_.SetOrder(order);
     bench_.SetThreads(AllCoresCount());
     bench_.SetYield([] { QApplication::processEvents(); });
-    bench_.SetChanged([this] { Refresh(); });
+    bench_.SetEvents([this](Changes c) { Show(c); });
     // The window's own report of an import, with the full list a button away;
     // a scripted prompter (the tests) hears the plain message.
     if (!prompter) bench_.SetImportReport([this](const ImportReport& r) { ShowImportReport(r); });
@@ -227,70 +227,85 @@ CheckWindow::CheckWindow(std::filesystem::path dataFolder, const TechniqueOrder*
     Refresh();
 }
 
-void CheckWindow::Refresh() {
-    setWindowTitle(QString::fromStdString(bench_.Caption()));
-    const WorkbenchCommands& c = bench_.commands();
+void CheckWindow::Refresh() { Show(Changes{~0u}); }
+
+void CheckWindow::Show(Changes c) {
+    if (c.Has(kWorkbenchTitle)) setWindowTitle(QString::fromStdString(bench_.Caption()));
     const bool idle = !bench_.BatchRunning();
-    for (int level = 1; level <= kLevelCount; ++level) {
-        levels_[level]->setEnabled(idle);
-        levels_[level]->setChecked(level == bench_.WorkLevel());
+    if (c.Has(kWorkbenchCommands)) {
+        const WorkbenchCommands& commands = bench_.commands();
+        for (int level = 1; level <= kLevelCount; ++level) {
+            levels_[level]->setEnabled(idle);
+            levels_[level]->setChecked(level == bench_.WorkLevel());
+        }
+        first_->setEnabled(idle && commands.First);
+        previous_->setEnabled(idle && commands.Previous);
+        next_->setEnabled(idle && commands.Next);
+        last_->setEnabled(idle && commands.Last);
+        goTo_->setEnabled(idle && commands.GoTo);
+        solve_->setEnabled(idle && commands.Solve);
+        checkAll_->setEnabled(idle && commands.CheckAll);
+        checkSome_->setEnabled(idle && commands.CheckSome);
+        delete_->setEnabled(idle && commands.Delete);
+        duplicates_->setEnabled(idle && commands.RemoveDuplicates);
+        import_->setEnabled(idle);
+        export_->setEnabled(idle && IsLevel(bench_.WorkLevel()) && bench_.RecordCount() > 0);
+        close_->setEnabled(idle);
+        abort_->setEnabled(!idle);
     }
-    first_->setEnabled(idle && c.First);
-    previous_->setEnabled(idle && c.Previous);
-    next_->setEnabled(idle && c.Next);
-    last_->setEnabled(idle && c.Last);
-    goTo_->setEnabled(idle && c.GoTo);
-    solve_->setEnabled(idle && c.Solve);
-    checkAll_->setEnabled(idle && c.CheckAll);
-    checkSome_->setEnabled(idle && c.CheckSome);
-    delete_->setEnabled(idle && c.Delete);
-    duplicates_->setEnabled(idle && c.RemoveDuplicates);
-    import_->setEnabled(idle);
-    export_->setEnabled(idle && IsLevel(bench_.WorkLevel()) && bench_.RecordCount() > 0);
-    close_->setEnabled(idle);
-    abort_->setEnabled(!idle);
-    const int level = bench_.WorkLevel();
-    QString number;
-    if (IsLevel(level) && bench_.RecordCount() > 0) {
-        number =
-            QStringLiteral("%1 of %2").arg(bench_.CurrentNumber(level)).arg(bench_.RecordCount());
-        if (const QString score = WorkbenchScoreText(bench_.record().Puzzle, !idle);
-            !score.isEmpty())
-            number += QLatin1Char('\n') + score;
+    if (c.Has(kWorkbenchCommands | kWorkbenchRecord)) {
+        const int level = bench_.WorkLevel();
+        QString number;
+        if (IsLevel(level) && bench_.RecordCount() > 0) {
+            number = QStringLiteral("%1 of %2")
+                         .arg(bench_.CurrentNumber(level))
+                         .arg(bench_.RecordCount());
+            if (const QString score = WorkbenchScoreText(bench_.record().Puzzle, !idle);
+                !score.isEmpty())
+                number += QLatin1Char('\n') + score;
+        }
+        number_->setText(number);
     }
-    number_->setText(number);
+    if (c.Has(kWorkbenchRecord)) {
+        board1_->update();
+        board2_->update();
+    }
 
     const WorkbenchProgress& p = bench_.progress();
+    if (c.Has(kWorkbenchProgress)) {
+        picture1_->setVisible(p.Shown);
+        label4_->setText(QString::fromStdString(p.Label4));
+        label5_->setText(QString::fromStdString(p.Label5));
+        label5_->setVisible(!p.Label5.empty());
+        label6_->setText(QString::fromStdString(p.Label6));
+        importProgress_->setText(QString::fromStdString(p.LabelImportProgress));
+        solvingLevel_->setText(QString::fromStdString(p.LabelSolvingLevel));
+        bar1_->setRange(0, int(std::max<long>(p.Bar1Max, 1)));
+        bar1_->setValue(int(p.Bar1));
+        bar2_->setValue(p.Bar2);
+    }
+    if (!c.Has(kWorkbenchReport | kWorkbenchProgress)) return;
+    // Below the progress frame, and hidden while it shows: why the record can't
+    // be read, and how many puzzles of the last check needed each technique as
+    // their hardest.
     damaged_->setText(QString::fromStdString(bench_.Damaged()));
     damaged_->setVisible(!bench_.Damaged().empty() && !p.Shown);
-    picture1_->setVisible(p.Shown);
-    label4_->setText(QString::fromStdString(p.Label4));
-    label5_->setText(QString::fromStdString(p.Label5));
-    label5_->setVisible(!p.Label5.empty());
-    label6_->setText(QString::fromStdString(p.Label6));
-    importProgress_->setText(QString::fromStdString(p.LabelImportProgress));
-    solvingLevel_->setText(QString::fromStdString(p.LabelSolvingLevel));
-    bar1_->setRange(0, int(std::max<long>(p.Bar1Max, 1)));
-    bar1_->setValue(int(p.Bar1));
-    bar2_->setValue(p.Bar2);
-
-    // After a check: how many puzzles needed each technique as their hardest.
-    const HardestCounts& hardest = bench_.Hardest();
-    hardest_->setRowCount(0);
-    for (int t = 0; t < kTechniqueCount; ++t) {
-        if (!hardest[t]) continue;
-        const int row = hardest_->rowCount();
-        hardest_->insertRow(row);
-        // The technique as the manager names it (the six subsets are one row there).
-        const std::string_view name = TechniqueCaption(t);
-        hardest_->setItem(row, 0,
-                          new QTableWidgetItem(QString::fromUtf8(name.data(), int(name.size()))));
-        hardest_->setItem(row, 1, new QTableWidgetItem(QString::number(hardest[t])));
+    if (c.Has(kWorkbenchReport)) {
+        const HardestCounts& hardest = bench_.Hardest();
+        hardest_->setRowCount(0);
+        for (int t = 0; t < kTechniqueCount; ++t) {
+            if (!hardest[t]) continue;
+            const int row = hardest_->rowCount();
+            hardest_->insertRow(row);
+            // The technique as the manager names it (the six subsets are one row there).
+            const std::string_view name = TechniqueCaption(t);
+            hardest_->setItem(
+                row, 0, new QTableWidgetItem(QString::fromUtf8(name.data(), int(name.size()))));
+            hardest_->setItem(row, 1, new QTableWidgetItem(QString::number(hardest[t])));
+        }
     }
     hardest_->setVisible(hardest_->rowCount() > 0 && !p.Shown);
     hardest_->setMaximumHeight(bench_.Damaged().empty() || p.Shown ? 180 : 120);
-    board1_->update();
-    board2_->update();
 }
 
 void CheckWindow::reject() {

@@ -47,6 +47,7 @@ class CheckWindow : public QDialog {
                 Prompter* prompter = nullptr, QWidget* parent = nullptr);
 
     Workbench& Model() { return bench_; }
+    // Draws everything again.
     void Refresh();
 
     // While a run goes on the window stays: Escape aborts the run, and a close
@@ -57,6 +58,8 @@ class CheckWindow : public QDialog {
     void closeEvent(QCloseEvent* e) override;
 
   private:
+    // Draws again the parts the workbench says changed.
+    void Show(Changes c);
     ReleaseButton* Command(const char* name, const QString& caption);
     void ShowImportReport(const ImportReport& report);
     void Export();

@@ -141,8 +141,8 @@ void KeyboardPlay::Digit(int digit, bool mark) {
 void KeyboardPlay::Clear() {
     const int cell = board_->CursorCell();
     if (cell < 0 || game_.Busy() || game_.brush().BrushActive) return;
-    if (game_.SelectedRow != cell / 9) game_.RowHeaderUp(cell / 9, MouseButton::Left, true);
-    if (game_.SelectedColumn != cell % 9) game_.ColumnHeaderUp(cell % 9, MouseButton::Left, true);
+    if (game_.SelectedRow() != cell / 9) game_.RowHeaderUp(cell / 9, MouseButton::Left, true);
+    if (game_.SelectedColumn() != cell % 9) game_.ColumnHeaderUp(cell % 9, MouseButton::Left, true);
     if (game_.commands().ResetCell) game_.CommandResetCell();
 }
 

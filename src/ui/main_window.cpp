@@ -181,7 +181,7 @@ void MainWindow::RefreshCommands() {
     commands_[kHint]->setText(ToQString(c.HintCaption));
     commands_[kScan]->setText(ToQString(c.ScanCaption));
     // Practice starts a library game, which Make has no room for.
-    if (practise_) practise_->setEnabled(!game_.MakeMode);
+    if (practise_) practise_->setEnabled(!game_.MakeMode());
 }
 
 void MainWindow::RefreshPalette() {

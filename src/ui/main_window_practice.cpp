@@ -19,7 +19,7 @@ QPushButton* MainWindow::BuildPractise(QWidget* parent) {
 }
 
 void MainWindow::ShowPractice() {
-    if (game_.Busy() || game_.MakeMode) return;
+    if (game_.Busy() || game_.MakeMode()) return;
     PracticeDialog dialog(*practice_, folders_.DataFolder, this);
     if (dialog.exec() != QDialog::Accepted) return;
     const PracticeDialog::Pick pick = dialog.Picked();

@@ -21,7 +21,7 @@ SudTekstLine::SudTekstLine(QWidget* parent) : QLineEdit(parent) {
 }
 
 void SudTekstLine::ShowGame(const Game& game) {
-    const bool making = game.MakeMode;
+    const bool making = game.MakeMode();
     setReadOnly(!making);
     setAcceptDrops(making);
     // The prompt stands as the placeholder, so that what the user types or

@@ -50,6 +50,7 @@ ExportResult ExportRecords(const std::filesystem::path& folder, int level, long 
 }
 
 void Workbench::CommandExport(const std::filesystem::path& file, long from, long to) {
+    const ChangeScope scope(*this);
     if (batchRunning_ || !IsLevel(workLevel_) || recordCount_ < 1) return;
     from = std::max(from, 1L);
     to = std::min(to, recordCount_);
@@ -72,13 +73,12 @@ void Workbench::CommandExport(const std::filesystem::path& file, long from, long
         std::filesystem::remove(part, ec);
         ++fileErrors_;
         prompter_.Message(kFileErrorTitle, result.failed);
-        return Changed();
+        return;
     }
     std::string text = std::to_string(result.written) + " " + LevelPlural(workLevel_) +
                        " exported to " + file.filename().string() + ".";
     if (result.damagedCount) text += "\n" + UnreadableText(result.damaged, result.damagedCount);
     prompter_.Message("Sudoku export report", text);
-    Changed();
 }
 
 }  // namespace tavi

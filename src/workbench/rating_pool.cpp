@@ -21,7 +21,7 @@ RatedPuzzle Rate(SolveContext& ctx, const Digits& puzzle, const TechniqueOrder* 
     ctx.board = BoardFromPuzzle(puzzle);
     ctx.SolvingLevel = 0;
     WorkbenchRun run;
-    run.CheckRunning = true;  // no message: the run's report speaks
+    run.CheckRunning = true;  // the progress texts of a check
     run.order = order;
     run.observer.before = before;
     run.observer.hit = [&](const Rung& rung) {
@@ -30,7 +30,7 @@ RatedPuzzle Rate(SolveContext& ctx, const Digits& puzzle, const TechniqueOrder* 
             r.hardest = &rung;
     };
     r.rated = true;
-    r.solved = SolveSudoku(ctx, run);
+    r.solved = SolveSudoku(ctx, run).solved;
     r.level = r.solved ? ctx.SolvingLevel : kOutlaw;
     if (r.solved)
         r.solution = ctx.board.CurrentGrid;

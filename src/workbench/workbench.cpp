@@ -37,13 +37,43 @@ std::string LevelPlural(int level) { return std::string(LevelName(level)) + " su
 Workbench::Workbench(Prompter& prompter, std::filesystem::path dataFolder)
     : prompter_(prompter), dataFolder_(std::move(dataFolder)) {}
 
-void Workbench::Changed() {
-    if (changed_) changed_();
+Workbench::View Workbench::Look() const {
+    View v;
+    v.caption = caption_;
+    v.commands = commands_;
+    v.running = batchRunning_;
+    v.solverBoard = showSolverBoard_;
+    v.level = workLevel_;
+    v.count = recordCount_;
+    v.number = currentNumber_[workLevel_];
+    v.puzzle = record_.Puzzle;
+    v.second = showSolverBoard_ ? ctx_.board.CurrentGrid : record_.Solution;
+    v.progress = progress_;
+    v.hardest = hardest_;
+    v.damaged = damaged_;
+    return v;
+}
+
+void Workbench::Announce() {
+    View now = Look();
+    const View& was = seen_;
+    Changes changes;
+    if (now.caption != was.caption) changes |= kWorkbenchTitle;
+    if (now.commands != was.commands || now.running != was.running || now.level != was.level ||
+        now.count != was.count)
+        changes |= kWorkbenchCommands;
+    if (now.number != was.number || now.puzzle != was.puzzle || now.second != was.second ||
+        now.solverBoard != was.solverBoard)
+        changes |= kWorkbenchRecord;
+    if (now.progress != was.progress) changes |= kWorkbenchProgress;
+    if (now.hardest != was.hardest || now.damaged != was.damaged) changes |= kWorkbenchReport;
+    seen_ = std::move(now);
+    if (changes.Any() && events_) events_(changes);
 }
 
 void Workbench::Breathe() {
     lastRedraw_ = std::chrono::steady_clock::now();
-    Changed();
+    Announce();
     if (yield_) yield_();
 }
 
@@ -85,6 +115,7 @@ void Workbench::ReportFileError(const std::string& why) {
 // --- Opening and stepping ---------------------------------------------------------
 
 void Workbench::Command1(int level) {
+    const ChangeScope scope(*this);
     if (batchRunning_ || !IsLevel(level)) return;
     const auto stem = LevelStem(level);
     std::string said;
@@ -112,7 +143,6 @@ void Workbench::Command1(int level) {
     commands_.GoTo = commands_.RemoveDuplicates = true;
     SetNavigation();
     OpenSudoku();
-    Changed();
 }
 
 bool Workbench::ReadAt(long n, SudokuRecord& record, SudokuLogRecord& log,
@@ -165,38 +195,39 @@ void Workbench::DisableAll() {
 }
 
 void Workbench::CommandFirst() {
+    const ChangeScope scope(*this);
     if (batchRunning_ || recordCount_ < 1) return;
     currentNumber_[workLevel_] = 1;
     SetNavigation();
     OpenSudoku();
-    Changed();
 }
 
 void Workbench::CommandPrevious() {
+    const ChangeScope scope(*this);
     if (batchRunning_ || currentNumber_[workLevel_] <= 1) return;
     --currentNumber_[workLevel_];
     SetNavigation();
     OpenSudoku();
-    Changed();
 }
 
 void Workbench::CommandNext() {
+    const ChangeScope scope(*this);
     if (batchRunning_ || currentNumber_[workLevel_] >= recordCount_) return;
     ++currentNumber_[workLevel_];
     SetNavigation();
     OpenSudoku();
-    Changed();
 }
 
 void Workbench::CommandLast() {
+    const ChangeScope scope(*this);
     if (batchRunning_ || recordCount_ < 1) return;
     currentNumber_[workLevel_] = recordCount_;
     SetNavigation();
     OpenSudoku();
-    Changed();
 }
 
 void Workbench::CommandGoTo() {
+    const ChangeScope scope(*this);
     if (batchRunning_ || recordCount_ < 1) return;
     const auto n =
         AskNumber("Goto number", "Enter a value between 1 and " + std::to_string(recordCount_), 1,
@@ -205,38 +236,35 @@ void Workbench::CommandGoTo() {
     currentNumber_[workLevel_] = *n;
     SetNavigation();
     OpenSudoku();
-    Changed();
 }
 
 // --- Solving ------------------------------------------------------------------------
 
-bool Workbench::SolveOpen(bool batch) {
+bool Workbench::SolveOpen() {
     Board& b = ctx_.board;
     b.Puzzle = record_.Puzzle;
     SetupCandidates(b);
     WorkbenchRun run;
-    run.CheckRunning = batch;
     run.order = order_;
-    run.notifier = &prompter_;
     const Rung* hardest = nullptr;
     run.observer.hit = [&](const Rung& rung) {
         if (!hardest || rung.level > hardest->level ||
             (rung.level == hardest->level && RungIndex(rung) > RungIndex(*hardest)))
             hardest = &rung;
     };
-    if (batch) {
-        run.observer.progress = [this](const std::string& text) {
-            progress_.LabelSolvingLevel = text;
-            progress_.Bar2 = ctx_.SolvingLevel;
-            Changed();
-        };
-    }
-    ModeScope mode(ctx_, ctx_.Mode().With(SolveMode::kBatchRunning, batch));
+    ModeScope mode(ctx_, ctx_.Mode().With(SolveMode::kBatchRunning, false));
     ctx_.yield = yield_;
     showSolverBoard_ = true;
-    const bool solved = SolveSudoku(ctx_, run);
-    if (solved && hardest) ++hardest_[hardest->number];
-    return solved;
+    const SolveOutcome outcome = SolveSudoku(ctx_, run);
+    // A filled board beeps and says its rating, even one that a rung other than
+    // a single filled (the run then answers unsolved).
+    if (outcome.full) {
+        prompter_.Beep();
+        if (outcome.level >= 1 && outcome.level < kOutlaw)
+            prompter_.Message("Sudoku solved", SolvedMessage(outcome.level));
+    }
+    if (outcome.solved && hardest) ++hardest_[hardest->number];
+    return outcome.solved;
 }
 
 void Workbench::TakeSolution(bool solved) {
@@ -305,12 +333,13 @@ void Workbench::ShowAfterRewrite() {
 }
 
 void Workbench::CommandSolve(bool right, bool inside) {
+    const ChangeScope scope(*this);
     if (batchRunning_ || !commands_.Solve) return;
     if (right && !inside) return;
     if (!damaged_.empty()) {
         prompter_.Message(kFileErrorTitle,
                           damaged_ + " It is not solved, moved or written until it is put right.");
-        return Changed();
+        return;
     }
     if (right) {
         Board& b = ctx_.board;
@@ -325,23 +354,23 @@ void Workbench::CommandSolve(bool right, bool inside) {
             prompter_.Message("Valid Sudoku", "This Sudoku has one unique solution");
             if (!WriteBruteForceSolution(dataFolder_, workLevel_, currentNumber_[workLevel_], b,
                                          record_, log_, &prompter_))
-                return Changed();
+                return;
             showSolverBoard_ = false;
         }
-        return Changed();
+        return;
     }
 
     // No solution, or several: no rating would mean anything, so it stays.
     if (const int solutions = Solutions(record_.Puzzle, 2).count; solutions != 1) {
         prompter_.Message(kReportTitle, solutions == 0 ? kNoSolutionText : kSeveralSolutionsText);
-        return Changed();
+        return;
     }
-    const bool solved = SolveOpen(false);
+    const bool solved = SolveOpen();
     const int rating = solved ? ctx_.SolvingLevel : kOutlaw;
     if (!solved && workLevel_ == kOutlaw) {
         showSolverBoard_ = false;
         prompter_.Message(kReportTitle, "This Sudoku could not be solved by the program!");
-        return Changed();
+        return;
     }
     TakeSolution(solved);
     if (rating == workLevel_) {
@@ -353,15 +382,16 @@ void Workbench::CommandSolve(bool right, bool inside) {
     if (!solved)
         prompter_.Message(kReportTitle,
                           "This Sudoku could not be solved by the program and is rated as Outlaw!");
-    Changed();
 }
 
 void Workbench::CommandCheckAll(bool right, bool inside) {
+    const ChangeScope scope(*this);
     if (batchRunning_ || !commands_.CheckAll || (right && !inside)) return;
     CheckRange(1, recordCount_, right);
 }
 
 void Workbench::CommandCheckSome(bool right, bool inside) {
+    const ChangeScope scope(*this);
     if (batchRunning_ || !commands_.CheckSome || (right && !inside)) return;
     const std::string between = "Enter a value between ";
     const auto from =
@@ -377,6 +407,7 @@ void Workbench::CommandCheckSome(bool right, bool inside) {
 }
 
 void Workbench::CommandAbort() {
+    const ChangeScope scope(*this);
     if (batchRunning_) abortRequested_ = true;
 }
 
@@ -433,7 +464,7 @@ void Workbench::CheckRange(long from, long to, bool brute) {
             prompter_.Message(kFileErrorTitle,
                               (unreadable_ ? UnreadableText(count.unreadable, unreadable_) : "") +
                                   (unreadable_ && !errors.empty() ? "\n" : "") + errors);
-        return Changed();
+        return;
     }
 
     const CheckReport report = ReportFor(count.moved, count.outlaw, count.unchanged, total);
@@ -446,7 +477,6 @@ void Workbench::CheckRange(long from, long to, bool brute) {
     if (const std::string notUnique = NotUniqueText(count.none, count.several); !notUnique.empty())
         text += "\n" + notUnique;
     prompter_.Message(report.title, text);
-    Changed();
 }
 
 namespace {
@@ -644,14 +674,15 @@ std::string UnreadableText(const std::vector<std::string>& named, long count) {
 // --- Deleting -----------------------------------------------------------------------
 
 void Workbench::CommandDelete() {
+    const ChangeScope scope(*this);
     if (batchRunning_ || !commands_.Delete || recordCount_ < 1) return;
     std::vector<bool> drop(size_t(recordCount_), false);
     drop[size_t(currentNumber_[workLevel_] - 1)] = true;
     Compact(drop);
-    Changed();
 }
 
 void Workbench::CommandRemoveDuplicates() {
+    const ChangeScope scope(*this);
     if (batchRunning_ || !commands_.RemoveDuplicates) return;
     const auto stem = LevelStem(workLevel_);
     const auto sds = PuzzleFile(dataFolder_, stem);
@@ -699,14 +730,14 @@ void Workbench::CommandRemoveDuplicates() {
     const bool aborted = abortRequested_;
     batchRunning_ = false;
     progress_.Shown = false;
-    if (aborted) return Changed();
+    if (aborted) return;
     const std::string passed = damaged
                                    ? " " + std::to_string(damaged) +
                                          " damaged records were passed over and left as they stand."
                                    : "";
     if (duplicates == 0) {
         prompter_.Message(kScanTitle, "No duplicate sudokus found." + passed);
-        return Changed();
+        return;
     }
     progress_.Label5 = "Removing duplicates (if any), and rebuilding file :";
     currentNumber_[workLevel_] = 1;
@@ -714,12 +745,12 @@ void Workbench::CommandRemoveDuplicates() {
     if (ok)
         prompter_.Message(kScanTitle,
                           std::to_string(duplicates) + " duplicate sudokus removed." + passed);
-    Changed();
 }
 
 // --- Importing ---------------------------------------------------------------------
 
 void Workbench::CommandImport(const std::filesystem::path& file) {
+    const ChangeScope scope(*this);
     if (batchRunning_) return;
     std::error_code ec;
     std::ifstream in;
@@ -755,12 +786,12 @@ void Workbench::CommandImport(const std::filesystem::path& file) {
             WholeRecords(PuzzleFile(dataFolder_, LevelStem(workLevel_)), kSudokuRecordSize);
         SetNavigation();
     }
-    Changed();
+    // The window shows the run's end behind its report.
+    Announce();
     if (importReport_)
         importReport_(report);
     else
         prompter_.Message("Sudoku import report", report.Text());
-    Changed();
 }
 
 }  // namespace tavi

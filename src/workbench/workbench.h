@@ -17,6 +17,7 @@
 
 #include "grid/levels.h"
 #include "library/records.h"
+#include "platform/changes.h"
 #include "platform/notifier.h"
 #include "settings/technique_order.h"
 #include "solver/solve_context.h"
@@ -32,6 +33,8 @@ struct WorkbenchCommands {
     bool Solve = false, CheckAll = false, CheckSome = false, Delete = false;
     bool GoTo = false, RemoveDuplicates = false;
     bool First = false, Previous = false, Next = false, Last = false;
+
+    bool operator==(const WorkbenchCommands&) const = default;
 };
 
 // The progress frame of a run: Picture1 with its labels and two bars.
@@ -42,7 +45,23 @@ struct WorkbenchProgress {
     std::string LabelSolvingLevel;       // the ladder's level and the rung it tries
     long Bar1 = 0, Bar1Max = 0;          // ProgressBar1: the puzzles of the run
     int Bar2 = 0;                        // ProgressBar2: SolvingLevel
+
+    bool operator==(const WorkbenchProgress&) const = default;
 };
+
+// The parts of the workbench's window that a routine changed.
+enum WorkbenchChange : unsigned {
+    kWorkbenchTitle = 1u << 0,     // the caption
+    kWorkbenchCommands = 1u << 1,  // which commands answer, the library open, its count, a run
+    kWorkbenchRecord = 1u << 2,    // the number shown, the puzzle and its solution (or the
+                                   // solver's board)
+    kWorkbenchProgress = 1u << 3,  // the progress frame
+    kWorkbenchReport = 1u << 4,    // the table of hardest techniques, why a record can't be read
+};
+
+// The window's listener, called at the end of each of the workbench's routines
+// that changed something, and during a run each time it breathes.
+using WorkbenchEvents = std::function<void(Changes)>;
 
 // How many puzzles needed each technique as their hardest, in a check run.
 using HardestCounts = std::array<long, kTechniqueCount>;
@@ -71,8 +90,8 @@ class Workbench {
     void SetOrder(const TechniqueOrder* order) { order_ = order; }
     // Called while a run lets the window breathe (events, repaint, Abort).
     void SetYield(std::function<void()> yield) { yield_ = std::move(yield); }
-    // Called whenever what the window shows has changed.
-    void SetChanged(std::function<void()> changed) { changed_ = std::move(changed); }
+    // The window's listener: told what changed, compared with what it showed.
+    void SetEvents(WorkbenchEvents events) { events_ = std::move(events); }
     // How many threads rate the puzzles of Check All, Check Some and Import; the
     // results are the same for any number.
     void SetThreads(int threads) { threads_ = std::max(1, threads); }
@@ -143,20 +162,42 @@ class Workbench {
         NumberList none, several;             // no solution, several: not rated
     };
 
+    // What the window shows, to tell what a routine changed.
+    struct View {
+        std::string caption;
+        WorkbenchCommands commands;
+        bool running = false, solverBoard = false;
+        int level = 0;
+        long count = 0, number = 0;
+        Digits puzzle{}, second{};
+        WorkbenchProgress progress;
+        HardestCounts hardest{};
+        std::string damaged;
+    };
+    // Opened at the start of each public routine: the outermost one tells the
+    // window what changed when it ends.
+    using ChangeScope = tavi::ChangeScope<Workbench>;
+    friend ChangeScope;
+    View Look() const;
+    // Tells the window what changed since the last look.
+    void Announce();
+    void ScopeEnded() { Announce(); }
+
     bool OpenSudoku();
     // Record `n` of the open library; a record that can't be read leaves both
     // empty and says why in `damaged`.
     bool ReadAt(long n, SudokuRecord& record, SudokuLogRecord& log, std::string& damaged) const;
     void SetNavigation();
     void DisableAll();
-    void Changed();
+    // Tells the window what the run shows so far, and lets it breathe.
     void Breathe();
     // Breathes when the last redraw of the run is `redrawEvery_` old.
     void BreatheWhenDue();
     std::optional<long> AskNumber(const std::string& title, const std::string& prompt, long low,
                                   long high, const std::string& defaultText);
-    // The logic on the open record: true when solved; SolvingLevel then the rating.
-    bool SolveOpen(bool batch);
+    // The logic on the open record, with the beep and the message of a filled
+    // board: true when solved; SolvingLevel then the rating.
+    bool SolveOpen();
     // The solution a record keeps: the board's when solved, else the one puzzle's
     // own solution when it has exactly one (the record's as it stood otherwise).
     void TakeSolution(bool solved);
@@ -180,7 +221,10 @@ class Workbench {
     Prompter& prompter_;
     std::filesystem::path dataFolder_;
     const TechniqueOrder* order_ = nullptr;
-    std::function<void()> yield_, changed_;
+    std::function<void()> yield_;
+    WorkbenchEvents events_;
+    View seen_;
+    int scopes_ = 0;  // public routines running, one inside the other
     std::function<void(const ImportReport&)> importReport_;
     int threads_ = 1;
     std::chrono::milliseconds redrawEvery_{50};

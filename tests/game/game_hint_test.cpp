@@ -197,7 +197,7 @@ TEST_F(Hints, ASueDeCoqIsShownAtOnceAndAskedAbout) {
     solve.board.Puzzle = board->Puzzle;
     ASSERT_TRUE(BruteForceSolve(solve));
     board->Solution = solve.board.CurrentGrid;
-    g.context().board = *board;
+    g.LayPosition(*board);
     for (int t = kFirstOrderedTechnique; t <= kBifurcationTechnique; ++t)
         options.techniques.OnOff[t] = t == 22;
     const std::string question = "If you can spot a Sue-De-Coq, press 'OK' else press 'Cancel'";

@@ -38,6 +38,17 @@ TEST_F(Input, PlacingTakesTheCellsMarksAndThePeersMarks) {
     EXPECT_TRUE(g.commands().Undo);
     EXPECT_FALSE(g.commands().Redo);
     EXPECT_EQ(sounds.played, std::vector<int>{});  // sounds are off by default
+
+    // A mark taken away is a step of its own; a cell may lose every mark.
+    const auto [other, wrong] = WrongCandidate();
+    ASSERT_GE(other, 0);
+    g.MarkMouseUp(wrong, other, MouseButton::Right, true);
+    EXPECT_EQ(std::tuple(g.MoveLog().back().LogDigit, g.MoveLog().back().LogOwnMarks),
+              std::tuple(-wrong, DigitBit(wrong)));
+    for (int d = 1; d <= 9; ++d)
+        if (g.board().Has(d, other)) g.MarkMouseUp(d, other, MouseButton::Right, true);
+    EXPECT_EQ(std::tuple(g.board().Candidates[other], g.board().CurrentGrid[other]),
+              std::tuple(0, 0));
 }
 
 TEST_F(Input, PencilmarksOffMattersOnlyBelowLevelFour) {
@@ -59,21 +70,6 @@ TEST_F(Input, PencilmarksOffMattersOnlyBelowLevelFour) {
             peersChanged += before[peer] != g.board().Candidates[peer];
         EXPECT_EQ(peersChanged > 0, !below) << "level " << level;
     }
-}
-
-TEST_F(Input, TakingAMarkAwayAndTheOnlyMarkLeft) {
-    Game& g = Playing(6);
-    auto [cell, digit] = WrongCandidate();
-    ASSERT_GE(cell, 0);
-    g.MarkMouseUp(digit, cell, MouseButton::Right, true);
-    EXPECT_FALSE(g.board().Has(digit, cell));
-    EXPECT_EQ(std::tuple(g.MoveLog().back().LogDigit, g.MoveLog().back().LogOwnMarks),
-              std::tuple(-digit, DigitBit(digit)));
-    // Take every mark: the cell may end with none at all.
-    for (int d = 1; d <= 9; ++d)
-        if (g.board().Has(d, cell)) g.MarkMouseUp(d, cell, MouseButton::Right, true);
-    EXPECT_EQ(std::tuple(g.board().Candidates[cell], g.board().CurrentGrid[cell]),
-              std::tuple(0, 0));
 }
 
 TEST_F(Input, UndoRedoRestoreExactlyWhateverTheOptionsSayNow) {
@@ -116,9 +112,9 @@ TEST_F(Input, UndoRedoRestoreExactlyWhateverTheOptionsSayNow) {
     g.CommandUndo();
     prompter.shown.clear();
     g.CommandSave();
-    EXPECT_EQ(prompter.Texts(),
-              std::vector<std::string>{
-                  "You cannot save a sudoku that hasn't been changed since it was opened !"});
+    EXPECT_EQ(prompter.Last(),
+              TitleText("Sudoku not in progress",
+                        "You cannot save a sudoku that hasn't been changed since it was opened !"));
 }
 
 TEST_F(Input, ResetCellAndItsUndo) {
@@ -191,7 +187,7 @@ TEST_F(Input, BrushesPaintAndDoNotPlay) {
     g.RowHeaderUp(8, MouseButton::Right, true);
     for (int c = 72; c < 81; ++c)
         EXPECT_EQ(g.CellPaint(c), options.colors.LabelBack[7]);
-    EXPECT_EQ(g.SelectedRow, kNoLine);
+    EXPECT_EQ(g.SelectedRow(), kNoLine);
     // The left brush moves to label 7: the right one drops.
     g.PaletteUp(7, MouseButton::Left, true);
     EXPECT_FALSE(g.brush().RightBrush);
@@ -202,22 +198,6 @@ TEST_F(Input, BrushesPaintAndDoNotPlay) {
     EXPECT_FALSE(g.brush().BrushActive);
     g.MarkMouseUp(digit, cell, MouseButton::Left, true);
     EXPECT_EQ(g.board().CurrentGrid[cell], digit);
-}
-
-TEST_F(Input, HoverOnlyWithDimmedMarks) {
-    Game& g = Playing(2);
-    g.MarkMouseMove(3, 10);
-    EXPECT_EQ(g.HoverCell, kNoHover);
-    options.Dimmed = true;
-    g.MarkMouseMove(0, 81);  // off the board: no mark is hovered
-    EXPECT_EQ(g.HoverCell, kNoHover);
-    EXPECT_TRUE(g.MarkDimmed(2, 0));
-    g.MarkMouseMove(3, 10);
-    EXPECT_EQ(g.HoverCell, 2 * 81 + 10);
-    EXPECT_FALSE(g.MarkDimmed(3, 10));
-    EXPECT_TRUE(g.MarkDimmed(4, 10));
-    g.GridMouseMove();
-    EXPECT_EQ(g.HoverCell, kNoHover);
 }
 
 TEST_F(Input, TheWindowHearsWhatChangedAndOnlyThat) {
@@ -234,6 +214,16 @@ TEST_F(Input, TheWindowHearsWhatChangedAndOnlyThat) {
     EXPECT_EQ(heard, (std::vector<unsigned>{
                          kChangeClock, kChangeBoard | kChangeTexts | kChangeCommands | kChangeWells,
                          kChangeBrush}));
+    EXPECT_EQ(g.HoverCell(), kNoHover);
+    // With dimmed marks the mark under the pointer is lit; off the board none is.
+    options.Dimmed = true;
+    g.MarkMouseMove(0, 81);
+    EXPECT_EQ(g.HoverCell(), kNoHover);
+    g.MarkMouseMove(3, 10);
+    EXPECT_EQ(g.HoverCell(), 2 * 81 + 10);
+    EXPECT_EQ(std::pair(g.MarkDimmed(3, 10), g.MarkDimmed(4, 10)), std::pair(false, true));
+    g.GridMouseMove();
+    EXPECT_EQ(g.HoverCell(), kNoHover);
     // A search tells what it shows while it runs, before the window breathes.
     heard.clear();
     bool toldFirst = false;

@@ -103,13 +103,11 @@ TEST_F(Kept, StepsThatCouldNotHaveBeenPlayedAreDroppedAndTheCluesStay) {
             if (Pick(4) == 0) {
                 log.LogCell[i] = std::int16_t(clues[Pick(int(clues.size()))]);
                 ++spoilt;
-            } else if (log.LogDigit[i] >= 1 && log.LogDigit[i] <= 9 && Pick(3) == 0) {
-                log.LogRowMarks[i] = 511;  // the whole row: a clue lies in it
-                spoilt += std::any_of(clues.begin(), clues.end(),
-                                      [&](int c) { return c / 9 == log.LogCell[i] / 9; });
-                if (!std::any_of(clues.begin(), clues.end(),
-                                 [&](int c) { return c / 9 == log.LogCell[i] / 9; }))
-                    log.LogRowMarks[i] = saved.LogRowMarks[i];
+            } else if (log.LogDigit[i] >= 1 && log.LogDigit[i] <= 9 && Pick(3) == 0 &&
+                       std::any_of(clues.begin(), clues.end(),
+                                   [&](int c) { return c / 9 == log.LogCell[i] / 9; })) {
+                log.LogRowMarks[i] = 511;  // the whole row, and a clue lies in it
+                ++spoilt;
             }
         ASSERT_TRUE(WriteSudokuLogRecord(LogFile(folders.DataFolder, LevelStem(2)), 1, log));
 

@@ -7,6 +7,8 @@ namespace {
 
 using Life = GameFixture;
 
+// The first start informs, makes the log files (first_run_test has how) and
+// leaves nothing open; without a library it can't go on.
 TEST_F(Life, FirstStartWithAnEmptyStore) {
     Game& g = Started();
     EXPECT_EQ(prompter.Texts(), std::vector<std::string>{std::string(
@@ -19,23 +21,14 @@ TEST_F(Life, FirstStartWithAnEmptyStore) {
     EXPECT_FALSE(g.GridEnabled());
     EXPECT_TRUE(g.position().SudokuSolved);
     EXPECT_EQ(g.commands(), CommandStates{});
-    // The library was copied to the data folder, and every puzzle has a log record.
-    for (int level = 1; level <= 9; ++level)
-        EXPECT_EQ(WholeRecords(LogFile(folders.DataFolder, LevelStem(level)), kSudokuLogRecordSize),
-                  kPerLevel);
 
-    // The second start makes nothing and asks nothing.
-    prompter.shown.clear();
-    Started();
-    EXPECT_TRUE(prompter.shown.empty());
-}
-
-TEST_F(Life, AFirstRunWithoutALibraryCannotGoOn) {
+    store = {};
+    std::filesystem::remove_all(folders.DataFolder);
     std::filesystem::remove(PuzzleFile(folders.AppFolder, LevelStem(4)));
+    prompter.shown.clear();
     NewGame();
     EXPECT_FALSE(game->Start());
     EXPECT_EQ(prompter.Texts().back(), "Failed to write sudoku logfiles, program can't continue.");
-    EXPECT_EQ(store.Read("Options", "Logfiles", "False"), "False");
 }
 
 // Plays one step on a New of `level` and leaves through Exit with "Never" saving
@@ -49,51 +42,47 @@ void LeaveBusy(GameFixture& f, Game& g, int level) {
     EXPECT_TRUE(g.CommandExit());
 }
 
-TEST_F(Life, ResumingABusyLevelAnsweredYes) {
-    Game& g = Started();
-    LeaveBusy(*this, g, 3);
-    EXPECT_EQ(store.Read("SudokuLevel3", "Busy", ""), "Yes");
-    EXPECT_EQ(store.Read("Sudoku", "Level", ""), "3");
-
-    prompter.shown.clear();
-    prompter.answers = {Answer::Yes};
-    Game& again = Started();
-    EXPECT_EQ(prompter.shown.at(0).title, "Sudoku in progress");
-    EXPECT_EQ(prompter.shown.at(0).text, "Do you want to proceed with the last saved sudoku ?");
-    EXPECT_EQ(again.CurrentStep(), 1);
-    EXPECT_TRUE(again.commands().Undo);
-    EXPECT_TRUE(again.GridEnabled());
-    // The resumed start never sets the window title.
-    EXPECT_EQ(again.Caption(), " - Hard - 1");
-    EXPECT_EQ(again.WindowTitle, "");
-}
-
-// A busy level not resumed, by the player's No or because its record was
-// erased behind the game's back: nothing is open, and the same puzzle is offered
+// A busy level at the next start: resumed on Yes (and the resumed start never
+// sets the window title); not resumed on No, or because its record was erased
+// behind the game's back, when nothing is open and the same puzzle is offered
 // again, its progress still there to carry on from.
-TEST_F(Life, ABusyLevelNotResumedOffersTheSamePuzzleAgain) {
-    for (const bool erased : {false, true}) {
-        const int level = erased ? 5 : 3;
+TEST_F(Life, ABusyLevelIsResumedOrItsPuzzleOfferedAgain) {
+    enum Way { kYes, kNo, kErased };
+    for (const Way way : {kYes, kNo, kErased}) {
+        SCOPED_TRACE(way);
+        const int level = way == kErased ? 5 : 3;
         Game& g = Playing(level);    // record 1, left untouched
         LeaveBusy(*this, g, level);  // record 2
-        ASSERT_EQ(store.Read("SudokuLevel" + std::to_string(level), "Number", ""), "2");
-        if (erased) {
+        EXPECT_EQ(store.Read("SudokuLevel" + std::to_string(level), "Busy", ""), "Yes");
+        EXPECT_EQ(store.Read("Sudoku", "Level", ""), std::to_string(level));
+        if (way == kErased) {
             ASSERT_TRUE(WriteSudokuLogRecord(LogFile(folders.DataFolder, LevelStem(level)), 2, {}));
         }
         prompter.shown.clear();
-        prompter.answers = {erased ? Answer::Yes : Answer::No};
+        prompter.answers = {way == kNo ? Answer::No : Answer::Yes};
         Game& again = Started();
-        EXPECT_EQ(prompter.Showed("Could not open the last saved sudoku"), erased);
-        EXPECT_EQ(again.Caption(), "Tavi Sudoku 1");
-        EXPECT_FALSE(again.GridEnabled());
-        EXPECT_EQ(again.position().PuzzleNumber[level], 1);
-        if (erased) break;
-        prompter.answers = {Answer::Yes};
-        again.CommandNew();
-        EXPECT_EQ(again.CurrentStep(), 1);
-        EXPECT_EQ(again.position().OpenRecord, 2);
-        EXPECT_EQ(prompter.shown.back().text,
-                  "Puzzle is already worked on. Carry on from its present state ?");
+        EXPECT_EQ(
+            prompter.Box(0),
+            TitleText("Sudoku in progress", "Do you want to proceed with the last saved sudoku ?"));
+        EXPECT_EQ(prompter.Showed("Could not open the last saved sudoku"), way == kErased);
+        EXPECT_EQ(again.GridEnabled(), way == kYes);
+        if (way == kYes) {
+            EXPECT_EQ(again.CurrentStep(), 1);
+            EXPECT_TRUE(again.commands().Undo);
+            EXPECT_EQ(again.Caption(), " - Hard - 2");
+            EXPECT_EQ(again.WindowTitle(), "");
+        } else {
+            EXPECT_EQ(again.Caption(), "Tavi Sudoku 1");
+            EXPECT_EQ(again.position().PuzzleNumber[level], 1);
+        }
+        if (way == kNo) {
+            prompter.answers = {Answer::Yes};
+            again.CommandNew();
+            EXPECT_EQ(again.CurrentStep(), 1);
+            EXPECT_EQ(again.position().OpenRecord, 2);
+            EXPECT_EQ(prompter.shown.back().text,
+                      "Puzzle is already worked on. Carry on from its present state ?");
+        }
         std::filesystem::remove_all(folders.DataFolder);  // a fresh library for the next case
         store = {};
     }
@@ -101,6 +90,7 @@ TEST_F(Life, ABusyLevelNotResumedOffersTheSamePuzzleAgain) {
 
 struct ExitCase {
     const char* name;
+    bool close;  // the window's close box rather than Exit
     bool autoSave, askSave;
     std::vector<Answer> answers;
     bool ends;
@@ -117,7 +107,7 @@ TEST_P(ExitPaths, AskAndSaveAsTheOptionsSay) {
     options.AskSave = c.askSave;
     PlaceOne();
     prompter.answers.assign(c.answers.begin(), c.answers.end());
-    EXPECT_EQ(g.CommandExit(), c.ends);
+    EXPECT_EQ(c.close ? g.QueryUnload() : g.CommandExit(), c.ends);
     EXPECT_TRUE(prompter.answers.empty());
     EXPECT_EQ(LogOf(1, 1).StepCount, c.saved ? 1 : 0);
     if (c.ends) {
@@ -128,37 +118,18 @@ TEST_P(ExitPaths, AskAndSaveAsTheOptionsSay) {
 
 INSTANTIATE_TEST_SUITE_P(
     Game, ExitPaths,
-    ::testing::Values(ExitCase{"AllwaysYes", true, true, {Answer::Yes}, true, true, "Yes"},
-                      ExitCase{"AllwaysNo", true, true, {Answer::No}, false, false, ""},
-                      ExitCase{"AskYes", false, true, {Answer::Yes}, true, true, "Yes"},
-                      ExitCase{"AskNo", false, true, {Answer::No}, true, false, "No"},
-                      ExitCase{"AskCancel", false, true, {Answer::Cancel}, false, false, ""},
-                      ExitCase{"NeverYes", false, false, {Answer::Yes}, true, false, "No"},
-                      ExitCase{"NeverNo", false, false, {Answer::No}, false, false, ""}),
+    ::testing::Values(ExitCase{"AllwaysYes", false, true, true, {Answer::Yes}, true, true, "Yes"},
+                      ExitCase{"AllwaysNo", false, true, true, {Answer::No}, false, false, ""},
+                      ExitCase{"AskYes", false, false, true, {Answer::Yes}, true, true, "Yes"},
+                      ExitCase{"AskNo", false, false, true, {Answer::No}, true, false, "No"},
+                      ExitCase{"AskCancel", false, false, true, {Answer::Cancel}, false, false, ""},
+                      ExitCase{"NeverYes", false, false, false, {Answer::Yes}, true, false, "No"},
+                      ExitCase{"NeverNo", false, false, false, {Answer::No}, false, false, ""},
+                      // The close box with neither option asks to save.
+                      ExitCase{
+                          "CloseCancel", true, false, false, {Answer::Cancel}, false, false, ""},
+                      ExitCase{"CloseYes", true, false, false, {Answer::Yes}, true, true, "Yes"}),
     [](const auto& param) { return std::string(param.param.name); });
-
-TEST_F(Life, ClosingTheWindowWithNeitherOptionAsksToSave) {
-    Game& g = Playing(1);
-    options.AutoSave = options.AskSave = false;
-    PlaceOne();
-    prompter.answers = {Answer::Cancel};
-    EXPECT_FALSE(g.QueryUnload());
-    EXPECT_EQ(prompter.shown.back().buttons, Buttons::YesNoCancel);
-    prompter.answers = {Answer::Yes};
-    EXPECT_TRUE(g.QueryUnload());
-    EXPECT_EQ(LogOf(1, 1).StepCount, 1);
-    EXPECT_EQ(store.Read("SudokuLevel1", "Busy", ""), "Yes");
-}
-
-TEST_F(Life, AnUntouchedPuzzleIsOfferedAgain) {
-    Game& g = Playing(2);
-    prompter.answers = {Answer::Yes};
-    ASSERT_TRUE(g.CommandExit());
-    EXPECT_EQ(store.Read("SudokuLevel2", "Number", ""), "0");
-    Game& again = Started();
-    again.CommandNew();
-    EXPECT_EQ(again.position().OpenRecord, 1);
-}
 
 }  // namespace
 }  // namespace tavi::testing

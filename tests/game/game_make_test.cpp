@@ -106,7 +106,7 @@ TEST_F(Make, EveryWayOutOfValidateThatStoresNothing) {
         EXPECT_EQ(prompter.Texts(), k.said);
         EXPECT_TRUE(prompter.answers.empty());
         EXPECT_EQ(AllRecords(), before);
-        EXPECT_EQ(g.MakeMode, k.stillMaking);
+        EXPECT_EQ(g.MakeMode(), k.stillMaking);
         if (k.stillMaking) {
             // The clues stand as entered, with the marks they leave.
             EXPECT_EQ(g.board().CurrentGrid, entered);
@@ -145,7 +145,7 @@ TEST_F(Make, AHardPuzzleClickedInEndsAsTheLastRecordOfTheHardPairAfterAFailedWri
     ASSERT_EQ(prompter.shown.size(), 1u);
     EXPECT_EQ(prompter.shown[0].title, "File Error");
     EXPECT_EQ(Records(3), count);
-    EXPECT_TRUE(g.MakeMode);
+    EXPECT_TRUE(g.MakeMode());
     EXPECT_EQ(g.board().CurrentGrid, puzzle);
 
     std::filesystem::remove(log);
@@ -227,11 +227,14 @@ TEST_F(Make, CluesFromTypedTextAndDroppedFiles) {
     }
 }
 
+// Make shows nothing of the game before: another board, the plain caption,
+// empty wells.
 TEST_F(Make, TheWayInAsksAboutTheGameAndLeavesOnlyTheBoardAndValidate) {
     Game& g = Playing(1);
     options.AutoSave = false;
     options.AskSave = true;
     PlaceOne();
+    const int generation = g.Generation();
     prompter.shown.clear();
     prompter.answers = {Answer::No, Answer::No};
     g.CommandMake();
@@ -242,11 +245,16 @@ TEST_F(Make, TheWayInAsksAboutTheGameAndLeavesOnlyTheBoardAndValidate) {
     making.Scan = false;
     making.MakeCaption = "Validate";
     EXPECT_EQ(g.commands(), making);
-    EXPECT_TRUE(g.MakeMode);
+    EXPECT_TRUE(g.MakeMode());
     EXPECT_TRUE(g.GridEnabled());
     EXPECT_EQ(g.board().CurrentGrid, Digits{});
     EXPECT_EQ(g.SudTekst(), kMakePrompt);
     EXPECT_EQ(g.LabelTijd(), "");
+    EXPECT_EQ(g.Caption(), "Tavi Sudoku 1");
+    EXPECT_GT(g.Generation(), generation);
+    for (int d = 1; d <= 9; ++d)
+        for (int b = 0; b < 9; ++b)
+            EXPECT_FALSE(g.WellFilled(d, b));
     // The palette and the digit filter are dead.
     g.PaletteUp(0, MouseButton::Left, true);
     g.DigitButtonUp(5, MouseButton::Left, true);

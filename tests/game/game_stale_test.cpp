@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Nothing stale on the board: a hint's colours, its text and the headers it
-// picked go with the action that made the hint false, and stay while it holds;
-// Make shows nothing of the game before.
+// picked go with the action that made the hint false, and stay while it holds.
 #include "support/game_fixture.h"
 
 namespace tavi::testing {
@@ -18,7 +17,7 @@ class Stale : public GameFixture {
         return false;
     }
     bool HeadersPicked() const {
-        return game->SelectedRow != kNoLine || game->SelectedColumn != kNoLine;
+        return game->SelectedRow() != kNoLine || game->SelectedColumn() != kNoLine;
     }
     // Whether `k` is done on the board.
     bool Done(const Conclusion& k) const {
@@ -39,7 +38,7 @@ TEST_F(Stale, AWrongDigitsReportGoesWithTheDigitAndStaysWhileItHolds) {
     const std::string report = g.TextHint();
     EXPECT_EQ(report, "Incorrect number (" + std::to_string(wrong) + ") at cell " + CellName(cell) +
                           " - Use [Undo] or [Reset Cell]");
-    EXPECT_EQ(std::pair(g.SelectedRow, g.SelectedColumn), std::pair(cell / 9, cell % 9));
+    EXPECT_EQ(std::pair(g.SelectedRow(), g.SelectedColumn()), std::pair(cell / 9, cell % 9));
     EXPECT_EQ(g.CellPaint(cell), options.colors.HintColor[kAttackedCell]);
     EXPECT_EQ(g.ClockSeconds(), 10);
     // A step elsewhere leaves the report true: it stays.
@@ -139,19 +138,6 @@ TEST_F(Stale, ATechniqueHintStaysUntilItsLastConclusionIsDone) {
         EXPECT_GT(hints, 5) << level;
     }
     EXPECT_GT(partial, 0);
-}
-
-TEST_F(Stale, MakeShowsNothingOfTheGameBefore) {
-    Game& g = Playing(4);
-    PlaceOne();
-    ASSERT_NE(g.Caption(), "Tavi Sudoku 1");
-    const int generation = g.Generation();
-    g.CommandMake();
-    EXPECT_EQ(g.Caption(), "Tavi Sudoku 1");
-    EXPECT_GT(g.Generation(), generation);
-    for (int d = 1; d <= 9; ++d)
-        for (int b = 0; b < 9; ++b)
-            EXPECT_FALSE(g.WellFilled(d, b));
 }
 
 }  // namespace

@@ -13,8 +13,6 @@
 namespace tavi {
 namespace {
 
-using testing::RecordingNotifier;
-
 // A generated puzzle that the ladder rates `level`, from the test corpus.
 const GeneratedPuzzle* PuzzleRated(int level) {
     for (const auto& p : testing::GeneratedPuzzles(400)) {
@@ -24,32 +22,22 @@ const GeneratedPuzzle* PuzzleRated(int level) {
     return nullptr;
 }
 
-TEST(WorkbenchLadder, SpeaksAtASolvedBoardUnlessABatchRuns) {
+// The run says how it ended, whatever kind of run it is; its caller speaks.
+TEST(WorkbenchLadder, TellsItsOutcomeInEveryKindOfRun) {
     const GeneratedPuzzle* p = PuzzleRated(1);
     ASSERT_NE(p, nullptr);
-    struct Case {
-        bool import, check;
-        int beeps;
-        bool said;
-    } cases[] = {{false, false, 1, true},
-                 {false, true, 1, false},
-                 {true, false, 0, false},
-                 {true, true, 0, false}};
-    const std::vector<testing::TitleText> solved = {
-        {"Sudoku solved", "Sudoku solved and rated as Easy"}};
-    for (const Case& c : cases) {
-        RecordingNotifier notifier;
-        SolveContext ctx = testing::ContextOn(BoardFromPuzzle(p->puzzle));
-        WorkbenchRun run;
-        run.ImportRunning = c.import;
-        run.CheckRunning = c.check;
-        run.notifier = &notifier;
-        EXPECT_TRUE(SolveSudoku(ctx, run));
-        EXPECT_EQ(ctx.SolvingLevel, 1);
-        EXPECT_EQ(ctx.board.CurrentGrid, p->solution);
-        EXPECT_EQ(notifier.beeps, c.beeps);
-        EXPECT_EQ(notifier.messages, c.said ? solved : std::vector<testing::TitleText>{});
-    }
+    for (const bool import : {false, true})
+        for (const bool check : {false, true}) {
+            SolveContext ctx = testing::ContextOn(BoardFromPuzzle(p->puzzle));
+            WorkbenchRun run;
+            run.ImportRunning = import;
+            run.CheckRunning = check;
+            const SolveOutcome outcome = SolveSudoku(ctx, run);
+            EXPECT_EQ(std::tuple(outcome.solved, outcome.full, outcome.level),
+                      std::tuple(true, true, 1));
+            EXPECT_EQ(ctx.SolvingLevel, 1);
+            EXPECT_EQ(ctx.board.CurrentGrid, p->solution);
+        }
 }
 
 TEST(WorkbenchLadder, ReportsProgressOnlyDuringABatch) {
@@ -83,15 +71,13 @@ TEST(WorkbenchLadder, ReportsProgressOnlyDuringABatch) {
 
 TEST(WorkbenchLadder, FullBoardAndContradictions) {
     const auto& p = testing::GeneratedPuzzles(1)[0];
-    RecordingNotifier notifier;
     WorkbenchRun run;
-    run.notifier = &notifier;
 
-    // All 81 given: nothing to find, no level, no message.
+    // All 81 given: nothing to find, no level; the board is full, so its caller
+    // beeps, but has no rating to say.
     SolveContext full = testing::ContextOn(BoardFromPuzzle(p.solution));
-    EXPECT_FALSE(SolveSudoku(full, run));
-    EXPECT_EQ(full.SolvingLevel, 0);
-    EXPECT_TRUE(notifier.messages.empty());
+    const SolveOutcome given = SolveSudoku(full, run);
+    EXPECT_EQ(std::tuple(given.solved, given.full, given.level), std::tuple(false, true, 0));
 
     // A cell with no candidate left ends the run at once.
     SolveContext broken = testing::ContextOn(BoardFromPuzzle(p.puzzle));
@@ -109,9 +95,8 @@ TEST(WorkbenchLadder, FullBoardAndContradictions) {
 
     // Two equal givens that see each other have no solution, whatever the candidates say.
     SolveContext clash = testing::ContextOn(BoardFromPuzzle(testing::WithClash(p.puzzle)));
-    EXPECT_FALSE(SolveSudoku(clash, run));
-    EXPECT_FALSE(SolveSudokuGame(clash, &notifier));
-    EXPECT_TRUE(notifier.messages.empty());
+    EXPECT_FALSE(SolveSudoku(clash, run).full);
+    EXPECT_FALSE(SolveSudokuGame(clash).full);
 }
 
 // The uniqueness rungs rest on a puzzle having one solution. On one with two they
@@ -121,7 +106,7 @@ TEST(WorkbenchLadder, EndsOnAPuzzleWithTwoSolutions) {
     const Digits twoSolutions = testing::DigitsOf(
         "000040190004000208200050000049000001010090076003000000000019800075400000100070500");
     SolveContext ctx = testing::ContextOn(BoardFromPuzzle(twoSolutions));
-    const bool solved = SolveSudoku(ctx, WorkbenchRun{});
+    const bool solved = SolveSudoku(ctx, WorkbenchRun{}).solved;
     for (int u = 0; u < 27; ++u) {
         CandidateMask seen = 0;
         for (int c : UnitCells[u]) {
@@ -146,7 +131,7 @@ TEST(WorkbenchLadder, FollowsTheTechniqueOrder) {
         SolveContext ctx = testing::ContextOn(BoardFromPuzzle(puzzle));
         WorkbenchRun run;
         run.order = &order;
-        const bool ok = SolveSudoku(ctx, run);
+        const bool ok = SolveSudoku(ctx, run).solved;
         return ok ? ctx.SolvingLevel : 9;
     };
     TechniqueOrder order = DefaultTechniqueOrder();

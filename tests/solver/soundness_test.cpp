@@ -54,7 +54,7 @@ TEST(Soundness, TheWorkbenchLadderNeverLosesTheSolution) {
             const std::string fault = FaultAgainst(ctx.board, p.solution);
             if (!fault.empty()) failure = Describe(p, rung, step, fault);
         };
-        const bool ok = SolveSudoku(ctx, run);
+        const bool ok = SolveSudoku(ctx, run).solved;
         ASSERT_EQ(failure, "");
         if (ok) {
             ++solved;
@@ -80,7 +80,7 @@ TEST(Soundness, TheGameLadderNeverLosesTheSolution) {
             const std::string fault = FaultAgainst(ctx.board, p.solution);
             if (failure.empty() && !fault.empty()) failure = Describe(p, rung, step, fault);
         };
-        if (SolveSudokuGame(ctx, nullptr, observer)) {
+        if (SolveSudokuGame(ctx, observer)) {
             ASSERT_EQ(ctx.board.CurrentGrid, p.solution);
         }
         ASSERT_EQ(failure, "");

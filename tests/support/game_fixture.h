@@ -176,8 +176,8 @@ class GameFixture : public ::testing::Test {
     }
     // Picks `cell` by its row and column headers (a header already picked stays).
     void Select(int cell) {
-        if (game->SelectedRow != cell / 9) game->RowHeaderUp(cell / 9, MouseButton::Left, true);
-        if (game->SelectedColumn != cell % 9)
+        if (game->SelectedRow() != cell / 9) game->RowHeaderUp(cell / 9, MouseButton::Left, true);
+        if (game->SelectedColumn() != cell % 9)
             game->ColumnHeaderUp(cell % 9, MouseButton::Left, true);
     }
     // Places the right digit in the first open cell.

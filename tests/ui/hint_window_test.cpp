@@ -209,13 +209,13 @@ TEST_F(HintWindowInGame, AnotherGameReplacesTheCopyOfTheOneBeforeOnTheScreen) {
     for (const char* command : {"CommandNew", "CommandMake", "CommandMake"}) {
         hints->ShowHint();  // a copy of the board as it is before the command
         const HintSnapshot before = hints->Snapshot();
-        if (std::string_view(command) == "CommandMake" && game->MakeMode)
+        if (std::string_view(command) == "CommandMake" && game->MakeMode())
             prompter.answers = {Answer::Yes};  // Validate an empty entry: abort it
         Press(command);
         EXPECT_EQ(hints->windowTitle(), "Main Duplicate") << command;
         EXPECT_EQ(hints->Snapshot(), SnapshotOf(*game)) << command;
         // An empty entry ends on an empty board, as it began.
-        if (!game->MakeMode && std::string_view(command) == "CommandMake") continue;
+        if (!game->MakeMode() && std::string_view(command) == "CommandMake") continue;
         EXPECT_NE(hints->Snapshot(), before) << command;
     }
 }

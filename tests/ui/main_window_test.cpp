@@ -136,8 +136,8 @@ TEST_F(MainWindowTest, HeadersPickACellForResetCellAndThePickedHeaderIsRed) {
     const BoardGeometry& at = Board()->Layout();
     QTest::mouseClick(Board(), Qt::LeftButton, {}, at.RowHeaderRect(cell / 9).center());
     QTest::mouseClick(Board(), Qt::LeftButton, {}, at.ColumnHeaderRect(cell % 9).center());
-    EXPECT_EQ(game->SelectedRow, cell / 9);
-    EXPECT_EQ(game->SelectedColumn, cell % 9);
+    EXPECT_EQ(game->SelectedRow(), cell / 9);
+    EXPECT_EQ(game->SelectedColumn(), cell % 9);
     auto redIn = [](const QImage& image, const QRect& r) {
         return CountIn(image, r, [](QRgb p) { return qRed(p) > 180 && qGreen(p) < 90; });
     };
@@ -150,7 +150,7 @@ TEST_F(MainWindowTest, HeadersPickACellForResetCellAndThePickedHeaderIsRed) {
     EXPECT_EQ(game->MoveLog().back().LogDigit, 10 + digit);
     // A second click on the red header lets go of the row.
     QTest::mouseClick(Board(), Qt::LeftButton, {}, at.RowHeaderRect(cell / 9).center());
-    EXPECT_EQ(game->SelectedRow, kNoLine);
+    EXPECT_EQ(game->SelectedRow(), kNoLine);
     EXPECT_EQ(redIn(BoardImage(), at.RowHeaderRect(cell / 9)), 0);
 }
 

@@ -226,7 +226,9 @@ TEST_F(WorkbenchTest, SolveRatesInPlaceOrMovesAndDeleteOfTheOnlyRecordLeavesNoFi
     Add(1, Broken(0));
     Add(1, other[0]);
     Open(1).CommandSolve();
-    EXPECT_TRUE(prompter.Showed("Sudoku solved and rated as Easy"));
+    EXPECT_EQ(prompter.Last(),
+              testing::TitleText("Sudoku solved", "Sudoku solved and rated as Easy"));
+    EXPECT_EQ(prompter.beeps, 1);
     EXPECT_EQ(Count(1), 3);
     bench.CommandNext();
     bench.CommandSolve();
@@ -245,13 +247,44 @@ TEST_F(WorkbenchTest, SolveRatesInPlaceOrMovesAndDeleteOfTheOnlyRecordLeavesNoFi
     EXPECT_FALSE(bench.commands().Delete);
 }
 
+// The window hears what each command changed, compared with what it showed, and
+// nothing of a command that changed nothing.
+TEST_F(WorkbenchTest, TheWindowHearsWhatChangedAndOnlyThat) {
+    for (int i = 0; i < 3; ++i)
+        Add(2, other[i]);
+    std::vector<unsigned> heard;
+    bench.SetEvents([&](Changes c) { heard.push_back(c.bits); });
+    Open(2);
+    bench.CommandPrevious();  // at the first record: nothing to do
+    bench.CommandNext();
+    bench.CommandNext();   // the last one: Next and Last go off
+    bench.CommandAbort();  // no run
+    EXPECT_EQ(heard,
+              (std::vector<unsigned>{kWorkbenchTitle | kWorkbenchCommands | kWorkbenchRecord,
+                                     kWorkbenchTitle | kWorkbenchRecord | kWorkbenchCommands,
+                                     kWorkbenchTitle | kWorkbenchRecord | kWorkbenchCommands}));
+    // A run tells its progress as it breathes, the table of hardest techniques
+    // as it fills, and the frame gone at its end.
+    heard.clear();
+    bench.SetRedrawEvery(std::chrono::milliseconds(0));
+    bench.CommandCheckAll();
+    ASSERT_GE(heard.size(), 3u);
+    EXPECT_EQ(heard.front(), kWorkbenchProgress | kWorkbenchCommands);
+    EXPECT_TRUE(
+        std::any_of(heard.begin(), heard.end(), [](unsigned c) { return c & kWorkbenchReport; }));
+    EXPECT_TRUE(Changes{heard.back()}.Has(kWorkbenchProgress | kWorkbenchCommands));
+}
+
+// Remove Duplicates keeps the first of each group, and passes over damaged
+// records: they stay as they stood, and are no duplicate of anything.
 TEST_F(WorkbenchTest, BruteForceAnswersAndRemoveDuplicatesKeepsTheFirst) {
     GeneratedPuzzle two = easy[1];
     two.solution = Digits{};  // a record without its solution gets it back
-    Add(2, two);
-    Add(2, easy[2]);
-    Add(2, easy[1]);
-    Add(2, easy[1]);
+    for (const auto* p : {&two, &easy[2], &easy[1], &easy[1], &easy[2], &easy[1], &easy[2]})
+        Add(2, *p);
+    SudokuRecord bad{easy[1].puzzle, easy[1].solution, 0, 0};
+    bad.BestSeconds = 75;
+    ASSERT_TRUE(WriteSudokuRecord(PuzzleFile(root, LevelStem(2)), 4, bad));
     Open(2).CommandSolve(true, false);
     EXPECT_TRUE(prompter.shown.size() == 1) << "a release outside the button does nothing";
     bench.CommandSolve(true, true);
@@ -259,10 +292,18 @@ TEST_F(WorkbenchTest, BruteForceAnswersAndRemoveDuplicatesKeepsTheFirst) {
               testing::TitleText("Valid Sudoku", "This Sudoku has one unique solution"));
     EXPECT_EQ(At(2, 1).Solution, easy[1].solution);
     bench.CommandRemoveDuplicates();
-    EXPECT_EQ(prompter.shown.back().text, "2 duplicate sudokus removed.");
-    EXPECT_EQ(Count(2), 2);
+    EXPECT_EQ(prompter.shown.back().text,
+              "4 duplicate sudokus removed. 1 damaged records were passed over and left as they "
+              "stand.");
+    ASSERT_EQ(Count(2), 3);
+    EXPECT_EQ(testing::FileBytes(PuzzleFile(root, LevelStem(2))).size(), 3 * kSudokuRecordSize);
+    SudokuRecordBytes bytes;
+    ASSERT_TRUE(ReadRecordBytes(PuzzleFile(root, LevelStem(2)), 3, bytes));
+    EXPECT_EQ(bytes, ToBytes(bad)) << "the damaged one, as it stood";
     bench.CommandRemoveDuplicates();
-    EXPECT_EQ(prompter.shown.back().text, "No duplicate sudokus found.");
+    EXPECT_EQ(prompter.shown.back().text,
+              "No duplicate sudokus found. 1 damaged records were passed over and left as they "
+              "stand.");
 }
 
 TEST_F(WorkbenchTest, ImportRatesChecksAndFilesEachPuzzleByItsLevel) {
@@ -339,26 +380,6 @@ TEST_F(WorkbenchTest, DamagedRecordsAreNamedAndNeverSolvedMovedOrRewritten) {
     EXPECT_EQ(bench.Unreadable(), 15);
 }
 
-TEST_F(WorkbenchTest, RemoveDuplicatesPassesOverDamagedRecords) {
-    for (const auto* p : {&easy[1], &easy[1], &easy[2], &easy[1], &easy[2], &easy[2]})
-        Add(2, *p);
-    SudokuRecord bad{easy[1].puzzle, easy[1].solution, 0, 0};
-    bad.BestSeconds = 75;
-    ASSERT_TRUE(WriteSudokuRecord(PuzzleFile(root, LevelStem(2)), 2, bad));
-    ASSERT_TRUE(WriteSudokuRecord(PuzzleFile(root, LevelStem(2)), 5, bad));
-    Open(2).CommandRemoveDuplicates();
-    EXPECT_EQ(prompter.shown.back().text,
-              "2 duplicate sudokus removed. 2 damaged records were passed over and left as they "
-              "stand.");
-    ASSERT_EQ(Count(2), 4);
-    EXPECT_EQ(testing::FileBytes(PuzzleFile(root, LevelStem(2))).size(), 4 * kSudokuRecordSize);
-    SudokuRecordBytes bytes;
-    for (long n : {2, 4}) {  // the damaged ones, as they stood
-        ASSERT_TRUE(ReadRecordBytes(PuzzleFile(root, LevelStem(2)), n, bytes));
-        EXPECT_EQ(bytes, ToBytes(bad));
-    }
-}
-
 // Moves that fail (here Easy's log is a folder) are said once, in the report,
 // with how many puzzles stay where they were; nothing is lost.
 TEST_F(WorkbenchTest, FailedMovesAreCountedInTheReportNotBoxedOneByOne) {
@@ -409,12 +430,6 @@ TEST_F(WorkbenchTest, AnEmptiedLevelStaysEmptyAndTakesMovesIn) {
     EXPECT_EQ(WholeRecords(LogFile(root, LevelStem(1)), kSudokuLogRecordSize), 2);
     EXPECT_EQ(At(1, 2).Puzzle, easy[1].puzzle);
 }
-
-}  // namespace
-}  // namespace tavi
-
-namespace tavi {
-namespace {
 
 // Export writes the records of a range, '.' for empty cells and the level and
 // score after each, and the import reads the file back as the same puzzles.

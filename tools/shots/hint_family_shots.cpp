@@ -70,10 +70,10 @@ TEST_P(HintFamilies, ShowTheirSentenceAndColours) {
     game->OptionType(5);
     Press("CommandNew");
     ASSERT_EQ(game->board().Puzzle, found->puzzle.puzzle);
-    game->context().board.CurrentGrid = found->state.CurrentGrid;
-    game->context().board.Candidates = found->state.Candidates;
-    game->SetupWells();
-    window->Refresh();  // the board was set behind the game's back
+    tavi::Board position = game->board();
+    position.CurrentGrid = found->state.CurrentGrid;
+    position.Candidates = found->state.Candidates;
+    game->LayPosition(position);
     Press("CommandHint");
     EXPECT_TRUE(game->TextHint().starts_with(family.head)) << game->TextHint();
     int painted = 0;
