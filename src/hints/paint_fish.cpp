@@ -188,14 +188,15 @@ void Skyscraper(HintPainter& p, const HintRecord& h) {
 
 void PaintFish(HintPainter& p, const HintRecord& h) {
     switch (h.HintKind) {
-        case 6:
-        case 7:
-        case 13: Fish(p, h); break;
-        case 8: MultiValueXWing(p, h); break;
-        case 9: EmptyRectangle(p, h); break;
-        case 15: FinnedXWing(p, h); break;
-        case 25: TwoStringKite(p, h); break;
-        case 26: Skyscraper(p, h); break;
+        case HintKind::XWing:
+        case HintKind::Swordfish:
+        case HintKind::Jellyfish: Fish(p, h); break;
+        case HintKind::MultiValueXWing: MultiValueXWing(p, h); break;
+        case HintKind::EmptyRectangle: EmptyRectangle(p, h); break;
+        case HintKind::FinnedXWing: FinnedXWing(p, h); break;
+        case HintKind::TwoStringKite: TwoStringKite(p, h); break;
+        case HintKind::Skyscraper: Skyscraper(p, h); break;
+        default: break;  // not a kind of this family
     }
 }
 

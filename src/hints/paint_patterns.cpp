@@ -129,14 +129,15 @@ void Rectangle(HintPainter& p, const HintRecord& h) {
 
 void PaintPattern(HintPainter& p, const HintRecord& h) {
     switch (h.HintKind) {
-        case 10: Wing(p, h, 3, false); break;
-        case 11: Wing(p, h, 3, true); break;
-        case 14: WXYZWing(p, h); break;
-        case 16: Exclusion(p, h, 2); break;
-        case 17: Exclusion(p, h, 3); break;
-        case 27: SueDeCoq(p, h); break;
-        case 29:
-        case 30: Rectangle(p, h); break;
+        case HintKind::XYWing: Wing(p, h, 3, false); break;
+        case HintKind::XYZWing: Wing(p, h, 3, true); break;
+        case HintKind::WXYZWing: WXYZWing(p, h); break;
+        case HintKind::AlignedPairExclusion: Exclusion(p, h, 2); break;
+        case HintKind::AlignedTripleExclusion: Exclusion(p, h, 3); break;
+        case HintKind::SueDeCoq: SueDeCoq(p, h); break;
+        case HintKind::UniqueRectangle:
+        case HintKind::AvoidableRectangle: Rectangle(p, h); break;
+        default: break;  // not a kind of this family
     }
 }
 

@@ -37,7 +37,7 @@ bool Bifurcation(SolveContext& ctx) {
             if (ctx.HintOnly()) {
                 ctx.hint.HintCell = cell;
                 ctx.hint.HintNumber = digit;
-                ctx.hint.HintKind = 20;
+                ctx.hint.HintKind = HintKind::Bifurcation;
                 PlaceDigit(ctx, digit, cell);
                 return true;
             }

@@ -38,8 +38,8 @@ TEST(PaintHint, ASingleIsItsCellAndDigitAfterTheErase) {
 
 TEST(PaintHint, NothingOutsideTheKinds) {
     const Board board = OpenBoard();
-    EXPECT_TRUE(PaintHint(Record(0), board).empty());
-    EXPECT_TRUE(PaintHint(Record(38), board).empty());
+    EXPECT_TRUE(PaintHint(Record(HintKind::None), board).empty());
+    EXPECT_TRUE(PaintHint(Record(HintKind(38)), board).empty());
 }
 
 TEST(PaintHint, APointingPairNeverMarksACandidateThatIsNotThere) {
@@ -108,7 +108,7 @@ TEST(PaintHint, LoopsAndRectanglesSwapTheRolesOfCellAndDigit) {
     // The weak links A5 - E5 and E1 - A1 run in columns 5 and 1: the rest of each
     // loses the digit, and so does A5 itself, were it the hit's conclusion: a
     // removal shows as one whatever else the cell is.
-    Record loop = Record(28).variant(1).number(2).cells({0, 4, 40, 36, 0});
+    Record loop = Record(HintKind::NiceLoop).variant(1).number(2).cells({0, 4, 40, 36, 0});
     for (int c : {9, 13, 18, 22, 27, 31, 45, 49, 54, 58, 63, 67, 72, 76})
         loop.removed(c, 2);
     const PaintedBoard cycle(PaintHint(loop, board));
@@ -123,9 +123,12 @@ TEST(PaintHint, LoopsAndRectanglesSwapTheRolesOfCellAndDigit) {
     const PaintedBoard onLoop(PaintHint(Record(loop).removed(4, 2), board));
     EXPECT_EQ(onLoop.digit[4][2], kAttackedCandidates) << "A5 loses its digit";
 
-    const PaintedBoard weak(PaintHint(
-        Record(31).variant(3).cells({0, 4, 4, 40, 36}).values({3, 3, 6, 6, 3}).removed(36, 3),
-        board));
+    const PaintedBoard weak(PaintHint(Record(HintKind::AIC)
+                                          .variant(3)
+                                          .cells({0, 4, 4, 40, 36})
+                                          .values({3, 3, 6, 6, 3})
+                                          .removed(36, 3),
+                                      board));
     EXPECT_EQ(weak.digit[4][3], kAttackingCell);
     EXPECT_EQ(weak.digit[4][6], kAttackingCell);
     EXPECT_EQ(weak.cell[36], kAttackedCell) << "the far end loses its digit";
@@ -135,9 +138,13 @@ TEST(PaintHint, LoopsAndRectanglesSwapTheRolesOfCellAndDigit) {
     for (int c : {10, 13, 64})
         SetCandidates(rectangle, c, {1, 9});
     SetCandidates(rectangle, 67, {1, 4, 9});
-    const PaintedBoard type1(PaintHint(
-        Record(29).variant(1).values({1, 9}).cells({10, 13, 64, 67}).removed(67, 1).removed(67, 9),
-        rectangle));
+    const PaintedBoard type1(PaintHint(Record(HintKind::UniqueRectangle)
+                                           .variant(1)
+                                           .values({1, 9})
+                                           .cells({10, 13, 64, 67})
+                                           .removed(67, 1)
+                                           .removed(67, 9),
+                                       rectangle));
     for (int c : {10, 13, 64}) {
         EXPECT_EQ(type1.cell[c], kAttackingCandidates);
         EXPECT_EQ(type1.digit[c][1], kAttackingCell);
@@ -151,9 +158,9 @@ TEST(PaintHint, ToleratesRecordsOfStaleMarks) {
     // whatever they hold, painting and writing stay within the board.
     const Board board = OpenBoard();
     for (int mark : {-99, 0, 500}) {
-        for (int kind = 1; kind <= 37; ++kind) {
+        for (int kind = 1; kind <= kHintKindCount; ++kind) {
             HintRecord h = testing::MarkedHint(mark);
-            h.HintKind = kind;
+            h.HintKind = HintKind(kind);
             const auto paints = PaintHint(h, board);
             ASSERT_FALSE(paints.empty());
             EXPECT_EQ(paints.front().what, HintPaint::Erase);

@@ -16,7 +16,7 @@ namespace tavi::testing {
 
 class Record {
   public:
-    explicit Record(int kind) : h_(MarkedHint()) { h_.HintKind = kind; }
+    explicit Record(HintKind kind) : h_(MarkedHint()) { h_.HintKind = kind; }
 
     Record& variant(int v) { return h_.HintVariant = v, *this; }
     Record& row(int v) { return h_.HintRow = v, *this; }

@@ -21,7 +21,7 @@ TEST(SchrijfHint, AlsListsExactlyTheRemovalsOfTheHit) {
     SetCandidates(bivalue, 0, {1, 2});
     SetCandidates(bivalue, 10, {1, 3});
     SetCandidates(bivalue, 20, {2, 3});
-    const Record single = Record(32)
+    const Record single = Record(HintKind::BiValueALSxz)
                               .cell(0)
                               .number(1)
                               .variant(2)
@@ -48,7 +48,7 @@ TEST(SchrijfHint, AlsListsExactlyTheRemovalsOfTheHit) {
     SetCandidates(sets, 1, {2, 3});
     SetCandidates(sets, 36, {1, 3});
     SetCandidates(sets, 37, {3, 4});
-    ExpectSentences({{Record(33)
+    ExpectSentences({{Record(HintKind::ALSxz)
                           .number(1)
                           .variant(3)
                           .row(0)
@@ -66,7 +66,13 @@ TEST(SchrijfHint, AlsListsExactlyTheRemovalsOfTheHit) {
 // shown one, so its sentence is held here.
 TEST(SchrijfHint, ForcingFromAUnitThatPlacesADigit) {
     ExpectSentences({
-        {Record(36).variant(2).column(0).cell(80).number(2).cellCount(7).valueCount(3),
+        {Record(HintKind::ForcingChainFromUnit)
+             .variant(2)
+             .column(0)
+             .cell(80)
+             .number(2)
+             .cellCount(7)
+             .valueCount(3),
          "Forcing Chain : Whatever candidate 7 is true for column 1, candidate 2 will allways be "
          "true for cell J9. Therefore all other candidates can be removed from that cell."},
     });
@@ -74,11 +80,13 @@ TEST(SchrijfHint, ForcingFromAUnitThatPlacesADigit) {
 
 TEST(SchrijfHint, WritesNothingOutsideTheKindsAndStopsAtAnUnknownForm) {
     ExpectSentences({
-        {Record(0), ""},
-        {Record(38), ""},
-        {Record(2).number(5).row(4).column(4).variant(4), "HIDDEN SINGLE: Since number 5"},
-        {Record(5).variant(-1).row(0).cells({0, 1, 2, 3}).values({1, 2, 3, 4}), ""},
-        {Record(36).variant(0).cellCount(7), "Forcing Chain : Whatever candidate 7"},
+        {Record(HintKind::None), ""},
+        {Record(HintKind(38)), ""},
+        {Record(HintKind::HiddenSingle).number(5).row(4).column(4).variant(4),
+         "HIDDEN SINGLE: Since number 5"},
+        {Record(HintKind::Subset).variant(-1).row(0).cells({0, 1, 2, 3}).values({1, 2, 3, 4}), ""},
+        {Record(HintKind::ForcingChainFromUnit).variant(0).cellCount(7),
+         "Forcing Chain : Whatever candidate 7"},
     });
 }
 

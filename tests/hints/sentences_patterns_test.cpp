@@ -15,10 +15,17 @@ using testing::Record;
 // groups of one or two cells, and a group of three is named as a list.
 TEST(SchrijfHint, FormsNoRealHitLeaves) {
     testing::ExpectSentences({
-        {Record(13).variant(0).number(1).cells(
-             {0, 1, 2, 8, 18, 19, 20, 26, 36, 37, 38, 44, 54, 55, 56, 62}),
+        {Record(HintKind::Jellyfish)
+             .variant(0)
+             .number(1)
+             .cells({0, 1, 2, 8, 18, 19, 20, 26, 36, 37, 38, 44, 54, 55, 56, 62}),
          "JELLYFISH: Since number 1 appears maximum four times in each "},
-        {Record(27).row(-1).column(4).variant(4).cells({4, 13, 76}).values({30, 50}),
+        {Record(HintKind::SueDeCoq)
+             .row(-1)
+             .column(4)
+             .variant(4)
+             .cells({4, 13, 76})
+             .values({30, 50}),
          "SUE-DE-COQ: Only one of the candidates common to cells A5, B5 and J5 can appear in the "
          "unsolved cells from the intersection between column 5 and the centre block as "
          "solution. Therefore any other cell sharing that same column cannot have one of those "
@@ -29,7 +36,8 @@ TEST(SchrijfHint, FormsNoRealHitLeaves) {
          "to any cell listed in both previous statements, are exclusive to the intersection "
          "cells. Therefore any other cell sharing that same column or box cannot have one of "
          "those candidates as solution."},
-        {Record(29).values({1, 9}).cells({10, 13, 64, 67}).variant(6), "UNIQUE RECTANGLE: "},
+        {Record(HintKind::UniqueRectangle).values({1, 9}).cells({10, 13, 64, 67}).variant(6),
+         "UNIQUE RECTANGLE: "},
     });
 }
 

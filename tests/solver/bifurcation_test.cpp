@@ -104,7 +104,7 @@ TEST(Bifurcation, UnderAHintFillsKindTwentyAndChangesNothing) {
         if (!expected) continue;
         ++hints;
         const HintRecord& h = ctx.hint;
-        EXPECT_EQ(h.HintKind, 20);
+        EXPECT_EQ(h.HintKind, HintKind::Bifurcation);
         EXPECT_EQ((Guess{h.HintNumber, h.HintCell}), *expected);
         EXPECT_EQ(std::tuple(h.HintVariant, h.HintRow), std::tuple(-99, -99));
     }

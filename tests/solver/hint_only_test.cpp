@@ -44,7 +44,7 @@ std::vector<Conclusion> Sorted(const ConclusionList& list) {
 }
 
 TEST(HintOnly, EveryRungConcludesAsAHintExactlyWhatItDoes) {
-    std::map<int, int> hits;  // by hint kind
+    std::map<HintKind, int> hits;
     for (const auto& p : testing::GeneratedPuzzles(300)) {
         SolveContext state(Side::Game);
         state.board = BoardFromPuzzle(p.puzzle);
@@ -89,7 +89,9 @@ TEST(HintOnly, EveryRungConcludesAsAHintExactlyWhatItDoes) {
             if (!hit) break;
         }
     }
-    for (int kind : {1, 2, 3, 4, 5, 33, 35})
+    for (HintKind kind : {HintKind::NakedSingle, HintKind::HiddenSingle, HintKind::PointingPair,
+                          HintKind::BoxLineReduction, HintKind::Subset, HintKind::ALSxz,
+                          HintKind::ForcingChainFromCell})
         EXPECT_GT(hits[kind], 0) << "no hint of kind " << kind;
 }
 

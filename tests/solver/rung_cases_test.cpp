@@ -19,6 +19,7 @@
 #include "hints/schrijf_hint.h"
 #include "solver/brute_force.h"
 #include "solver/ladder.h"
+#include "support/boards.h"
 #include "support/puzzles.h"
 
 namespace tavi {
@@ -129,7 +130,7 @@ TEST(RungCases, EveryHintOnTheHardBoardsTellsAndPaintsWhatItConcludes) {
     for (const Rung& r : LadderRungs())
         if (r.number >= kFirstOrderedTechnique && r.number != kBifurcationTechnique)
             ordered.push_back(&r);
-    std::map<int, int> hintsOfKind;
+    std::map<HintKind, int> hintsOfKind;
     for (size_t k = 0; k < puzzles.size(); ++k) {
         SolveContext ctx(Side::Workbench);
         ctx.board = BoardFromPuzzle(puzzles[k].puzzle);

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <initializer_list>
+#include <ostream>
 #include <utility>
 #include <vector>
 
@@ -13,6 +14,15 @@
 
 #include "grid/candidates.h"
 #include "solver/solve_context.h"
+
+namespace tavi {
+
+// A kind in a test's message, by its number.
+inline std::ostream& operator<<(std::ostream& out, HintKind kind) {
+    return out << KindNumber(kind);
+}
+
+}  // namespace tavi
 
 namespace tavi::testing {
 
@@ -84,7 +94,8 @@ inline SolveContext ContextOn(const Board& board, Side side = Side::Workbench) {
 // A hint record whose every field holds `mark`, to see which fields a kind writes.
 inline HintRecord MarkedHint(int mark = -99) {
     HintRecord h;
-    h.HintKind = h.HintVariant = h.HintRow = h.HintColumn = h.HintCell = h.HintNumber = mark;
+    h.HintKind = HintKind::None;
+    h.HintVariant = h.HintRow = h.HintColumn = h.HintCell = h.HintNumber = mark;
     h.HintCellCount = h.HintValueCount = mark;
     h.HintCells.fill(mark);
     h.HintValues.fill(mark);

@@ -641,7 +641,7 @@ struct AicSearch {
                 h.HintCells[i + 1] = cells[i];
                 h.HintValues[i + 1] = chainDigits[i];
             }
-            h.HintKind = 31;
+            h.HintKind = HintKind::AIC;
         }
         return result;
     }

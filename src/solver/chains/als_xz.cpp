@@ -160,7 +160,7 @@ bool BiValueStage(SolveContext& ctx, const CandidateMask (&digits)[81], const Ho
                                 h.HintValues[++h.HintValueCount] = base;
                                 for (int i = 0; i < n; ++i)
                                     if (b.Has(z, set[i])) h.HintValues[++h.HintValueCount] = set[i];
-                                h.HintKind = 32;
+                                h.HintKind = HintKind::BiValueALSxz;
                             }
                             return true;
                         });
@@ -193,7 +193,7 @@ void Prepare_Tip_ALSxz(HintRecord& h, const AlsPairHit& hit) {
     h.HintValueCount = hit.secondCount;
     for (int i = 0; i < hit.secondCount; ++i)
         h.HintValues[1 + i] = hit.second[i];
-    h.HintKind = 33;
+    h.HintKind = HintKind::ALSxz;
 }
 
 // True if all of `cells` lie in one unit.

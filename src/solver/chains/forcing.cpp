@@ -180,7 +180,7 @@ bool Forcing(SolveContext& ctx) {
             ctx.hint.HintNumber = v.digit;
             ctx.hint.HintVariant = v.tally;
             ctx.hint.HintCellCount = v.cell;
-            ctx.hint.HintKind = 35;
+            ctx.hint.HintKind = HintKind::ForcingChainFromCell;
         }
         return true;
     }
@@ -211,7 +211,7 @@ bool Forcing(SolveContext& ctx) {
                 ctx.hint.HintNumber = v.digit;
                 ctx.hint.HintCellCount = digit;
                 ctx.hint.HintValueCount = v.tally < 0 ? 0 : v.tally;
-                ctx.hint.HintKind = 36;
+                ctx.hint.HintKind = HintKind::ForcingChainFromUnit;
             }
             return true;
         }

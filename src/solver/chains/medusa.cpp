@@ -113,7 +113,7 @@ struct MedusaSearch {
             h.HintCells[++h.HintCellCount] = code;
             h.HintValues[++h.HintValueCount] = colour[code % 81][code / 81 + 1];
         }
-        h.HintKind = 34;
+        h.HintKind = HintKind::Medusa3D;
     }
 
     // The rules in their order on the cluster grown from (start, d).

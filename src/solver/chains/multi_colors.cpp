@@ -73,7 +73,7 @@ int Decide(SolveContext& ctx, int digit, const Colouring& col, const int (&colou
     }
     if (ctx.HintOnly()) {
         h.HintNumber = digit;
-        h.HintKind = 22;
+        h.HintKind = HintKind::MultiColoringType1;
     }
     return placed;
 }
@@ -97,7 +97,7 @@ bool Trap(SolveContext& ctx, int digit, const Colouring& col, const int (&colour
                 h.HintValues[1] = col.cells[k];
                 h.HintValues[2] = col.cells[m];
                 h.HintValueCount = 2;
-                h.HintKind = 23;
+                h.HintKind = HintKind::MultiColoringType2;
             }
             return true;
         }

@@ -69,7 +69,7 @@ bool MultiFish(SolveContext& ctx) {
                         ctx.hint.HintValueCount = 4;
                         for (int i = 0; i < 4; ++i)
                             ctx.hint.HintValues[1 + i] = digits[i];
-                        ctx.hint.HintKind = 37;
+                        ctx.hint.HintKind = HintKind::MultiFish;
                     }
                     return true;
                 }

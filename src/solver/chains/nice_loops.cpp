@@ -132,7 +132,7 @@ struct LoopWalk {
             h.HintCellCount = p + 1;
             for (int i = 0; i <= p; ++i)
                 h.HintCells[i + 1] = cells[i];
-            h.HintKind = 28;
+            h.HintKind = HintKind::NiceLoop;
         }
         return result;
     }

@@ -54,7 +54,7 @@ bool RemoveFromCrossLines(SolveContext& ctx, int digit, bool rows, int lineSet, 
 // One fish of `size` lines: the row pass for all digits, then the column pass.
 // An X-Wing line must hold the digit in exactly its two crossing lines; a larger
 // fish's line in any non-empty part of them.
-bool Fish(SolveContext& ctx, int size, int kind) {
+bool Fish(SolveContext& ctx, int size, HintKind kind) {
     const Board& b = ctx.board;
     const bool exact = size == 2;
     // For each digit the mask of each row by column, and of each column by row.
@@ -142,9 +142,9 @@ bool Fish(SolveContext& ctx, int size, int kind) {
 
 }  // namespace
 
-bool XWing(SolveContext& ctx) { return Fish(ctx, 2, 6); }
-bool SwordFish(SolveContext& ctx) { return Fish(ctx, 3, 7); }
-bool JellyFish(SolveContext& ctx) { return Fish(ctx, 4, 13); }
+bool XWing(SolveContext& ctx) { return Fish(ctx, 2, HintKind::XWing); }
+bool SwordFish(SolveContext& ctx) { return Fish(ctx, 3, HintKind::Swordfish); }
+bool JellyFish(SolveContext& ctx) { return Fish(ctx, 4, HintKind::Jellyfish); }
 
 // An X-Wing whose second line holds one or two extra candidates, the fin, in the
 // box of one of its corners. The base line holds the digit exactly twice, in two
@@ -216,7 +216,7 @@ bool FinnedXWing(SolveContext& ctx) {
                                 h.HintCells[4] = at(base, c2);
                                 h.HintCells[5] = at(finned, c1);
                                 h.HintCells[6] = at(finned, c2);
-                                h.HintKind = 15;
+                                h.HintKind = HintKind::FinnedXWing;
                             }
                             return true;
                         }
@@ -299,7 +299,7 @@ bool MultiXWingForm(SolveContext& ctx, int form, int unitKind, int clashKind,
                                     h.HintRow = u1;
                                     h.HintColumn = u2;
                                 }
-                                h.HintKind = 8;
+                                h.HintKind = HintKind::MultiValueXWing;
                             }
                             return true;
                         }

@@ -80,7 +80,7 @@ bool PointingPair(SolveContext& ctx) {
                     ctx.hint.HintCell = leftTop;
                     ctx.hint.HintVariant = segment;
                     ctx.hint.HintNumber = digit;
-                    ctx.hint.HintKind = 3;
+                    ctx.hint.HintKind = HintKind::PointingPair;
                 }
                 return true;
             }
@@ -109,7 +109,7 @@ bool BoxLine(SolveContext& ctx) {
                         ctx.hint.HintCell = Global::BoxLeftTopOfCell[cell];
                         ctx.hint.HintVariant = kind;
                         (kind == 1 ? ctx.hint.HintRow : ctx.hint.HintColumn) = line;
-                        ctx.hint.HintKind = 4;
+                        ctx.hint.HintKind = HintKind::BoxLineReduction;
                     }
                     return true;
                 }

@@ -149,7 +149,7 @@ bool EmptyRectangle(SolveContext& ctx) {
                     h.HintVariant = leftTop;
                     h.HintRow = R;
                     h.HintColumn = C;
-                    h.HintKind = 9;
+                    h.HintKind = HintKind::EmptyRectangle;
                 }
                 return true;
             }
@@ -221,7 +221,7 @@ bool TwoStringKite(SolveContext& ctx) {
                     h.HintCells[3] = freeRow;
                     h.HintCells[4] = freeColumn;
                     h.HintCellCount = 4;
-                    h.HintKind = 25;
+                    h.HintKind = HintKind::TwoStringKite;
                 }
                 return true;
             }
@@ -261,7 +261,7 @@ bool Skyscraper(SolveContext& ctx) {
                             h.HintCells[3] = freeI;
                             h.HintCells[4] = freeJ;
                             h.HintCellCount = 4;
-                            h.HintKind = 26;
+                            h.HintKind = HintKind::Skyscraper;
                         }
                         return true;
                     }

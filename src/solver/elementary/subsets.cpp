@@ -56,7 +56,7 @@ void FillSubsetHint(SolveContext& ctx, int unit, bool naked, int size, const int
         h.HintCells[i + 1] = cells[i];
         h.HintValues[i + 1] = digits[i];
     }
-    h.HintKind = 5;
+    h.HintKind = HintKind::Subset;
 }
 
 // One unit as it stands: per cell its candidates (bits 0-8) and its digit in

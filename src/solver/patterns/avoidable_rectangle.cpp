@@ -22,7 +22,7 @@ void FillRectangle(SolveContext& ctx, int number, int d, int e, int count,
     for (int k = 0; k < 4; ++k)
         h.HintCells[k + 1] = corners[k];
     h.HintCellCount = 4;
-    h.HintKind = 30;
+    h.HintKind = HintKind::AvoidableRectangle;
 }
 
 // Pass one: two placed cells with the same digit d on a diagonal, a third corner
@@ -160,7 +160,7 @@ bool BUG(SolveContext& ctx) {
         for (int k = 0; k < removed; ++k)
             h.HintValues[k + 1] = gone[k];
         h.HintValueCount = removed;
-        h.HintKind = 24;
+        h.HintKind = HintKind::BivalueUniversalGrave;
     }
     return true;
 }

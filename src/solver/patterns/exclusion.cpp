@@ -74,8 +74,8 @@ int RemoveUnpartnered(SolveContext& ctx, const PairTable& t, int a, int c, int (
     return n;
 }
 
-void FillExclusion(SolveContext& ctx, int kind, int variant, int row, int column, const int* cells,
-                   int size, const Reducers& r, const int* values, int count) {
+void FillExclusion(SolveContext& ctx, HintKind kind, int variant, int row, int column,
+                   const int* cells, int size, const Reducers& r, const int* values, int count) {
     HintRecord& h = ctx.hint;
     h.HintVariant = variant;
     h.HintRow = row;
@@ -220,7 +220,9 @@ bool AlignedTriple(SolveContext& ctx, const int (&triple)[3], int line, int box,
                 values[count++] = d + (place == 1 ? 10 : place == 2 ? 100 : 0);
         }
     if (!count) return false;
-    if (ctx.HintOnly()) FillExclusion(ctx, 17, variant, row, column, triple, 3, r, values, count);
+    if (ctx.HintOnly())
+        FillExclusion(ctx, HintKind::AlignedTripleExclusion, variant, row, column, triple, 3, r,
+                      values, count);
     return true;
 }
 
@@ -294,7 +296,8 @@ bool APE(SolveContext& ctx) {
                                    : variant == 2 ? a % 9
                                                   : ctx.hint.HintColumn;
                 const int pair[2] = {a, c};
-                FillExclusion(ctx, 16, variant, row, column, pair, 2, r, values, count);
+                FillExclusion(ctx, HintKind::AlignedPairExclusion, variant, row, column, pair, 2, r,
+                              values, count);
             }
             return true;
         }
@@ -374,8 +377,9 @@ bool ExtendedAPE(SolveContext& ctx) {
                         if (!count) continue;
                         if (ctx.HintOnly()) {
                             const int pair[2] = {a, c};
-                            FillExclusion(ctx, 16, pass == 0 ? 3 : 4, pass == 0 ? line : segment,
-                                          pass == 0 ? segment : line, pair, 2, r, values, count);
+                            FillExclusion(ctx, HintKind::AlignedPairExclusion, pass == 0 ? 3 : 4,
+                                          pass == 0 ? line : segment, pass == 0 ? segment : line,
+                                          pair, 2, r, values, count);
                         }
                         return true;
                     }

@@ -86,7 +86,7 @@ bool Crossing(SolveContext& ctx, int box, int lineUnit, bool row) {
         for (int k = 0; k < boxGroup.n; ++k)
             h.HintValues[k + 1] = boxGroup.cells[k];
         h.HintValueCount = boxGroup.n;
-        h.HintKind = 27;
+        h.HintKind = HintKind::SueDeCoq;
         // The game shows the pattern at once, with what it removes, and asks
         // whether the player sees it; Cancel forgets it and goes on to the next
         // crossing. Never inside the trials of a guess.

@@ -75,7 +75,7 @@ void FillHint(SolveContext& ctx, const Floor& f, int variant, int x, int y) {
     h.HintCells[3] = x;
     h.HintCells[4] = y;
     h.HintCellCount = 4;
-    h.HintKind = 29;
+    h.HintKind = HintKind::UniqueRectangle;
 }
 
 // Every cell that sees both roof cells loses `digit`.
@@ -264,7 +264,7 @@ bool HiddenForm(SolveContext& ctx) {
                             h.HintCells[3] = c2;
                             h.HintCells[4] = y;
                             h.HintCellCount = 4;
-                            h.HintKind = 29;
+                            h.HintKind = HintKind::UniqueRectangle;
                         }
                         return true;
                     }

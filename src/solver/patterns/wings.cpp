@@ -61,7 +61,7 @@ struct MasksPresent {
     bool present[512] = {};
 };
 
-void FillWingHint(HintRecord& h, int kind, int digit, std::initializer_list<int> cells) {
+void FillWingHint(HintRecord& h, HintKind kind, int digit, std::initializer_list<int> cells) {
     h.HintNumber = digit;
     int n = 0;
     for (int c : cells)
@@ -126,7 +126,8 @@ bool XYWing(SolveContext& ctx) {
                                     return false;
                                 if (ctx.HintOnly()) {
                                     ctx.hint.HintVariant = form;
-                                    FillWingHint(ctx.hint, 10, knop, {stem, first, second});
+                                    FillWingHint(ctx.hint, HintKind::XYWing, knop,
+                                                 {stem, first, second});
                                 }
                                 return true;
                             });
@@ -164,7 +165,8 @@ bool XYZWing(SolveContext& ctx) {
                             EachBranchPair(b, stem, m1, m2, [&](int first, int second, int) {
                                 if (!VerwijderXYZWing(ctx, stem, first, second, knop)) return false;
                                 if (ctx.HintOnly())
-                                    FillWingHint(ctx.hint, 11, knop, {stem, first, second});
+                                    FillWingHint(ctx.hint, HintKind::XYZWing, knop,
+                                                 {stem, first, second});
                                 return true;
                             });
                         if (hit) return true;
@@ -252,7 +254,7 @@ bool WXYZWing(SolveContext& ctx) {
                                     if (!removed) return false;
                                     if (ctx.HintOnly()) {
                                         ctx.hint.HintVariant = full ? 1 : 2;
-                                        FillWingHint(ctx.hint, 14, knop,
+                                        FillWingHint(ctx.hint, HintKind::WXYZWing, knop,
                                                      {hinge, first, second, third});
                                     }
                                     return true;
