@@ -31,7 +31,7 @@ struct HintKindInfo {
 
 // Indexed by the kind's number; entry 0 is no kind.
 inline constexpr std::array<HintKindInfo, kHintKindCount + 1> kHintKinds = {{
-    {HintFamily::None},
+    {HintFamily::None, {}, {}},
     {HintFamily::Basic, {"Naked single"}, {"NAKED SINGLE: "}},
     {HintFamily::Basic, {"Hidden single"}, {"HIDDEN SINGLE: "}},
     {HintFamily::Basic, {"Pointing Pair"}, {"POINTING PAIR: "}},
