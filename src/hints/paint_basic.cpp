@@ -40,7 +40,7 @@ void HiddenSingle(HintPainter& p, const HintRecord& h) {
     PaintPlacement(p, cell, h.HintNumber);
 }
 
-// Kind 3: the digit keeps to one line inside the box, so the rest of the line loses it.
+// PointingPair: the digit keeps to one line inside the box, so the rest of the line loses it.
 void PointingPair(HintPainter& p, const HintRecord& h) {
     if (!InRange(h.HintCell, 80) || !InRange(h.HintVariant, 5)) return;
     p.ZetHintBlok(h.HintCell, kPatternCell);
@@ -55,7 +55,7 @@ void PointingPair(HintPainter& p, const HintRecord& h) {
         }
 }
 
-// Kind 4: the digit keeps to the box on its line, so the rest of the box loses it.
+// BoxLineReduction: the digit keeps to the box on its line, so the rest of the box loses it.
 void BoxLine(HintPainter& p, const HintRecord& h) {
     if (!InRange(h.HintCell, 80)) return;
     const auto line = HouseCells(h.HintVariant, h.HintRow, h.HintColumn, 0);

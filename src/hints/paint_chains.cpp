@@ -44,7 +44,7 @@ void SimpleColors(HintPainter& p, const HintRecord& h) {
         if (!Contains(first, c) && !Contains(second, c)) p.ZetAttackedCell(c, n);
 }
 
-// Kinds 18 and 19. A cell enters the chain by one digit and leaves it by the
+// XYChain and DoubleImplicationChain. A cell enters the chain by one digit and leaves it by the
 // other: the first cell enters by the chain's digit, every later cell by the
 // exit digit of the cell before.
 void XYChain(HintPainter& p, const HintRecord& h) {
@@ -72,8 +72,8 @@ void XYChain(HintPainter& p, const HintRecord& h) {
     AttackSeenByAll(p, ends, n);
 }
 
-// Kinds 22 and 23 code each coloured cell with its colour: cell + 81 x colour,
-// colours 0 and 1 the first cluster, 2 and 3 the second.
+// MultiColoringType1 and MultiColoringType2 (coded as chains/multi_colors.cpp
+// writes them): colours 0 and 1 the first cluster, 2 and 3 the second.
 void MultiColors(HintPainter& p, const HintRecord& h) {
     const int n = h.HintNumber;
     const auto entries = ListPart(h.HintCells, 1, h.HintCellCount);
@@ -104,7 +104,7 @@ void MultiColors(HintPainter& p, const HintRecord& h) {
         p.ZetHintVak(c, kAttackingCell);
 }
 
-// Kinds 28 and 31. Each cell of the loop is painted with the roles of cell and
+// NiceLoop and AIC. Each cell of the loop is painted with the roles of cell and
 // candidate swapped (the candidate role for the cell, the cell role for the
 // digit); this has always been so and sets the loops apart on the board.
 // `digitAt(i)` is the digit of entry i.

@@ -21,7 +21,7 @@ std::vector<int> UnitBut(int kind, int index, int a, int b) {
     return out;
 }
 
-// Kinds 6, 7 and 13: the base lines and the cross lines, the digit gone from the
+// XWing, Swordfish and Jellyfish: the base lines and the cross lines, the digit gone from the
 // cross lines, and the square's cells as the attackers.
 void Fish(HintPainter& p, const HintRecord& h) {
     const FishLines lines = FishLinesOf(h);
@@ -87,7 +87,7 @@ void MultiValueXWing(HintPainter& p, const HintRecord& h) {
         p.ZetHintNummer(c, y, kAttackingCandidates);
 }
 
-// Kind 9. The target would rule out the near end of the conjugate pair and so
+// EmptyRectangle. The target would rule out the near end of the conjugate pair and so
 // force the far end; the far end closes one crossing line of the box, the target
 // the other.
 void EmptyRectangle(HintPainter& p, const HintRecord& h) {

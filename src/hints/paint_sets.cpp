@@ -70,7 +70,8 @@ void Medusa(HintPainter& p, const HintRecord& h) {
     }
 }
 
-// Kinds 35 and 36: the target cell, and the candidates the hit takes from it.
+// ForcingChainFromCell and ForcingChainFromUnit: the target cell, and the candidates the hit takes
+// from it.
 void ForcingTarget(HintPainter& p, const HintRecord& h, int target) {
     p.ZetHintVak(target, kPatternCell);
     for (const Conclusion& c : h.Conclusions)

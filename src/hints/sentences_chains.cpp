@@ -9,7 +9,8 @@ namespace tavi::hints {
 
 namespace {
 
-// Kinds 12 and 21 share the opening that names the two colours of the cluster.
+// SimpleColorsTrap and SimpleColorsWrap share the opening that names the two colours of the
+// cluster.
 std::string Colours(const HintRecord& h) {
     return Head(h.HintKind) + "In the chain/cluster of adjacent cells, all holding candidate " +
            Number(h.HintNumber) + ", either cells " +

@@ -23,7 +23,7 @@ std::vector<std::string> ColumnsText(const std::vector<int>& columns) {
     return out;
 }
 
-// Kinds 6, 7 and 13: one shape, two, three or four lines each way.
+// XWing, Swordfish and Jellyfish: one shape, two, three or four lines each way.
 std::string Fish(const HintRecord& h) {
     const FishLines lines = FishLinesOf(h);
     const auto rows = JoinList(RowsText(lines.rows));

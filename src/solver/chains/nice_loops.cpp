@@ -115,6 +115,9 @@ struct LoopWalk {
         return kNone;
     }
 
+    // The record of NiceLoop: HintVariant the result (1 a cycle, 2 a strong, 3 a weak
+    // discontinuity), HintNumber the digit, HintCells[1..HintCellCount] the loop's cells
+    // from its start.
     int Hit(int result, int p) {
         HintRecord& h = ctx.hint;
         if (result == kCycle) {

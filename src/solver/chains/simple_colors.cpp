@@ -11,6 +11,9 @@ using namespace chains;
 
 namespace {
 
+// The record of SimpleColorsTrap and SimpleColorsWrap: HintNumber the digit, HintCell and
+// HintVariant the two cells that make the hit, HintCells[1..HintCellCount] the cells of one
+// colour, HintValues[1..HintValueCount] those of the other.
 void FillColoursHint(SolveContext& ctx, HintKind kind, int digit, const Colouring& col, int group,
                      int cellK, int cellM) {
     HintRecord& h = ctx.hint;

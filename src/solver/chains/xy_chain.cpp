@@ -73,6 +73,9 @@ struct XYSearch {
         return (ctx.board.CandidatesOf(cell) - DigitSet::Of(digit)).First();
     }
 
+    // The record of XYChain and DoubleImplicationChain: HintNumber the digit, HintCells[k]
+    // the chain's cells in order and HintValues[k] the digit each leaves by, both counts
+    // its length.
     void FillHint(HintKind kind, int digit, const std::vector<Link>& chain) {
         HintRecord& h = ctx.hint;
         h.HintNumber = digit;

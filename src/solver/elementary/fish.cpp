@@ -119,6 +119,10 @@ bool Fish(SolveContext& ctx, int size, HintKind kind) {
                 }
                 if (count != size) continue;
                 if (!RemoveFromCrossLines(ctx, digit, rows, lineSet, crossSet)) continue;
+                // The record of XWing, Swordfish and Jellyfish: HintNumber the digit,
+                // HintVariant 1 for the row pass and 2 for the column pass,
+                // HintCells[1..HintCellCount] the crossings of the base and cover lines row
+                // by row (4, 9 or 16).
                 if (ctx.HintOnly()) {
                     // The square of the pattern, row by row on the board.
                     const int rowSet = rows ? lineSet : crossSet;
@@ -206,6 +210,12 @@ bool FinnedXWing(SolveContext& ctx) {
                             if (!removed) continue;
                             if (ctx.HintOnly()) {
                                 HintRecord& h = ctx.hint;
+                                // The record of FinnedXWing: HintVariant 1 for the row pass
+                                // and 2 for the column pass, HintNumber the digit, the
+                                // clean base line in HintRow or HintColumn,
+                                // HintCells[1..HintCellCount] (one or two) the cells that
+                                // lose the digit, HintCells[3..6] the corners, [3] and [4]
+                                // on the clean line, [5] and [6] on the finned line.
                                 h.HintVariant = pass;
                                 h.HintNumber = digit;
                                 (rows ? h.HintRow : h.HintColumn) = base;
@@ -283,6 +293,10 @@ bool MultiXWingForm(SolveContext& ctx, int form, int unitKind, int clashKind,
                             for (int c : UnitCells[UnitThrough(q, clashKind)])
                                 if (c != q && c != t) removed |= VerwijderKnop(ctx, y, c);
                             if (!removed) continue;
+                            // The record of MultiValueXWing: HintVariant the form 1..6,
+                            // HintCells[1..4] the cells p, q, s, t and HintValues[1..4] the
+                            // digits a, b, x, y, both counts 4; HintRow and HintColumn the
+                            // two boxes where the form names boxes, else the two units.
                             if (ctx.HintOnly()) {
                                 HintRecord& h = ctx.hint;
                                 h.HintVariant = form;

@@ -11,6 +11,9 @@ namespace {
 
 bool Placed(const Board& b, int c) { return b.CurrentGrid[c] != 0 && b.Puzzle[c] == 0; }
 
+// The record of AvoidableRectangle: HintNumber the digit that goes, HintValues[1] and [2]
+// the rectangle's digits (and [3] the digit that goes, HintValueCount 3, in pass two),
+// HintCells[1..4] the corners, HintCellCount 4.
 void FillRectangle(SolveContext& ctx, int number, int d, int e, int count,
                    const int (&corners)[4]) {
     HintRecord& h = ctx.hint;
@@ -156,6 +159,8 @@ bool BUG(SolveContext& ctx) {
     if (!removed) return false;
     if (ctx.HintOnly()) {
         HintRecord& h = ctx.hint;
+        // The record of BivalueUniversalGrave: HintCell the cell of more than two
+        // candidates, HintValues[1..HintValueCount] the candidates it loses.
         h.HintCell = wide;
         for (int k = 0; k < removed; ++k)
             h.HintValues[k + 1] = gone[k];

@@ -74,6 +74,15 @@ int RemoveUnpartnered(SolveContext& ctx, const PairTable& t, int a, int c, int (
     return n;
 }
 
+// The record of AlignedPairExclusion and AlignedTripleExclusion. HintCells[1..] the pair or
+// triple and then the reducing cells, HintCellCount counting all.
+// HintValues[1..HintValueCount] the digits that go, each naming its cell: for a pair the
+// digit of the first cell and the negated digit of the second; for a triple the digit plus
+// 10 for the second cell and plus 100 for the third. HintVariant for a pair: 0 when it
+// shares one unit, 1 a row and a box (HintRow the row, HintColumn the box's top left cell),
+// 2 a column and a box (HintColumn the column, HintRow the box's top left cell), 3 and 4
+// the same when extended, with the stack or band number for the box. For a triple: 1 the
+// row pass, 2 the column pass, 3 and 4 extended.
 void FillExclusion(SolveContext& ctx, HintKind kind, int variant, int row, int column,
                    const int* cells, int size, const Reducers& r, const int* values, int count) {
     HintRecord& h = ctx.hint;

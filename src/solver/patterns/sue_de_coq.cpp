@@ -76,6 +76,9 @@ bool Crossing(SolveContext& ctx, int box, int lineUnit, bool row) {
     if (!removed) return false;
     if (ctx.HintOnly()) {
         HintRecord& h = ctx.hint;
+        // The record of SueDeCoq: the line in HintRow or HintColumn (the other -1),
+        // HintVariant the box, HintCells[1..HintCellCount] the cells of the line group,
+        // HintValues[1..HintValueCount] those of the box group.
         const int line = row ? lineUnit : lineUnit - 9;
         h.HintRow = row ? line : -1;
         h.HintColumn = row ? -1 : line;

@@ -61,6 +61,10 @@ struct MasksPresent {
     bool present[512] = {};
 };
 
+// The record of the wings: HintNumber the digit that goes, HintCells[1..HintCellCount] the
+// stem (the hinge) and then the branches. XYWing keeps its form 1..6 in HintVariant,
+// WXYZWing 1 when the hinge holds all four digits and 2 when it holds three; XYZWing no
+// form.
 void FillWingHint(HintRecord& h, HintKind kind, int digit, std::initializer_list<int> cells) {
     h.HintNumber = digit;
     int n = 0;
