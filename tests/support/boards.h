@@ -26,7 +26,6 @@ inline std::ostream& operator<<(std::ostream& out, HintKind kind) {
 
 namespace tavi::testing {
 
-inline const auto& Row(int r) { return UnitCells[r]; }
 inline const auto& Box(int b) { return UnitCells[18 + b]; }
 
 // No digit placed, all nine candidates everywhere.
@@ -53,14 +52,6 @@ void KeepDigitOnlyIn(Board& b, int digit, const Unit& unit, std::initializer_lis
     for (int c : unit)
         if (std::find(keep.begin(), keep.end(), c) == keep.end())
             b.Candidates[c] &= CandidateMask(~DigitBit(digit));
-}
-
-// Takes each of `digits` from every cell of `unit` except the cells in `keep`.
-template <typename Unit>
-void KeepDigitsOnlyIn(Board& b, std::initializer_list<int> digits, const Unit& unit,
-                      std::initializer_list<int> keep) {
-    for (int d : digits)
-        KeepDigitOnlyIn(b, d, unit, keep);
 }
 
 // The candidates that `after` lost against `before`, as (cell, digit) in cell order.
