@@ -61,9 +61,6 @@ inline void ExpectSentences(std::initializer_list<SentenceCase> cases,
             << "kind " << c.hint.HintKind << " variant " << c.hint.HintVariant;
 }
 
-// A candidate of Medusa's records: cell + 81 x (digit - 1).
-constexpr int Coded(int cell, int digit) { return cell + 81 * (digit - 1); }
-
 // The board after a paint list: the last role painted on each cell and on each
 // candidate of each cell, -1 where nothing is painted.
 struct PaintedBoard {

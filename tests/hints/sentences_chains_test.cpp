@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The sentences of the colours, the chains, the almost locked sets, Medusa, the
-// forcing chains and MultiFish, from records filled as their techniques fill them.
-// The kinds that tell more than they keep are given boards to work it out from.
+// Sentences from records filled by hand, as their techniques fill them, for what
+// the technique cases (tests/data/rung_cases.txt) do not reach. The kinds that
+// tell more than they keep are given boards to work it out from.
 #include <gtest/gtest.h>
 
 #include "hints/hint_records.h"
@@ -78,8 +78,27 @@ TEST(SchrijfHint, ForcingFromAUnitThatPlacesADigit) {
     });
 }
 
-TEST(SchrijfHint, WritesNothingOutsideTheKindsAndStopsAtAnUnknownForm) {
+// Forms no real hit leaves: no kind, a form the kind does not have, and a
+// Sue-de-Coq group of three cells (real ones have one or two), named as a list.
+TEST(SchrijfHint, FormsNoRealHitLeaves) {
     ExpectSentences({
+        {Record(HintKind::SueDeCoq)
+             .row(-1)
+             .column(4)
+             .variant(4)
+             .cells({4, 13, 76})
+             .values({30, 50}),
+         "SUE-DE-COQ: Only one of the candidates common to cells A5, B5 and J5 can appear in the "
+         "unsolved cells from the intersection between column 5 and the centre block as "
+         "solution. Therefore any other cell sharing that same column cannot have one of those "
+         "candidates as solution. Only one of the candidates common to cells D4 and F6 can "
+         "appear in the unsolved cells from the intersection between column 5 and the centre "
+         "block as solution. Therefore any other cell sharing that same box cannot have one of "
+         "those candidates as solution. All candidates from the intersection cells, not common "
+         "to any cell listed in both previous statements, are exclusive to the intersection "
+         "cells. Therefore any other cell sharing that same column or box cannot have one of "
+         "those candidates as solution."},
+
         {Record(HintKind::None), ""},
         {Record(HintKind(38)), ""},
         {Record(HintKind::HiddenSingle).number(5).row(4).column(4).variant(4),

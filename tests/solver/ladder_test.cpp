@@ -24,61 +24,49 @@ const GeneratedPuzzle* PuzzleRated(int level) {
     return nullptr;
 }
 
-TEST(WorkbenchLadder, SpeaksAtASolvedBoardUnlessABatchRuns) {
-    const GeneratedPuzzle* p = PuzzleRated(1);
+// A run alone speaks at the end and shows no progress; a batch (Check All, an
+// import) is silent but writes its progress, and only Check All beeps.
+TEST(WorkbenchLadder, SpeaksAtASolvedBoardOrReportsProgressInABatch) {
+    const GeneratedPuzzle* p = PuzzleRated(3);
     ASSERT_NE(p, nullptr);
     struct Case {
         bool import, check;
         int beeps;
-        bool said;
-    } cases[] = {{false, false, 1, true},
-                 {false, true, 1, false},
-                 {true, false, 0, false},
-                 {true, true, 0, false}};
-    const std::vector<testing::TitleText> solved = {
-        {"Sudoku solved", "Sudoku solved and rated as Easy"}};
+        const char* progress;  // one of the texts, or null for none
+    } cases[] = {
+        {false, false, 1, nullptr},
+        {false, true, 1, "Solving Sudoku : Rated Easy or higher - Scanning for Naked Singles"},
+        {true, false, 0,
+         "Solving Imported Sudoku : Rated Easy or higher - Scanning for Pointing Pairs"},
+        {true, true, 0, nullptr},
+    };
     for (const Case& c : cases) {
         RecordingNotifier notifier;
+        std::vector<std::string> texts;
         SolveContext ctx = testing::ContextOn(BoardFromPuzzle(p->puzzle));
         WorkbenchRun run;
         run.ImportRunning = c.import;
         run.CheckRunning = c.check;
         run.notifier = &notifier;
+        run.observer.progress = [&](const std::string& t) { texts.push_back(t); };
         EXPECT_TRUE(SolveSudoku(ctx, run));
-        EXPECT_EQ(ctx.SolvingLevel, 1);
-        EXPECT_EQ(ctx.board.CurrentGrid, p->solution);
+        EXPECT_EQ(std::tuple(ctx.SolvingLevel, ctx.board.CurrentGrid), std::tuple(3, p->solution));
         EXPECT_EQ(notifier.beeps, c.beeps);
-        EXPECT_EQ(notifier.messages, c.said ? solved : std::vector<testing::TitleText>{});
+        const bool alone = !c.import && !c.check;
+        const std::vector<testing::TitleText> said = {
+            {"Sudoku solved", "Sudoku solved and rated as Hard"}};
+        EXPECT_EQ(notifier.messages, alone ? said : std::vector<testing::TitleText>{});
+        EXPECT_EQ(texts.empty(), alone);
+        if (!c.progress) continue;
+        // Before anything is found the base text is still empty.
+        EXPECT_EQ(texts.front(), " - Scanning for Hidden Singles");
+        const std::set<std::string> seen(texts.begin(), texts.end());
+        EXPECT_TRUE(seen.count(c.progress));
+        if (c.check) {
+            EXPECT_TRUE(
+                seen.count("Solving Sudoku : Rated Hard or higher - Scanning for Hidden Singles"));
+        }
     }
-}
-
-TEST(WorkbenchLadder, ReportsProgressOnlyDuringABatch) {
-    const GeneratedPuzzle* p = PuzzleRated(3);
-    ASSERT_NE(p, nullptr);
-    std::vector<std::string> texts;
-    WorkbenchRun run;
-    run.observer.progress = [&](const std::string& t) { texts.push_back(t); };
-    SolveContext ctx = testing::ContextOn(BoardFromPuzzle(p->puzzle));
-    SolveSudoku(ctx, run);
-    EXPECT_TRUE(texts.empty());
-
-    run.CheckRunning = true;
-    ctx.board = BoardFromPuzzle(p->puzzle);
-    SolveSudoku(ctx, run);
-    ASSERT_FALSE(texts.empty());
-    // Before anything is found the base text is still empty.
-    EXPECT_EQ(texts.front(), " - Scanning for Hidden Singles");
-    const std::set<std::string> seen(texts.begin(), texts.end());
-    EXPECT_TRUE(seen.count("Solving Sudoku : Rated Easy or higher - Scanning for Naked Singles"));
-    EXPECT_TRUE(seen.count("Solving Sudoku : Rated Hard or higher - Scanning for Hidden Singles"));
-
-    texts.clear();
-    run.ImportRunning = true;
-    ctx.board = BoardFromPuzzle(p->puzzle);
-    SolveSudoku(ctx, run);
-    EXPECT_TRUE(std::set<std::string>(texts.begin(), texts.end())
-                    .count("Solving Imported Sudoku : Rated Easy or higher - Scanning for "
-                           "Pointing Pairs"));
 }
 
 TEST(WorkbenchLadder, FullBoardAndContradictions) {
