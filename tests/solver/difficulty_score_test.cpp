@@ -7,6 +7,7 @@
 
 #include "grid/candidates.h"
 #include "grid/levels.h"
+#include "solver/hard_search.h"
 #include "support/puzzles.h"
 
 namespace tavi {
@@ -35,15 +36,28 @@ TEST(DifficultyScore, EveryRungWeighsBelowTheUnsolvedScoreAndLongerStepsWeighMor
         EXPECT_LT(weight(i), weight(rungs.size() - 1));
 }
 
-// Over many generated puzzles: the run with the score rates exactly as the plain
-// run, twice alike, and the score lies between its hardest rung's weight and what
-// the bonuses and the extent can add to it.
+// Over many generated puzzles the runs that measure rate exactly as the plain
+// run. With the score, twice alike, the score lies between its hardest rung's
+// weight and what the bonuses and the extent can add to it. On the ladder with
+// its measures, the steps beyond the head, the singles and at the level fit it.
 TEST(DifficultyScore, SameRatingAsThePlainRunAndBoundedByTheHardestRung) {
     const auto& puzzles = testing::GeneratedPuzzles(300);
-    SolveContext plain(Side::Workbench), scored(Side::Workbench);
+    SolveContext plain(Side::Workbench), scored(Side::Workbench), measured(Side::Workbench);
     for (const GeneratedPuzzle& p : puzzles) {
         plain.board = BoardFromPuzzle(p.puzzle);
         const int level = SolveSudoku(plain, {}) ? plain.SolvingLevel : kOutlaw;
+        const LadderRating m = RateOnLadder(measured, p.puzzle);
+        ASSERT_EQ(m.level, level) << FormatDigits(p.puzzle);
+        EXPECT_EQ(LadderRungs()[m.hardestRung].level, m.level);
+        EXPECT_LE(m.stepsBeyondHead, m.stepsBeyondSingles);
+        EXPECT_LE(m.stepsBeyondSingles, m.steps);
+        EXPECT_GE(m.stepsAtLevel, 1);
+        // The head of the ladder rates Easy to Hard; every step beyond it is Crazy
+        // or harder, and Easy needs nothing but singles.
+        EXPECT_EQ(m.stepsBeyondHead > 0, m.level >= 4);
+        EXPECT_EQ(m.stepsBeyondSingles > 0, m.level >= 2);
+        EXPECT_EQ(std::tuple(m.cellsLeft, m.pairsAtLastRung), std::tuple(0, 0));
+
         const PuzzleRating r = RatePuzzleWithScore(scored, p.puzzle);
         ASSERT_EQ(r.level, level) << FormatDigits(p.puzzle);
         EXPECT_EQ(r.score, RatePuzzleWithScore(p.puzzle).score);
