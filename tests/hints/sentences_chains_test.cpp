@@ -14,7 +14,8 @@ using testing::ExpectSentences, testing::OpenBoard, testing::Record, testing::Se
 
 // The ALS sentences list exactly what the hit takes away, by digit and then by
 // cell, whatever else the sets share: a singly linked pair takes only z, and a
-// doubly linked one may take a digit from a cell of the other set.
+// doubly linked one may take a digit from a cell of the other set. (Hits of two
+// sets are told in the technique cases.)
 TEST(SchrijfHint, AlsListsExactlyTheRemovalsOfTheHit) {
     // A1 {1,2} against B2 {1,3} and C3 {2,3} in the same box.
     Board bivalue = OpenBoard();
@@ -40,31 +41,12 @@ TEST(SchrijfHint, AlsListsExactlyTheRemovalsOfTheHit) {
                       "Candidate 2 removed from cell(s) A2 A3 B1 ; Candidate 3 removed from "
                       "cell(s) A2."}},
                     bivalue);
-
-    // A1 {1,2}, A2 {2,3} against E1 {1,3}, E2 {3,4}: 1 is restricted through
-    // column 1, and 3 goes where its three holders are all seen.
-    Board sets = OpenBoard();
-    SetCandidates(sets, 0, {1, 2});
-    SetCandidates(sets, 1, {2, 3});
-    SetCandidates(sets, 36, {1, 3});
-    SetCandidates(sets, 37, {3, 4});
-    ExpectSentences({{Record(HintKind::ALSxz)
-                          .number(1)
-                          .variant(3)
-                          .row(0)
-                          .column(0)
-                          .cells({0, 1})
-                          .values({36, 37})
-                          .removed(46, 3)
-                          .removed(28, 3),
-                      "ALSxz: ALS1 cells=A1/A2 ; ALS2 cells=E1/E2 ; Restricted candidate=1 ; "
-                      "Candidate 3 removed from cell(s) D2 F2."}},
-                    sets);
 }
 
-// The unit form of a forcing chain that places a digit: no generated board has
-// shown one, so its sentence is held here.
-TEST(SchrijfHint, ForcingFromAUnitThatPlacesADigit) {
+// Forms no real hit leaves: no kind, a form the kind does not have, a forcing
+// chain from a unit that places a digit, and a Sue-de-Coq group of three cells
+// (real ones have one or two), named as a list.
+TEST(SchrijfHint, FormsNoRealHitLeaves) {
     ExpectSentences({
         {Record(HintKind::ForcingChainFromUnit)
              .variant(2)
@@ -75,13 +57,6 @@ TEST(SchrijfHint, ForcingFromAUnitThatPlacesADigit) {
              .valueCount(3),
          "Forcing Chain : Whatever candidate 7 is true for column 1, candidate 2 will allways be "
          "true for cell J9. Therefore all other candidates can be removed from that cell."},
-    });
-}
-
-// Forms no real hit leaves: no kind, a form the kind does not have, and a
-// Sue-de-Coq group of three cells (real ones have one or two), named as a list.
-TEST(SchrijfHint, FormsNoRealHitLeaves) {
-    ExpectSentences({
         {Record(HintKind::SueDeCoq)
              .row(-1)
              .column(4)
