@@ -15,8 +15,8 @@
 #include "hints/hint_search.h"
 #include "hints/hint_truth.h"
 #include "hints/schrijf_hint.h"
-#include "solver/brute_force.h"
 #include "solver/ladder.h"
+#include "solver/solutions.h"
 #include "support/boards.h"
 #include "support/puzzles.h"
 
@@ -67,15 +67,6 @@ std::string CaseName(const ::testing::TestParamInfo<RungCase>& info) {
     return name;
 }
 
-// The solution of the givens when they have exactly one.
-std::optional<Digits> UniqueSolution(const Digits& givens) {
-    SolveContext ctx;
-    ctx.board.Puzzle = givens;
-    bool contradiction = false;
-    if (BruteForceSolutions(ctx, contradiction) != 1) return std::nullopt;
-    return ctx.board.CurrentGrid;
-}
-
 // One test per line: the technique finds what the line says on the workbench side,
 // and on the game side its hint writes the line's sentence and paints its colours.
 class RungCaseLine : public ::testing::TestWithParam<RungCase> {};
@@ -107,9 +98,9 @@ TEST_P(RungCaseLine, FindsWhatItSaysAndSaysIt) {
         }
 
         // Whatever a line expects, no technique may contradict a puzzle's one solution.
-        if (const auto solution = UniqueSolution(k.board.Puzzle)) {
+        if (const SolutionCount s = Solutions(k.board.Puzzle); s.count == 1) {
             for (const Conclusion& c : work.hint.Conclusions)
-                EXPECT_EQ(c.placed, (*solution)[c.cell] == c.digit)
+                EXPECT_EQ(c.placed, s.first[c.cell] == c.digit)
                     << CellName(c.cell) << (c.placed ? "=" : "-") << int(c.digit)
                     << " contradicts the solution";
         }

@@ -15,8 +15,8 @@
 #include "grid/candidates.h"
 #include "hints/hint_search.h"
 #include "hints/hint_truth.h"
-#include "solver/brute_force.h"
 #include "solver/ladder.h"
+#include "solver/solutions.h"
 #include "support/boards.h"
 #include "support/puzzles.h"
 
@@ -112,10 +112,8 @@ std::vector<GeneratedPuzzle> GravePuzzles() {
         if (line.empty() || line[0] == '#') continue;
         const auto puzzle = ParseDigits(line);
         if (!puzzle) continue;
-        SolveContext ctx;
-        ctx.board.Puzzle = *puzzle;
-        if (!BruteForceSolve(ctx)) continue;
-        out.push_back({*puzzle, ctx.board.CurrentGrid});
+        const SolutionCount s = Solutions(*puzzle);
+        if (s.count == 1) out.push_back({*puzzle, s.first});
     }
     return out;
 }
