@@ -76,7 +76,8 @@ FishLines FishLinesOf(const HintRecord& hint) {
 
 int ExclusionBoxLeftTop(const HintRecord& hint) {
     int form = hint.HintVariant;
-    if (hint.HintKind == 17) form = form == 1 || form == 3 ? 3 : form == 2 || form == 4 ? 4 : 0;
+    if (hint.HintKind == HintKind::AlignedTripleExclusion)
+        form = form == 1 || form == 3 ? 3 : form == 2 || form == 4 ? 4 : 0;
     switch (form) {
         case 1: return hint.HintColumn;
         case 2: return hint.HintRow;
@@ -95,7 +96,7 @@ HouseKind RectangleType3House(const HintRecord& hint) {
 
 AlsPair AlsPairOf(const HintRecord& hint) {
     AlsPair pair;
-    if (hint.HintKind == 32) {
+    if (hint.HintKind == HintKind::BiValueALSxz) {
         pair.first = {hint.HintCell};
         pair.second = ListPart(hint.HintCells, 1, hint.HintCellCount);
     } else {

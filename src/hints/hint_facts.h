@@ -6,25 +6,8 @@
 // finned X-Wing no fin. The board they are read from is the board the hint was
 // found on; a hint changes nothing, so it still stands when the hint is written.
 //
-// The layouts this file settles for kinds whose record is not spelt out field by
-// field elsewhere:
-//  - Kind 23: HintCells the coloured cells coded as in kind 22 (cell + 81 x
-//    colour 0..3), HintValues[1] and [2] the two plain cells whose common peers
-//    lose the digit.
-//  - Kinds 35 and 36, as their sentences read them: in 35 HintCell is the cell
-//    whose candidates are tried and HintCellCount the cell decided; in 36
-//    HintCellCount is the digit tried through the unit and HintValueCount 0 when
-//    the decided digit is always false.
-//  - Kind 29, type 3: HintCells[1..4] the corners, [3] and [4] the roof, [5] the
-//    cell that makes the naked pair with the roof, HintCellCount 5; the house is
-//    the one those three cells share (a line before the box).
-//  - Kind 34: HintCell, HintRow, HintColumn and, for rule 6, HintValueCount hold a
-//    candidate coded as cell + 81 x (digit - 1). HintCells[1..HintCellCount] are
-//    the coloured candidates in the same code, HintValues[k] the colour of entry
-//    k by its sign.
-//  - Kind 37: the digits (HintValues[1..HintValueCount]) are read; the truth
-//    rows, the link columns and the link cells follow from them and the board,
-//    the removals are the hit's conclusions.
+// What each kind keeps where is written once, beside the code in the solver that
+// fills the record (the file named beside the kind in settings/hint_kind.h).
 #pragma once
 
 #include <span>
@@ -44,24 +27,24 @@ std::vector<int> DigitsOf(const Board& board, int cell);
 // Entries first..last (1-based) of a hint list.
 std::vector<int> ListPart(const HintRecord::List& list, int first, int last);
 
-// Kind 3: the line inside the box that the digit keeps to.
+// PointingPair: the line inside the box that the digit keeps to.
 struct PointingLine {
     bool row;
     int line;
 };
 PointingLine PointingLineOf(const HintRecord& hint);
 
-// Kinds 6, 7, 13: the lines of the square of HintCells, in list order.
+// XWing, Swordfish and Jellyfish: the lines of the square of HintCells, in list order.
 struct FishLines {
     std::vector<int> rows, columns;
 };
 FishLines FishLinesOf(const HintRecord& hint);
 
-// Kinds 16 and 17: the top left cell of the box the cells share, or -1 when the
-// form names none.
+// AlignedPairExclusion and AlignedTripleExclusion: the top left cell of the box the cells share, or
+// -1 when the form names none.
 int ExclusionBoxLeftTop(const HintRecord& hint);
 
-// Kind 29, type 3: the house of the naked pair with the roof.
+// UniqueRectangle, type 3: the house of the naked pair with the roof.
 enum class HouseKind { Row, Column, Box };
 HouseKind RectangleType3House(const HintRecord& hint);
 
@@ -71,15 +54,15 @@ struct DigitRemoval {
     std::vector<int> cells;
 };
 
-// Kinds 32 and 33: the two sets and what the hit removes, by digit ascending.
+// BiValueALSxz and ALSxz: the two sets and what the hit removes, by digit ascending.
 struct AlsPair {
-    std::vector<int> first, second;  // kind 32: the bi-value cell, then the set
+    std::vector<int> first, second;  // BiValueALSxz: the bi-value cell, then the set
     bool doublyLinked = false;
     std::vector<DigitRemoval> removals;
 };
 AlsPair AlsPairOf(const HintRecord& hint);
 
-// Kind 34: a candidate in the code of the record.
+// Medusa3D: a candidate in the code of the record.
 struct MedusaCandidate {
     int cell, digit;
 };
@@ -90,7 +73,7 @@ inline MedusaCandidate DecodeMedusa(int code) {
 // Rule 4: the cells, ascending, that lose the digit, as the hit concluded them.
 std::vector<int> MedusaRule4Cells(const HintRecord& hint);
 
-// Kind 37: the counting pattern of the four digits on the board.
+// MultiFish: the counting pattern of the four digits on the board.
 struct MultiFishPattern {
     std::vector<int> digits;       // as the record lists them
     std::vector<int> truthRows;    // rows where none of the digits stands

@@ -13,10 +13,11 @@ std::string_view Pick(const std::array<std::string_view, 6>& names, int index) {
 }  // namespace
 
 std::string_view HintName(const HintRecord& hint) {
-    if (hint.HintKind < 1 || hint.HintKind > kHintKindCount) return {};
-    const auto& names = kHintKinds[hint.HintKind].names;
+    const int number = KindNumber(hint.HintKind);
+    if (number < 1 || number > kHintKindCount) return {};
+    const auto& names = kHintKinds[std::size_t(number)].names;
     switch (hint.HintKind) {
-        case 5:
+        case HintKind::Subset:
             // The sign tells naked from hidden; there is no hidden quad or quint.
             if (hint.HintVariant > 0) {
                 if (hint.HintCellCount < 2 || hint.HintCellCount > 5) return {};
@@ -24,9 +25,9 @@ std::string_view HintName(const HintRecord& hint) {
             }
             if (hint.HintCellCount < 2 || hint.HintCellCount > 3) return {};
             return names[hint.HintCellCount + 2];
-        case 28:
-        case 29:
-        case 31: return Pick(names, hint.HintVariant - 1);
+        case HintKind::NiceLoop:
+        case HintKind::UniqueRectangle:
+        case HintKind::AIC: return Pick(names, hint.HintVariant - 1);
         default: return names[0];
     }
 }

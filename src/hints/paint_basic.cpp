@@ -40,7 +40,7 @@ void HiddenSingle(HintPainter& p, const HintRecord& h) {
     PaintPlacement(p, cell, h.HintNumber);
 }
 
-// Kind 3: the digit keeps to one line inside the box, so the rest of the line loses it.
+// PointingPair: the digit keeps to one line inside the box, so the rest of the line loses it.
 void PointingPair(HintPainter& p, const HintRecord& h) {
     if (!InRange(h.HintCell, 80) || !InRange(h.HintVariant, 5)) return;
     p.ZetHintBlok(h.HintCell, kPatternCell);
@@ -55,7 +55,7 @@ void PointingPair(HintPainter& p, const HintRecord& h) {
         }
 }
 
-// Kind 4: the digit keeps to the box on its line, so the rest of the box loses it.
+// BoxLineReduction: the digit keeps to the box on its line, so the rest of the box loses it.
 void BoxLine(HintPainter& p, const HintRecord& h) {
     if (!InRange(h.HintCell, 80)) return;
     const auto line = HouseCells(h.HintVariant, h.HintRow, h.HintColumn, 0);
@@ -106,17 +106,18 @@ void Subset(HintPainter& p, const HintRecord& h) {
 
 void PaintBasic(HintPainter& p, const HintRecord& h) {
     switch (h.HintKind) {
-        case 1: PaintPlacement(p, h.HintCell, h.HintNumber); break;
-        case 2: HiddenSingle(p, h); break;
-        case 3: PointingPair(p, h); break;
-        case 4: BoxLine(p, h); break;
-        case 5: Subset(p, h); break;
-        case 20: PaintPlacement(p, h.HintCell, h.HintNumber); break;
-        case 24:
+        case HintKind::NakedSingle: PaintPlacement(p, h.HintCell, h.HintNumber); break;
+        case HintKind::HiddenSingle: HiddenSingle(p, h); break;
+        case HintKind::PointingPair: PointingPair(p, h); break;
+        case HintKind::BoxLineReduction: BoxLine(p, h); break;
+        case HintKind::Subset: Subset(p, h); break;
+        case HintKind::Bifurcation: PaintPlacement(p, h.HintCell, h.HintNumber); break;
+        case HintKind::BivalueUniversalGrave:
             p.ZetHintVak(h.HintCell, kChainCell);
             for (int d : ListPart(h.HintValues, 1, h.HintValueCount))
                 p.ZetHintNummer(h.HintCell, d, kAttackedCandidates);
             break;
+        default: break;  // not a kind of this family
     }
 }
 

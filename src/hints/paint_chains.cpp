@@ -17,7 +17,7 @@ void SimpleColors(HintPainter& p, const HintRecord& h) {
     const int n = h.HintNumber;
     auto first = ListPart(h.HintCells, 1, h.HintCellCount);
     auto second = ListPart(h.HintValues, 1, h.HintValueCount);
-    if (h.HintKind == 12) {
+    if (h.HintKind == HintKind::SimpleColorsTrap) {
         for (int c : first) {
             p.ZetHintVak(c, kChainCell);
             p.ZetHintNummer(c, n, kBaseCandidates);
@@ -35,21 +35,23 @@ void SimpleColors(HintPainter& p, const HintRecord& h) {
     }
     p.ZetHintVak(h.HintCell, kChainCell);
     p.ZetHintVak(h.HintVariant, kAttackingCell);
-    if (h.HintKind != 12 || !ValidCell(h.HintCell) || !ValidCell(h.HintVariant)) return;
+    if (h.HintKind != HintKind::SimpleColorsTrap || !ValidCell(h.HintCell) ||
+        !ValidCell(h.HintVariant))
+        return;
     // A trap: what sees both colours loses the digit.
     const int ends[] = {h.HintCell, h.HintVariant};
     for (int c : SeenByAll(ends))
         if (!Contains(first, c) && !Contains(second, c)) p.ZetAttackedCell(c, n);
 }
 
-// Kinds 18 and 19. A cell enters the chain by one digit and leaves it by the
+// XYChain and DoubleImplicationChain. A cell enters the chain by one digit and leaves it by the
 // other: the first cell enters by the chain's digit, every later cell by the
 // exit digit of the cell before.
 void XYChain(HintPainter& p, const HintRecord& h) {
     const auto cells = ListPart(h.HintCells, 1, h.HintCellCount);
     if (cells.empty() || !std::all_of(cells.begin(), cells.end(), ValidCell)) return;
     const int n = h.HintNumber;
-    const bool doubleImplication = h.HintKind == 19;
+    const bool doubleImplication = h.HintKind == HintKind::DoubleImplicationChain;
     for (size_t i = 0; i < cells.size(); ++i) {
         const bool end = i == 0 || i + 1 == cells.size();
         const int entry = i == 0 ? n : h.HintValues[i];
@@ -70,12 +72,12 @@ void XYChain(HintPainter& p, const HintRecord& h) {
     AttackSeenByAll(p, ends, n);
 }
 
-// Kinds 22 and 23 code each coloured cell with its colour: cell + 81 x colour,
-// colours 0 and 1 the first cluster, 2 and 3 the second.
+// MultiColoringType1 and MultiColoringType2 (coded as chains/multi_colors.cpp
+// writes them): colours 0 and 1 the first cluster, 2 and 3 the second.
 void MultiColors(HintPainter& p, const HintRecord& h) {
     const int n = h.HintNumber;
     const auto entries = ListPart(h.HintCells, 1, h.HintCellCount);
-    if (h.HintKind == 22) {
+    if (h.HintKind == HintKind::MultiColoringType1) {
         // The colours that are false, then the ones that stay.
         for (int e : entries) {
             if (e < 0) continue;
@@ -102,7 +104,7 @@ void MultiColors(HintPainter& p, const HintRecord& h) {
         p.ZetHintVak(c, kAttackingCell);
 }
 
-// Kinds 28 and 31. Each cell of the loop is painted with the roles of cell and
+// NiceLoop and AIC. Each cell of the loop is painted with the roles of cell and
 // candidate swapped (the candidate role for the cell, the cell role for the
 // digit); this has always been so and sets the loops apart on the board.
 // `digitAt(i)` is the digit of entry i.
@@ -148,14 +150,15 @@ void Loop(HintPainter& p, const HintRecord& h, DigitAt digitAt) {
 
 void PaintChain(HintPainter& p, const HintRecord& h) {
     switch (h.HintKind) {
-        case 12:
-        case 21: SimpleColors(p, h); break;
-        case 18:
-        case 19: XYChain(p, h); break;
-        case 22:
-        case 23: MultiColors(p, h); break;
-        case 28: Loop(p, h, [&](int) { return h.HintNumber; }); break;
-        case 31: Loop(p, h, [&](int i) { return h.HintValues[i]; }); break;
+        case HintKind::SimpleColorsTrap:
+        case HintKind::SimpleColorsWrap: SimpleColors(p, h); break;
+        case HintKind::XYChain:
+        case HintKind::DoubleImplicationChain: XYChain(p, h); break;
+        case HintKind::MultiColoringType1:
+        case HintKind::MultiColoringType2: MultiColors(p, h); break;
+        case HintKind::NiceLoop: Loop(p, h, [&](int) { return h.HintNumber; }); break;
+        case HintKind::AIC: Loop(p, h, [&](int i) { return h.HintValues[i]; }); break;
+        default: break;  // not a kind of this family
     }
 }
 

@@ -21,7 +21,7 @@ std::vector<int> UnitBut(int kind, int index, int a, int b) {
     return out;
 }
 
-// Kinds 6, 7 and 13: the base lines and the cross lines, the digit gone from the
+// XWing, Swordfish and Jellyfish: the base lines and the cross lines, the digit gone from the
 // cross lines, and the square's cells as the attackers.
 void Fish(HintPainter& p, const HintRecord& h) {
     const FishLines lines = FishLinesOf(h);
@@ -87,7 +87,7 @@ void MultiValueXWing(HintPainter& p, const HintRecord& h) {
         p.ZetHintNummer(c, y, kAttackingCandidates);
 }
 
-// Kind 9. The target would rule out the near end of the conjugate pair and so
+// EmptyRectangle. The target would rule out the near end of the conjugate pair and so
 // force the far end; the far end closes one crossing line of the box, the target
 // the other.
 void EmptyRectangle(HintPainter& p, const HintRecord& h) {
@@ -188,14 +188,15 @@ void Skyscraper(HintPainter& p, const HintRecord& h) {
 
 void PaintFish(HintPainter& p, const HintRecord& h) {
     switch (h.HintKind) {
-        case 6:
-        case 7:
-        case 13: Fish(p, h); break;
-        case 8: MultiValueXWing(p, h); break;
-        case 9: EmptyRectangle(p, h); break;
-        case 15: FinnedXWing(p, h); break;
-        case 25: TwoStringKite(p, h); break;
-        case 26: Skyscraper(p, h); break;
+        case HintKind::XWing:
+        case HintKind::Swordfish:
+        case HintKind::Jellyfish: Fish(p, h); break;
+        case HintKind::MultiValueXWing: MultiValueXWing(p, h); break;
+        case HintKind::EmptyRectangle: EmptyRectangle(p, h); break;
+        case HintKind::FinnedXWing: FinnedXWing(p, h); break;
+        case HintKind::TwoStringKite: TwoStringKite(p, h); break;
+        case HintKind::Skyscraper: Skyscraper(p, h); break;
+        default: break;  // not a kind of this family
     }
 }
 

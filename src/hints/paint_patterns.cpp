@@ -11,7 +11,7 @@ namespace {
 
 bool ValidCell(int cell) { return cell >= 0 && cell < 81; }
 
-// Kinds 10, 11 and 14: the cells that see every holder of the digit among the
+// XYWing, XYZWing and WXYZWing: the cells that see every holder of the digit among the
 // pattern lose it (the hit's removals); the first cell is the stem (or hinge),
 // the others branches.
 void Wing(HintPainter& p, const HintRecord& h, int size, bool stemHoldsDigit) {
@@ -36,8 +36,9 @@ void WXYZWing(HintPainter& p, const HintRecord& h) {
     if (hingeHolds && ValidCell(h.HintCells[1])) p.ZetHintVak(h.HintCells[1], kAttackingCell);
 }
 
-// Kinds 16 and 17: `size` cells of which each loses the digits that its tag
-// marks in HintValues; the further cells of HintCells did the reducing.
+// AlignedPairExclusion and AlignedTripleExclusion (the record as FillExclusion
+// in patterns/exclusion.cpp writes it): `size` cells of which each loses the
+// digits that its tag marks in HintValues; the further cells did the reducing.
 void Exclusion(HintPainter& p, const HintRecord& h, int size) {
     const int form = h.HintVariant;
     if (form >= 1 && form <= 4) {
@@ -55,7 +56,6 @@ void Exclusion(HintPainter& p, const HintRecord& h, int size) {
         p.ZetHintVak(c, kChainCell);
         PaintCandidates(p, c, kChainCandidates);
     }
-    // Each entry names its cell: the sign in kind 16, the tens and hundreds in 17.
     std::vector<int> eliminated;
     for (int v : ListPart(h.HintValues, 1, h.HintValueCount)) {
         int index = -1, digit = 0;
@@ -112,8 +112,8 @@ void SueDeCoq(HintPainter& p, const HintRecord& h) {
     AttackRemovals(p, h);
 }
 
-// Kinds 29 and 30: the corners with the roles of cell and candidate swapped, as
-// the chains paint their loops, then what the hit removes.
+// UniqueRectangle and AvoidableRectangle: the corners with the roles of cell and candidate swapped,
+// as the chains paint their loops, then what the hit removes.
 void Rectangle(HintPainter& p, const HintRecord& h) {
     const auto corners = ListPart(h.HintCells, 1, 4);
     if (!std::all_of(corners.begin(), corners.end(), ValidCell)) return;
@@ -129,14 +129,15 @@ void Rectangle(HintPainter& p, const HintRecord& h) {
 
 void PaintPattern(HintPainter& p, const HintRecord& h) {
     switch (h.HintKind) {
-        case 10: Wing(p, h, 3, false); break;
-        case 11: Wing(p, h, 3, true); break;
-        case 14: WXYZWing(p, h); break;
-        case 16: Exclusion(p, h, 2); break;
-        case 17: Exclusion(p, h, 3); break;
-        case 27: SueDeCoq(p, h); break;
-        case 29:
-        case 30: Rectangle(p, h); break;
+        case HintKind::XYWing: Wing(p, h, 3, false); break;
+        case HintKind::XYZWing: Wing(p, h, 3, true); break;
+        case HintKind::WXYZWing: WXYZWing(p, h); break;
+        case HintKind::AlignedPairExclusion: Exclusion(p, h, 2); break;
+        case HintKind::AlignedTripleExclusion: Exclusion(p, h, 3); break;
+        case HintKind::SueDeCoq: SueDeCoq(p, h); break;
+        case HintKind::UniqueRectangle:
+        case HintKind::AvoidableRectangle: Rectangle(p, h); break;
+        default: break;  // not a kind of this family
     }
 }
 

@@ -70,7 +70,8 @@ void Medusa(HintPainter& p, const HintRecord& h) {
     }
 }
 
-// Kinds 35 and 36: the target cell, and the candidates the hit takes from it.
+// ForcingChainFromCell and ForcingChainFromUnit: the target cell, and the candidates the hit takes
+// from it.
 void ForcingTarget(HintPainter& p, const HintRecord& h, int target) {
     p.ZetHintVak(target, kPatternCell);
     for (const Conclusion& c : h.Conclusions)
@@ -105,16 +106,17 @@ void MultiFish(HintPainter& p, const HintRecord& h) {
 
 void PaintSet(HintPainter& p, const HintRecord& h) {
     switch (h.HintKind) {
-        case 32:
-        case 33: Als(p, h); break;
-        case 34: Medusa(p, h); break;
-        case 35:
+        case HintKind::BiValueALSxz:
+        case HintKind::ALSxz: Als(p, h); break;
+        case HintKind::Medusa3D: Medusa(p, h); break;
+        case HintKind::ForcingChainFromCell:
             p.ZetHintVak(h.HintCell, kAttackingCell);
             PaintCandidates(p, h.HintCell, kAttackingCandidates);
             ForcingTarget(p, h, h.HintCellCount);
             break;
-        case 36: ForcingFromUnit(p, h); break;
-        case 37: MultiFish(p, h); break;
+        case HintKind::ForcingChainFromUnit: ForcingFromUnit(p, h); break;
+        case HintKind::MultiFish: MultiFish(p, h); break;
+        default: break;  // not a kind of this family
     }
 }
 

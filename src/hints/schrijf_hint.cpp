@@ -20,7 +20,7 @@ std::string SchrijfHint(const HintRecord& hint, const Board& board) {
 }
 
 HintRecord RecordAfterSchrijfHint(HintRecord hint) {
-    if (hint.HintKind == 3) {
+    if (hint.HintKind == HintKind::PointingPair) {
         const auto line = hints::PointingLineOf(hint);
         (line.row ? hint.HintRow : hint.HintColumn) = line.line;
     }

@@ -17,7 +17,7 @@ namespace tavi {
 // where the form would have been chosen.
 std::string SchrijfHint(const HintRecord& hint, const Board& board);
 
-// The record as the sentence writer leaves it: a pointing pair (kind 3) keeps the
+// The record as the sentence writer leaves it: a PointingPair keeps the
 // line it names, in HintRow for segments 0..2 and in HintColumn for 3..5. Every
 // other field, and every other kind, comes back as it was.
 HintRecord RecordAfterSchrijfHint(HintRecord hint);

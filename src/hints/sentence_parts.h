@@ -33,7 +33,7 @@ inline std::string ColOfCellText(int cell) {
     return cell >= 0 && cell < 81 ? ColText(cell % 9) : "";
 }
 
-// The nine box names in reading order, "top left" to "bottom right". Kind 2 alone
+// The nine box names in reading order, "top left" to "bottom right". HiddenSingle alone
 // spells the middle one "center"; it says so where it asks.
 inline std::string_view BoxName(int box, bool american = false) {
     static constexpr std::string_view kNames[9] = {"top left",    "top middle",    "top right",

@@ -12,8 +12,8 @@
 namespace tavi::hints {
 
 // The head of `kind` in its form `form` (see kHintKinds).
-inline std::string Head(int kind, int form = 0) {
-    return std::string(kHintKinds[kind].heads[form]);
+inline std::string Head(HintKind kind, int form = 0) {
+    return std::string(kHintKinds[std::size_t(KindNumber(kind))].heads[form]);
 }
 
 // Singles, intersections, subsets, bifurcation and the bivalue grave: 1..5, 20, 24.

@@ -18,12 +18,12 @@ int RowColumnBox(int row, int column) {
 }
 
 std::string NakedSingle(const HintRecord& h) {
-    return Head(1) + "Since number " + Number(h.HintNumber) + " at cell " +
+    return Head(HintKind::NakedSingle) + "Since number " + Number(h.HintNumber) + " at cell " +
            CellText(9 * h.HintRow + h.HintColumn) + " is the only one possible, it must be there";
 }
 
 std::string HiddenSingle(const HintRecord& h) {
-    std::string s = Head(2) + "Since number " + Number(h.HintNumber);
+    std::string s = Head(HintKind::HiddenSingle) + "Since number " + Number(h.HintNumber);
     switch (h.HintVariant) {
         case 3:
             // The one place where the middle box is spelt "center".
@@ -40,7 +40,8 @@ std::string HiddenSingle(const HintRecord& h) {
 }
 
 std::string PointingPair(const HintRecord& h) {
-    std::string s = Head(3) + "Since number " + Number(h.HintNumber) + " in the ";
+    std::string s =
+        Head(HintKind::PointingPair) + "Since number " + Number(h.HintNumber) + " in the ";
     s += BoxNameOfLeftTop(h.HintCell);
     s += " block appears only in ";
     if (h.HintVariant < 0 || h.HintVariant > 5) return s;
@@ -53,7 +54,7 @@ std::string PointingPair(const HintRecord& h) {
 }
 
 std::string BoxLine(const HintRecord& h) {
-    std::string s = Head(4) + "Since number " + Number(h.HintNumber);
+    std::string s = Head(HintKind::BoxLineReduction) + "Since number " + Number(h.HintNumber);
     if (h.HintVariant == 2)
         s += " in column " + ColText(h.HintColumn) + " appears only";
     else if (h.HintVariant == 1)
@@ -85,7 +86,8 @@ std::string Subset(const HintRecord& h) {
 
     if (h.HintVariant > 0) {
         if (h.HintCellCount < 2 || h.HintCellCount > 5) return {};
-        std::string s = Head(5, h.HintCellCount - 2) + "Since cells " + JoinList(cells);
+        std::string s =
+            Head(HintKind::Subset, h.HintCellCount - 2) + "Since cells " + JoinList(cells);
         if (house > 3) return s;
         static constexpr const char* kUnit[] = {"", "row", "column", "block"};
         return s + where + " contains only the candidates " + JoinList(digits) +
@@ -93,7 +95,8 @@ std::string Subset(const HintRecord& h) {
     }
     // Hidden sets come in pairs and triples only.
     if (h.HintCellCount < 2 || h.HintCellCount > 3) return {};
-    std::string s = Head(5, h.HintCellCount + 2) + "Since candidates " + JoinList(digits);
+    std::string s =
+        Head(HintKind::Subset, h.HintCellCount + 2) + "Since candidates " + JoinList(digits);
     if (house < 1 || house > 3) return s;
     return s + where + " only occurs in cells " + JoinList(cells) +
            ", all other candidates can be discarded from those cells.";
@@ -103,18 +106,18 @@ std::string Subset(const HintRecord& h) {
 
 std::string BasicSentence(const HintRecord& h) {
     switch (h.HintKind) {
-        case 1: return NakedSingle(h);
-        case 2: return HiddenSingle(h);
-        case 3: return PointingPair(h);
-        case 4: return BoxLine(h);
-        case 5: return Subset(h);
-        case 20:
-            return Head(20) + "Single guessing that number " + Number(h.HintNumber) +
-                   " would be truth for cell " + CellText(h.HintCell) +
+        case HintKind::NakedSingle: return NakedSingle(h);
+        case HintKind::HiddenSingle: return HiddenSingle(h);
+        case HintKind::PointingPair: return PointingPair(h);
+        case HintKind::BoxLineReduction: return BoxLine(h);
+        case HintKind::Subset: return Subset(h);
+        case HintKind::Bifurcation:
+            return Head(HintKind::Bifurcation) + "Single guessing that number " +
+                   Number(h.HintNumber) + " would be truth for cell " + CellText(h.HintCell) +
                    " will lead to the solution of this sudoku using only the implemented "
                    "techniques.";
-        case 24:
-            return Head(24) +
+        case HintKind::BivalueUniversalGrave:
+            return Head(HintKind::BivalueUniversalGrave) +
                    "The only unsolved cell that is not a bi-value cell cannot contain candidates "
                    "that only occurs twice in the row, column and box this cell belongs to.";
         default: return {};

@@ -9,7 +9,8 @@ namespace tavi::hints {
 
 namespace {
 
-// Kinds 12 and 21 share the opening that names the two colours of the cluster.
+// SimpleColorsTrap and SimpleColorsWrap share the opening that names the two colours of the
+// cluster.
 std::string Colours(const HintRecord& h) {
     return Head(h.HintKind) + "In the chain/cluster of adjacent cells, all holding candidate " +
            Number(h.HintNumber) + ", either cells " +
@@ -26,7 +27,7 @@ std::string XYChain(const HintRecord& h) {
     const std::string opening = Head(h.HintKind) + "If number " + n + " would be truth for cell " +
                                 first + ", this would force a chain through cell(s) " + inner +
                                 " to cell " + last;
-    if (h.HintKind == 19)
+    if (h.HintKind == HintKind::DoubleImplicationChain)
         return opening + " who would also have number " + n + " as it's solution. " +
                " Since each number can be only once in each row, column or box, this is a "
                "forbidden situation, so number " +
@@ -46,7 +47,7 @@ std::string MultiColoring(const HintRecord& h) {
         Head(h.HintKind) + "From two seperated chains of adjacent cells, all holding candidate " +
         Number(h.HintNumber) +
         ", where the adjacent cells from each chain form two groups of alternating candidates, ";
-    if (h.HintKind == 22)
+    if (h.HintKind == HintKind::MultiColoringType1)
         return opening +
                "at least one chain has a group of alternating candidates that can be removed, "
                "because the joint candidates of that group can see at least one member of both "
@@ -100,17 +101,17 @@ std::string NiceLoop(const HintRecord& h) {
     const std::string last = CellText(At(h.HintCells, h.HintCellCount));
     switch (h.HintVariant) {
         case 3:
-            return Head(28) + "Weak Discontinuity in X-Cycle on candidate " + n + " =>" +
-                   " Loop starts at cell " + last + " through cells" +
+            return Head(HintKind::NiceLoop) + "Weak Discontinuity in X-Cycle on candidate " + n +
+                   " =>" + " Loop starts at cell " + last + " through cells" +
                    LoopSteps(h, 1, h.HintCellCount - 1, false) + " and back to cell " + last +
                    " who looses the candidate as solution.";
         case 2:
-            return Head(28) + "Strong Discontinuity in X-Cycle on candidate " + n + " =>" +
-                   " Loop starts at cell " + first + " through cells" +
+            return Head(HintKind::NiceLoop) + "Strong Discontinuity in X-Cycle on candidate " + n +
+                   " =>" + " Loop starts at cell " + first + " through cells" +
                    LoopSteps(h, 2, h.HintCellCount - 1, false) + " and back to cell " + first +
                    " who must have the candidate as solution.";
         case 1:
-            return Head(28) + "Alternating X-Cycle on candidate " + n + " =>" +
+            return Head(HintKind::NiceLoop) + "Alternating X-Cycle on candidate " + n + " =>" +
                    " Loop starts at cell " + first + " through cells" +
                    LoopSteps(h, 2, h.HintCellCount - 1, false) + " and back to cell " + first +
                    "." +
@@ -119,7 +120,7 @@ std::string NiceLoop(const HintRecord& h) {
                    "candidate." +
                    OwnNodes(RemovedNodes(h, false), " Cell(s) ",
                             " of the X-Cycle itself will loose that candidate as well.");
-        default: return Head(28);
+        default: return Head(HintKind::NiceLoop);
     }
 }
 
@@ -130,25 +131,25 @@ std::string Aic(const HintRecord& h) {
     const std::string lastDigit = Number(At(h.HintValues, h.HintValueCount));
     switch (h.HintVariant) {
         case 3:
-            return Head(31) + "Weak Discontinuity on candidate " + lastDigit + " =>" +
+            return Head(HintKind::AIC) + "Weak Discontinuity on candidate " + lastDigit + " =>" +
                    " Loop starts at cell " + last + " through cells/candidates" +
                    LoopSteps(h, 1, h.HintCellCount - 1, true) + " and back to cell " + last +
                    " who looses candidate " + lastDigit + " as solution.";
         case 2:
-            return Head(31) + "Strong Discontinuity on candidate " + firstDigit + " =>" +
+            return Head(HintKind::AIC) + "Strong Discontinuity on candidate " + firstDigit + " =>" +
                    " Loop starts at cell " + first + " through cells/candidates" +
                    LoopSteps(h, 2, h.HintCellCount - 1, true) + " and back to cell " + first +
                    " who must have candidate " + firstDigit + " as solution.";
         case 1:
-            return Head(31) + "Cycle starting with candidate " + firstDigit + " in cell " + first +
-                   " through cells/candidates" + LoopSteps(h, 2, h.HintCellCount - 1, true) +
-                   " and back to cell " + first + "." +
+            return Head(HintKind::AIC) + "Cycle starting with candidate " + firstDigit +
+                   " in cell " + first + " through cells/candidates" +
+                   LoopSteps(h, 2, h.HintCellCount - 1, true) + " and back to cell " + first + "." +
                    " Candidate(s) not participating to any weak link inside a cell, and for any "
                    "weak link between 2 cells, that same candidate in other cells sharing that "
                    "same house, can be removed." +
                    OwnNodes(RemovedNodes(h, true), " Candidate(s) ",
                             " of the chain itself can be removed as well.");
-        default: return Head(31);
+        default: return Head(HintKind::AIC);
     }
 }
 
@@ -156,22 +157,22 @@ std::string Aic(const HintRecord& h) {
 
 std::string ChainSentence(const HintRecord& h) {
     switch (h.HintKind) {
-        case 12:
+        case HintKind::SimpleColorsTrap:
             return Colours(h) + "Since either cell " + CellText(h.HintCell) + " OR cell " +
                    CellText(h.HintVariant) +
                    " must contain the candidate, any other cell seen by both those cells will "
                    "loose this candidate.";
-        case 21:
+        case HintKind::SimpleColorsWrap:
             return Colours(h) + "Since cell " + CellText(h.HintCell) + " AND cell " +
                    CellText(h.HintVariant) +
                    " both belong to the same adjacent group AND both those cells are sharing the "
                    "same house, that whole adjacent group of cells will loose this candidate.";
-        case 18:
-        case 19: return XYChain(h);
-        case 22:
-        case 23: return MultiColoring(h);
-        case 28: return NiceLoop(h);
-        case 31: return Aic(h);
+        case HintKind::XYChain:
+        case HintKind::DoubleImplicationChain: return XYChain(h);
+        case HintKind::MultiColoringType1:
+        case HintKind::MultiColoringType2: return MultiColoring(h);
+        case HintKind::NiceLoop: return NiceLoop(h);
+        case HintKind::AIC: return Aic(h);
         default: return {};
     }
 }

@@ -23,15 +23,18 @@ std::vector<std::string> ColumnsText(const std::vector<int>& columns) {
     return out;
 }
 
-// Kinds 6, 7 and 13: one shape, two, three or four lines each way.
+// XWing, Swordfish and Jellyfish: one shape, two, three or four lines each way.
 std::string Fish(const HintRecord& h) {
     const FishLines lines = FishLinesOf(h);
     const auto rows = JoinList(RowsText(lines.rows));
     const auto columns = JoinList(ColumnsText(lines.columns));
-    const char* count = h.HintKind == 6 ? "two" : h.HintKind == 7 ? "three" : "four";
+    const char* count = h.HintKind == HintKind::XWing       ? "two"
+                        : h.HintKind == HintKind::Swordfish ? "three"
+                                                            : "four";
     std::string s = Head(h.HintKind) + "Since number " + Number(h.HintNumber);
-    s += h.HintKind == 6 ? " appears only twice in both "
-                         : std::string(" appears maximum ") + count + " times in each ";
+    s += h.HintKind == HintKind::XWing
+             ? " appears only twice in both "
+             : std::string(" appears maximum ") + count + " times in each ";
     if (h.HintVariant == 2)
         return s + "column " + columns + ", and this number appears in the same " + count +
                " rows " + rows + ", this number can't appear anywhere else in these rows";
@@ -90,27 +93,29 @@ std::string MultiValueXWing(const HintRecord& h) {
             where2 = kFrom + "column " + ColOfCellText(q);
             rest1 = rest2 = kRest + "that column";
             break;
-        default: return Head(8) + "Since number " + a;
+        default: return Head(HintKind::MultiValueXWing) + "Since number " + a;
     }
-    return Head(8) + "Since number " + a + u1 + " is reserved for either cell " + CellText(p) +
-           " or cell " + CellText(q) + " and number " + b + u2 + " is reserved for either cell " +
-           CellText(s) + " or cell " + CellText(t) + clash + x + where1 + ", or number " + y +
-           where2 + ". This means that number " + x + " is forced to either cell " + CellText(p) +
+    return Head(HintKind::MultiValueXWing) + "Since number " + a + u1 +
+           " is reserved for either cell " + CellText(p) + " or cell " + CellText(q) +
+           " and number " + b + u2 + " is reserved for either cell " + CellText(s) + " or cell " +
+           CellText(t) + clash + x + where1 + ", or number " + y + where2 +
+           ". This means that number " + x + " is forced to either cell " + CellText(p) +
            " or cell " + CellText(s) + rest1 + ", and it also means that number " + y +
            " is forced to either cell " + CellText(q) + " or cell " + CellText(t) + rest2;
 }
 
 std::string EmptyRectangle(const HintRecord& h) {
-    return Head(9) + "If value " + Number(h.HintNumber) + " would be true for cell " +
-           CellText(h.HintCell) + ", this would force that value to cell " +
-           CellText(h.HintCells[1]) +
+    return Head(HintKind::EmptyRectangle) + "If value " + Number(h.HintNumber) +
+           " would be true for cell " + CellText(h.HintCell) +
+           ", this would force that value to cell " + CellText(h.HintCells[1]) +
            ", and that would remove that value as a candidate in all the cells from the " +
            std::string(BoxNameOfLeftTop(h.HintVariant)) + " block, " + "this means that cell " +
            CellText(h.HintCell) + " can't have that value as a candidate";
 }
 
 std::string FinnedXWing(const HintRecord& h) {
-    std::string s = Head(15) + "Since number " + Number(h.HintNumber) + " appears only twice in ";
+    std::string s = Head(HintKind::FinnedXWing) + "Since number " + Number(h.HintNumber) +
+                    " appears only twice in ";
     const int a = h.HintCells[3], b = h.HintCells[4], fin = h.HintCells[5];
     if (h.HintVariant == 2) {
         s += "column " + ColText(h.HintColumn) + " and" +
@@ -144,7 +149,7 @@ std::string FinnedXWing(const HintRecord& h) {
 }
 
 std::string TwoStringKite(const HintRecord& h) {
-    std::string s = Head(25) + "Candidate " + Number(h.HintNumber) +
+    std::string s = Head(HintKind::TwoStringKite) + "Candidate " + Number(h.HintNumber) +
                     " conjugates in Two Strings, with a mutual Kite. The Row String is Row " +
                     RowText(h.HintRow) + ", the Column String is Column " + ColText(h.HintColumn) +
                     ", and the Kite is ";
@@ -163,9 +168,10 @@ std::string Skyscraper(const HintRecord& h) {
     else if (h.HintVariant == 1)
         lines = "rows", cross = "column";
     else
-        return Head(26);
-    return Head(26) + "In both of 2 " + lines + ", each with 2 adjacent cells holding candidate " +
-           Number(h.HintNumber) + ", one of these cells are sharing the same " + cross +
+        return Head(HintKind::Skyscraper);
+    return Head(HintKind::Skyscraper) + "In both of 2 " + lines +
+           ", each with 2 adjacent cells holding candidate " + Number(h.HintNumber) +
+           ", one of these cells are sharing the same " + cross +
            ". Since either or none of these cells will hold the candidate as solution, at least "
            "one of the other adjacent cells must. So any cell seen by both of those adjacent "
            "cells will lose that candidate as solution.";
@@ -175,14 +181,14 @@ std::string Skyscraper(const HintRecord& h) {
 
 std::string FishSentence(const HintRecord& h) {
     switch (h.HintKind) {
-        case 6:
-        case 7:
-        case 13: return Fish(h);
-        case 8: return MultiValueXWing(h);
-        case 9: return EmptyRectangle(h);
-        case 15: return FinnedXWing(h);
-        case 25: return TwoStringKite(h);
-        case 26: return Skyscraper(h);
+        case HintKind::XWing:
+        case HintKind::Swordfish:
+        case HintKind::Jellyfish: return Fish(h);
+        case HintKind::MultiValueXWing: return MultiValueXWing(h);
+        case HintKind::EmptyRectangle: return EmptyRectangle(h);
+        case HintKind::FinnedXWing: return FinnedXWing(h);
+        case HintKind::TwoStringKite: return TwoStringKite(h);
+        case HintKind::Skyscraper: return Skyscraper(h);
         default: return {};
     }
 }

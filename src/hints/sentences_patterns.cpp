@@ -10,17 +10,17 @@ namespace tavi::hints {
 namespace {
 
 std::string XYWing(const HintRecord& h) {
-    return Head(10) + "Any value for cell " + CellText(h.HintCells[1]) + " forces number " +
-           Number(h.HintNumber) + " to either cell " + CellText(h.HintCells[2]) + " or cell " +
-           CellText(h.HintCells[3]) +
+    return Head(HintKind::XYWing) + "Any value for cell " + CellText(h.HintCells[1]) +
+           " forces number " + Number(h.HintNumber) + " to either cell " +
+           CellText(h.HintCells[2]) + " or cell " + CellText(h.HintCells[3]) +
            ", so any cell in the row, column or block that both of these cells can see, can't "
            "have that number as a candidate";
 }
 
 std::string XYZWing(const HintRecord& h) {
-    return Head(11) + "Any other value for cell " + CellText(h.HintCells[1]) + " then number " +
-           Number(h.HintNumber) + " forces this number to either cell " + CellText(h.HintCells[2]) +
-           " or cell " + CellText(h.HintCells[3]) +
+    return Head(HintKind::XYZWing) + "Any other value for cell " + CellText(h.HintCells[1]) +
+           " then number " + Number(h.HintNumber) + " forces this number to either cell " +
+           CellText(h.HintCells[2]) + " or cell " + CellText(h.HintCells[3]) +
            ", so any cell in the row, column or block that those three cells can see, can't have "
            "that number as a candidate";
 }
@@ -30,12 +30,12 @@ std::string WXYZWing(const HintRecord& h) {
                                CellText(h.HintCells[3]) + " or cell " + CellText(h.HintCells[4]);
     // Form 1: the hinge holds the digit too, so all four cells take part.
     if (h.HintVariant == 1)
-        return Head(14) + "Any other value for cell " + CellText(h.HintCells[1]) + " then number " +
-               Number(h.HintNumber) + " forces this number" + others +
+        return Head(HintKind::WXYZWing) + "Any other value for cell " + CellText(h.HintCells[1]) +
+               " then number " + Number(h.HintNumber) + " forces this number" + others +
                ", so any cell in the row, column or block that those four cells can see, can't "
                "have that number as a candidate";
-    return Head(14) + "Any value for cell " + CellText(h.HintCells[1]) + " will force number " +
-           Number(h.HintNumber) + others +
+    return Head(HintKind::WXYZWing) + "Any value for cell " + CellText(h.HintCells[1]) +
+           " will force number " + Number(h.HintNumber) + others +
            ", so any cell in the row, column or block that those three cells can see, can't have "
            "that number as a candidate";
 }
@@ -60,8 +60,9 @@ std::string EliminationClauses(const std::vector<std::vector<std::string>>& digi
 std::string PairExclusion(const HintRecord& h) {
     const int form = h.HintVariant;
     if (form < 0 || form > 4) return {};
-    std::string s = Head(16, (form + 1) / 2) + "All possible combinations between cell " +
-                    CellText(h.HintCells[1]) + " and cell " + CellText(h.HintCells[2]);
+    std::string s = Head(HintKind::AlignedPairExclusion, (form + 1) / 2) +
+                    "All possible combinations between cell " + CellText(h.HintCells[1]) +
+                    " and cell " + CellText(h.HintCells[2]);
     if (form == 0)
         s += " ";
     else if (form % 2 == 1)
@@ -85,9 +86,9 @@ std::string PairExclusion(const HintRecord& h) {
 std::string TripleExclusion(const HintRecord& h) {
     const int form = h.HintVariant;
     if (form < 1 || form > 4) return {};
-    std::string s = Head(17, form >= 3) + "All possible combinations between cell " +
-                    CellText(h.HintCells[1]) + ", cell " + CellText(h.HintCells[2]) + " and cell " +
-                    CellText(h.HintCells[3]);
+    std::string s = Head(HintKind::AlignedTripleExclusion, form >= 3) +
+                    "All possible combinations between cell " + CellText(h.HintCells[1]) +
+                    ", cell " + CellText(h.HintCells[2]) + " and cell " + CellText(h.HintCells[3]);
     if (form % 2 == 1)
         s += ", who all share row " + RowText(h.HintRow) + ExclusionBox(h);
     else
@@ -124,8 +125,9 @@ std::string SueDeCoq(const HintRecord& h) {
     const std::string intersection =
         " can appear in the unsolved cells from the intersection between " + unit + " " + line +
         " and the " + box + " block as solution.";
-    return Head(27) + "Only one of the candidates " + group(h.HintCells, h.HintCellCount) +
-           intersection + " Therefore any other cell sharing that same " + unit +
+    return Head(HintKind::SueDeCoq) + "Only one of the candidates " +
+           group(h.HintCells, h.HintCellCount) + intersection +
+           " Therefore any other cell sharing that same " + unit +
            " cannot have one of those candidates as solution." + " Only one of the candidates " +
            group(h.HintValues, h.HintValueCount) + intersection +
            " Therefore any other cell sharing that same box cannot have one of those candidates "
@@ -137,7 +139,7 @@ std::string SueDeCoq(const HintRecord& h) {
 }
 
 std::string UniqueRectangle(const HintRecord& h) {
-    const std::string head = Head(29, h.HintVariant == 5);
+    const std::string head = Head(HintKind::UniqueRectangle, h.HintVariant == 5);
     const std::string n = Number(h.HintNumber);
     switch (h.HintVariant) {
         case 1:
@@ -169,25 +171,25 @@ std::string UniqueRectangle(const HintRecord& h) {
 std::string AvoidableRectangle(const HintRecord& h) {
     // A third digit in the rectangle turns the single removal into a roof's one.
     if (h.HintValueCount == 2)
-        return Head(30) + "Candidate " + Number(h.HintNumber) + " can be removed from cell " +
-               CellText(h.HintCells[4]);
-    return Head(30) + "All cells holding candidate " + Number(h.HintNumber) +
-           " sharing the same house with cells " + CellText(h.HintCells[3]) + " and " +
-           CellText(h.HintCells[4]) + " will loose that candidate as a solution.";
+        return Head(HintKind::AvoidableRectangle) + "Candidate " + Number(h.HintNumber) +
+               " can be removed from cell " + CellText(h.HintCells[4]);
+    return Head(HintKind::AvoidableRectangle) + "All cells holding candidate " +
+           Number(h.HintNumber) + " sharing the same house with cells " + CellText(h.HintCells[3]) +
+           " and " + CellText(h.HintCells[4]) + " will loose that candidate as a solution.";
 }
 
 }  // namespace
 
 std::string PatternSentence(const HintRecord& h) {
     switch (h.HintKind) {
-        case 10: return XYWing(h);
-        case 11: return XYZWing(h);
-        case 14: return WXYZWing(h);
-        case 16: return PairExclusion(h);
-        case 17: return TripleExclusion(h);
-        case 27: return SueDeCoq(h);
-        case 29: return UniqueRectangle(h);
-        case 30: return AvoidableRectangle(h);
+        case HintKind::XYWing: return XYWing(h);
+        case HintKind::XYZWing: return XYZWing(h);
+        case HintKind::WXYZWing: return WXYZWing(h);
+        case HintKind::AlignedPairExclusion: return PairExclusion(h);
+        case HintKind::AlignedTripleExclusion: return TripleExclusion(h);
+        case HintKind::SueDeCoq: return SueDeCoq(h);
+        case HintKind::UniqueRectangle: return UniqueRectangle(h);
+        case HintKind::AvoidableRectangle: return AvoidableRectangle(h);
         default: return {};
     }
 }

@@ -22,7 +22,7 @@ std::string Cells(const std::vector<int>& cells, std::string_view join) {
 std::string Als(const HintRecord& h) {
     const AlsPair pair = AlsPairOf(h);
     std::string s = Head(h.HintKind, h.HintRow != 0);
-    if (h.HintKind == 32)
+    if (h.HintKind == HintKind::BiValueALSxz)
         s += "Bi-Value cell=" + CellText(h.HintCell) + " ; ALS cells=" + Cells(pair.second, "/");
     else
         s += "ALS1 cells=" + Cells(pair.first, "/") + " ; ALS2 cells=" + Cells(pair.second, "/");
@@ -36,7 +36,7 @@ std::string Als(const HintRecord& h) {
 }
 
 std::string Medusa(const HintRecord& h, const Board& board) {
-    std::string s = Head(34) + Number(h.HintVariant) + " : ";
+    std::string s = Head(HintKind::Medusa3D) + Number(h.HintVariant) + " : ";
     const MedusaCandidate start = DecodeMedusa(h.HintCell);
     const MedusaCandidate a = DecodeMedusa(h.HintRow), b = DecodeMedusa(h.HintColumn);
     const std::string chain =
@@ -126,7 +126,8 @@ std::string ForcingVerdict(bool alwaysFalse, int target) {
 }
 
 std::string ForcingFromUnit(const HintRecord& h) {
-    std::string s = Head(36) + "Whatever candidate " + Number(h.HintCellCount);
+    std::string s =
+        Head(HintKind::ForcingChainFromUnit) + "Whatever candidate " + Number(h.HintCellCount);
     switch (h.HintVariant) {
         case 3: s += " is true for box " + Number(h.HintRow + 1); break;
         case 2: s += " is true for column " + ColText(h.HintColumn); break;
@@ -157,9 +158,9 @@ std::string MultiFish(const HintRecord& h, const Board& board) {
         rows.push_back(RowText(r));
     for (int c : p.linkColumns)
         columns.push_back(ColText(c));
-    std::string s = Head(37) + JoinList(digits) + ". " + " Truths are found in Rows " +
-                    JoinList(rows) + ". " + " Links are found in Columns " + JoinList(columns) +
-                    ". " +
+    std::string s = Head(HintKind::MultiFish) + JoinList(digits) + ". " +
+                    " Truths are found in Rows " + JoinList(rows) + ". " +
+                    " Links are found in Columns " + JoinList(columns) + ". " +
                     "Any unsolved cell in these columns not belonging to the Rows of the Thruths, "
                     "will loose the MultiFish candidates as possibility. ";
     if (!p.outside.empty()) s += "You can remove " + RemovalItems(p.outside) + ". ";
@@ -178,15 +179,15 @@ std::string MultiFish(const HintRecord& h, const Board& board) {
 
 std::string SetSentence(const HintRecord& h, const Board& board) {
     switch (h.HintKind) {
-        case 32:
-        case 33: return Als(h);
-        case 34: return Medusa(h, board);
-        case 35:
-            return Head(35) + "Whatever candidate is true for cell " + CellText(h.HintCell) +
-                   ", candidate " + Number(h.HintNumber) +
+        case HintKind::BiValueALSxz:
+        case HintKind::ALSxz: return Als(h);
+        case HintKind::Medusa3D: return Medusa(h, board);
+        case HintKind::ForcingChainFromCell:
+            return Head(HintKind::ForcingChainFromCell) + "Whatever candidate is true for cell " +
+                   CellText(h.HintCell) + ", candidate " + Number(h.HintNumber) +
                    ForcingVerdict(h.HintVariant < 0, h.HintCellCount);
-        case 36: return ForcingFromUnit(h);
-        case 37: return MultiFish(h, board);
+        case HintKind::ForcingChainFromUnit: return ForcingFromUnit(h);
+        case HintKind::MultiFish: return MultiFish(h, board);
         default: return {};
     }
 }

@@ -35,9 +35,11 @@ bool Bifurcation(SolveContext& ctx) {
             ctx.stepSize = {.links = 0, .trials = trials};
 
             if (ctx.HintOnly()) {
+                // The record of Bifurcation: HintCell the cell and HintNumber the digit
+                // placed.
                 ctx.hint.HintCell = cell;
                 ctx.hint.HintNumber = digit;
-                ctx.hint.HintKind = 20;
+                ctx.hint.HintKind = HintKind::Bifurcation;
                 PlaceDigit(ctx, digit, cell);
                 return true;
             }

@@ -16,6 +16,7 @@
 #include <string>
 
 #include "grid/tables.h"
+#include "settings/hint_kind.h"
 
 namespace tavi {
 
@@ -73,15 +74,18 @@ struct HintRecord {
     static constexpr int kListCapacity = 81 * 9;
     using List = std::array<int, kListCapacity + 1>;
 
-    int HintKind = 0;     // 1..37: selects the sentence and the caption
-    int HintVariant = 0;  // the form of the kind; signed (kind 5 uses negative values)
+    // Selects the sentence, the colours and the caption. The field keeps the name
+    // of its type, so the type is named in full here.
+    tavi::HintKind HintKind = tavi::HintKind::None;
+    int HintVariant = 0;  // the form of the kind; signed (a subset's is negative when hidden)
     int HintRow = 0;
     int HintColumn = 0;
     int HintCell = 0;  // a cell, or the top left cell of a box
     int HintNumber = 0;
 
-    // 1-based lists; entry 0 is unused. Kinds 12, 21, 27 and 33 keep cells in
-    // HintValues, and kinds 35 and 36 keep a cell or a digit in HintCellCount.
+    // 1-based lists; entry 0 is unused. Which fields a kind fills, and what they
+    // mean, is written once beside the code that fills them (the file named beside
+    // the kind in settings/hint_kind.h).
     List HintCells{};
     int HintCellCount = 0;
     List HintValues{};

@@ -35,7 +35,9 @@ struct Rung : RungEntry {
     RungOutcome (*run)(SolveContext&);
     int level;  // what a hit raises SolvingLevel to
 
-    bool Fills(int kind) const { return kind != 0 && (kind == kinds[0] || kind == kinds[1]); }
+    bool Fills(HintKind kind) const {
+        return kind != HintKind::None && (kind == kinds[0] || kind == kinds[1]);
+    }
 };
 
 // All rungs in their fixed order. Technique 7 stands six times (the subsets);

@@ -87,7 +87,7 @@ TEST_F(Practice, TheFirstHintOfTheChosenTechniqueIsMarked) {
             g.CommandHint();
             const std::string& text = g.TextHint();
             if (text == kNoLogicalHints) break;
-            const int kind = g.LastHint().HintKind;
+            const HintKind kind = g.LastHint().HintKind;
             bool ofTechnique = false, ofOthers = false;  // some kinds serve several rungs
             for (const Rung& r : LadderRungs())
                 if (r.Fills(kind)) (r.number == choice.technique ? ofTechnique : ofOthers) = true;

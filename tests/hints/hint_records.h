@@ -16,7 +16,7 @@ namespace tavi::testing {
 
 class Record {
   public:
-    explicit Record(int kind) : h_(MarkedHint()) { h_.HintKind = kind; }
+    explicit Record(HintKind kind) : h_(MarkedHint()) { h_.HintKind = kind; }
 
     Record& variant(int v) { return h_.HintVariant = v, *this; }
     Record& row(int v) { return h_.HintRow = v, *this; }
@@ -60,9 +60,6 @@ inline void ExpectSentences(std::initializer_list<SentenceCase> cases,
         EXPECT_EQ(SchrijfHint(c.hint, board), c.sentence)
             << "kind " << c.hint.HintKind << " variant " << c.hint.HintVariant;
 }
-
-// A candidate of Medusa's records: cell + 81 x (digit - 1).
-constexpr int Coded(int cell, int digit) { return cell + 81 * (digit - 1); }
 
 // The board after a paint list: the last role painted on each cell and on each
 // candidate of each cell, -1 where nothing is painted.

@@ -75,19 +75,23 @@ std::optional<Steps> Named(const HintRecord& h, const Board& board, const std::s
             Steps{{CellOf((*m)[cellGroup].str()), std::stoi((*m)[digitGroup].str()), placed}});
     };
     switch (h.HintKind) {
-        case 1: return one("Since number (\\d) at cell ([A-HJ]\\d)", 1, 2, true);
-        case 2: return one("Since number (\\d) .*appears only at cell ([A-HJ]\\d)", 1, 2, true);
-        case 20: return one("number (\\d) would be truth for cell ([A-HJ]\\d)", 1, 2, true);
-        case 9: return one("If value (\\d) .*this means that cell ([A-HJ]\\d) can't", 1, 2, false);
-        case 15: {
+        case HintKind::NakedSingle:
+            return one("Since number (\\d) at cell ([A-HJ]\\d)", 1, 2, true);
+        case HintKind::HiddenSingle:
+            return one("Since number (\\d) .*appears only at cell ([A-HJ]\\d)", 1, 2, true);
+        case HintKind::Bifurcation:
+            return one("number (\\d) would be truth for cell ([A-HJ]\\d)", 1, 2, true);
+        case HintKind::EmptyRectangle:
+            return one("If value (\\d) .*this means that cell ([A-HJ]\\d) can't", 1, 2, false);
+        case HintKind::FinnedXWing: {
             const auto m = Find(s, "Since number (\\d) .*this number can't appear in cells? (.*)$");
             if (!m) return Steps{{-1, 0, false}};
             for (int c : CellsIn((*m)[2].str()))
                 out.insert({c, std::stoi((*m)[1].str()), false});
             return out;
         }
-        case 16:
-        case 17: {
+        case HintKind::AlignedPairExclusion:
+        case HintKind::AlignedTripleExclusion: {
             static const std::regex kClause(
                 "number\\(s\\) ([1-9](?:(?:, | and )[1-9])*) can be eliminated as candidate\\(s\\) "
                 "for cell ([A-HJ][1-9])");
@@ -96,7 +100,7 @@ std::optional<Steps> Named(const HintRecord& h, const Board& board, const std::s
                     out.insert({CellOf(m[2].str()), d, false});
             return out;
         }
-        case 29:
+        case HintKind::UniqueRectangle:
             if (const auto m = Find(s,
                                     "Type 1 => Candidates (\\d) and (\\d) can be removed from "
                                     "cell ([A-HJ]\\d)")) {
@@ -113,10 +117,10 @@ std::optional<Steps> Named(const HintRecord& h, const Board& board, const std::s
             if (h.HintVariant == 5)
                 return one("Candidate (\\d) can be removed from cell ([A-HJ]\\d)", 1, 2, false);
             return std::nullopt;
-        case 30:
+        case HintKind::AvoidableRectangle:
             if (h.HintValueCount != 2) return std::nullopt;
             return one("Candidate (\\d) can be removed from cell ([A-HJ]\\d)", 1, 2, false);
-        case 28:
+        case HintKind::NiceLoop:
             if (h.HintVariant == 3)
                 return one("on candidate (\\d) =>.* and back to cell ([A-HJ]\\d) who looses", 1, 2,
                            false);
@@ -124,15 +128,15 @@ std::optional<Steps> Named(const HintRecord& h, const Board& board, const std::s
                 return one("on candidate (\\d) =>.* and back to cell ([A-HJ]\\d) who must have", 1,
                            2, true);
             return std::nullopt;
-        case 31:
+        case HintKind::AIC:
             if (h.HintVariant == 3)
                 return one("and back to cell ([A-HJ]\\d) who looses candidate (\\d)", 2, 1, false);
             if (h.HintVariant == 2)
                 return one("and back to cell ([A-HJ]\\d) who must have candidate (\\d)", 2, 1,
                            true);
             return std::nullopt;
-        case 32:
-        case 33: {
+        case HintKind::BiValueALSxz:
+        case HintKind::ALSxz: {
             static const std::regex kRemoval(
                 " ; Candidate ([1-9]) removed from cell\\(s\\)((?: "
                 "[A-HJ][1-9])+)");
@@ -141,7 +145,7 @@ std::optional<Steps> Named(const HintRecord& h, const Board& board, const std::s
                     out.insert({c, std::stoi(m[1].str()), false});
             return out;
         }
-        case 34: {
+        case HintKind::Medusa3D: {
             if (h.HintVariant != 4) return std::nullopt;
             const auto m = Find(s,
                                 "opposite coloured candidates (\\d) in cells .*can be removed "
@@ -151,8 +155,8 @@ std::optional<Steps> Named(const HintRecord& h, const Board& board, const std::s
                 out.insert({c, std::stoi((*m)[1].str()), false});
             return out;
         }
-        case 35:
-        case 36: {
+        case HintKind::ForcingChainFromCell:
+        case HintKind::ForcingChainFromUnit: {
             if (const auto m =
                     Find(s, "candidate (\\d) will allways be false for cell ([A-HJ]\\d)"))
                 return Steps{{CellOf((*m)[2].str()), std::stoi((*m)[1].str()), false}};
@@ -164,7 +168,7 @@ std::optional<Steps> Named(const HintRecord& h, const Board& board, const std::s
                 if (d != digit && board.Has(d, cell)) out.insert({cell, d, false});
             return out;
         }
-        case 37: {
+        case HintKind::MultiFish: {
             static const std::regex kRemoval("([1-9]) from ([A-HJ][1-9])");
             for (const auto& m : AllOf(s, kRemoval))
                 out.insert({CellOf(m[2].str()), std::stoi(m[1].str()), false});
@@ -178,19 +182,22 @@ std::optional<Steps> Named(const HintRecord& h, const Board& board, const std::s
 // cells keep the digit, and an AIC's candidates that take part in a link inside a
 // cell stay. A removal against that claim must be told in the sentence.
 std::string LoopClaimFault(const HintRecord& h, const std::string& sentence) {
-    if ((h.HintKind != 28 && h.HintKind != 31) || h.HintVariant != 1) return {};
+    if ((h.HintKind != HintKind::NiceLoop && h.HintKind != HintKind::AIC) || h.HintVariant != 1)
+        return {};
     std::string faults;
     for (const Conclusion& c : h.Conclusions) {
         bool node = false;
         for (int i = 1; i <= h.HintCellCount; ++i)
-            if (h.HintCells[i] == c.cell && (h.HintKind == 28 || h.HintValues[i] == c.digit))
+            if (h.HintCells[i] == c.cell &&
+                (h.HintKind == HintKind::NiceLoop || h.HintValues[i] == c.digit))
                 node = true;
         if (!node) continue;
         // The sentence owns up to it by naming the node as the chain names it.
-        const std::string named =
-            h.HintKind == 28 ? CellName(c.cell) : CellName(c.cell) + "/" + std::to_string(c.digit);
-        const size_t end =
-            sentence.find(h.HintKind == 28 ? "will loose that candidate." : "can be removed.");
+        const std::string named = h.HintKind == HintKind::NiceLoop
+                                      ? CellName(c.cell)
+                                      : CellName(c.cell) + "/" + std::to_string(c.digit);
+        const size_t end = sentence.find(
+            h.HintKind == HintKind::NiceLoop ? "will loose that candidate." : "can be removed.");
         if (end == std::string::npos || sentence.find(named, end) == std::string::npos)
             faults += "a node of the loop, " + named + ", goes unsaid\n";
     }
@@ -202,7 +209,7 @@ std::string LoopClaimFault(const HintRecord& h, const std::string& sentence) {
 // end sees the target.
 std::string EmptyRectangleClaimFault(const HintRecord& h, const Board& board,
                                      const std::string& sentence) {
-    if (h.HintKind != 9) return {};
+    if (h.HintKind != HintKind::EmptyRectangle) return {};
     const auto m = Find(sentence,
                         "If value (\\d) would be true for cell ([A-HJ]\\d), this would "
                         "force that value to cell ([A-HJ]\\d)");

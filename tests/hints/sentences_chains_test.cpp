@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The sentences of the colours, the chains, the almost locked sets, Medusa, the
-// forcing chains and MultiFish, from records filled as their techniques fill them.
-// The kinds that tell more than they keep are given boards to work it out from.
+// Sentences from records filled by hand, as their techniques fill them, for what
+// the technique cases (tests/data/rung_cases.txt) do not reach. The kinds that
+// tell more than they keep are given boards to work it out from.
 #include <gtest/gtest.h>
 
 #include "hints/hint_records.h"
@@ -14,14 +14,15 @@ using testing::ExpectSentences, testing::OpenBoard, testing::Record, testing::Se
 
 // The ALS sentences list exactly what the hit takes away, by digit and then by
 // cell, whatever else the sets share: a singly linked pair takes only z, and a
-// doubly linked one may take a digit from a cell of the other set.
+// doubly linked one may take a digit from a cell of the other set. (Hits of two
+// sets are told in the technique cases.)
 TEST(SchrijfHint, AlsListsExactlyTheRemovalsOfTheHit) {
     // A1 {1,2} against B2 {1,3} and C3 {2,3} in the same box.
     Board bivalue = OpenBoard();
     SetCandidates(bivalue, 0, {1, 2});
     SetCandidates(bivalue, 10, {1, 3});
     SetCandidates(bivalue, 20, {2, 3});
-    const Record single = Record(32)
+    const Record single = Record(HintKind::BiValueALSxz)
                               .cell(0)
                               .number(1)
                               .variant(2)
@@ -40,45 +41,46 @@ TEST(SchrijfHint, AlsListsExactlyTheRemovalsOfTheHit) {
                       "Candidate 2 removed from cell(s) A2 A3 B1 ; Candidate 3 removed from "
                       "cell(s) A2."}},
                     bivalue);
-
-    // A1 {1,2}, A2 {2,3} against E1 {1,3}, E2 {3,4}: 1 is restricted through
-    // column 1, and 3 goes where its three holders are all seen.
-    Board sets = OpenBoard();
-    SetCandidates(sets, 0, {1, 2});
-    SetCandidates(sets, 1, {2, 3});
-    SetCandidates(sets, 36, {1, 3});
-    SetCandidates(sets, 37, {3, 4});
-    ExpectSentences({{Record(33)
-                          .number(1)
-                          .variant(3)
-                          .row(0)
-                          .column(0)
-                          .cells({0, 1})
-                          .values({36, 37})
-                          .removed(46, 3)
-                          .removed(28, 3),
-                      "ALSxz: ALS1 cells=A1/A2 ; ALS2 cells=E1/E2 ; Restricted candidate=1 ; "
-                      "Candidate 3 removed from cell(s) D2 F2."}},
-                    sets);
 }
 
-// The unit form of a forcing chain that places a digit: no generated board has
-// shown one, so its sentence is held here.
-TEST(SchrijfHint, ForcingFromAUnitThatPlacesADigit) {
+// Forms no real hit leaves: no kind, a form the kind does not have, a forcing
+// chain from a unit that places a digit, and a Sue-de-Coq group of three cells
+// (real ones have one or two), named as a list.
+TEST(SchrijfHint, FormsNoRealHitLeaves) {
     ExpectSentences({
-        {Record(36).variant(2).column(0).cell(80).number(2).cellCount(7).valueCount(3),
+        {Record(HintKind::ForcingChainFromUnit)
+             .variant(2)
+             .column(0)
+             .cell(80)
+             .number(2)
+             .cellCount(7)
+             .valueCount(3),
          "Forcing Chain : Whatever candidate 7 is true for column 1, candidate 2 will allways be "
          "true for cell J9. Therefore all other candidates can be removed from that cell."},
-    });
-}
+        {Record(HintKind::SueDeCoq)
+             .row(-1)
+             .column(4)
+             .variant(4)
+             .cells({4, 13, 76})
+             .values({30, 50}),
+         "SUE-DE-COQ: Only one of the candidates common to cells A5, B5 and J5 can appear in the "
+         "unsolved cells from the intersection between column 5 and the centre block as "
+         "solution. Therefore any other cell sharing that same column cannot have one of those "
+         "candidates as solution. Only one of the candidates common to cells D4 and F6 can "
+         "appear in the unsolved cells from the intersection between column 5 and the centre "
+         "block as solution. Therefore any other cell sharing that same box cannot have one of "
+         "those candidates as solution. All candidates from the intersection cells, not common "
+         "to any cell listed in both previous statements, are exclusive to the intersection "
+         "cells. Therefore any other cell sharing that same column or box cannot have one of "
+         "those candidates as solution."},
 
-TEST(SchrijfHint, WritesNothingOutsideTheKindsAndStopsAtAnUnknownForm) {
-    ExpectSentences({
-        {Record(0), ""},
-        {Record(38), ""},
-        {Record(2).number(5).row(4).column(4).variant(4), "HIDDEN SINGLE: Since number 5"},
-        {Record(5).variant(-1).row(0).cells({0, 1, 2, 3}).values({1, 2, 3, 4}), ""},
-        {Record(36).variant(0).cellCount(7), "Forcing Chain : Whatever candidate 7"},
+        {Record(HintKind::None), ""},
+        {Record(HintKind(38)), ""},
+        {Record(HintKind::HiddenSingle).number(5).row(4).column(4).variant(4),
+         "HIDDEN SINGLE: Since number 5"},
+        {Record(HintKind::Subset).variant(-1).row(0).cells({0, 1, 2, 3}).values({1, 2, 3, 4}), ""},
+        {Record(HintKind::ForcingChainFromUnit).variant(0).cellCount(7),
+         "Forcing Chain : Whatever candidate 7"},
     });
 }
 

@@ -27,15 +27,13 @@ PrintSettings Settings(int perPageIndex, int pages, int from, bool current = fal
     return s;
 }
 
-TEST(PrintRange, LabelToCountsThePlacesAndGivesOneToTheOnScreenPuzzle) {
+TEST(PrintRange, CountsThePlacesAndGivesTheFirstToTheOnScreenPuzzleWhenThereIsOne) {
     EXPECT_EQ(LabelTo(Settings(1, 1, 5)), "to 6");
     EXPECT_EQ(LabelTo(Settings(2, 1, 1, true)), "to 3");
     EXPECT_EQ(LabelTo(Settings(0, 10, 1)), "to 10");
     EXPECT_EQ(LabelTo(Settings(2, 3, 7)), "to 18");
     EXPECT_EQ(LabelTo(Settings(0, 0, 4)), "to 4");  // the start value counts as one page
-}
-
-TEST(PrintRange, TheOnScreenPuzzleTakesTheFirstPlaceOnlyWhenThereIsOne) {
+    // The on-screen puzzle takes the first place only when there is one.
     PrintSnapshot snapshot;
     snapshot.Number = 42;
     auto slots = PlanJob(Settings(2, 2, 1, true), snapshot);

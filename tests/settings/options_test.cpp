@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "settings/options.h"
+#include "settings/options_form.h"
 
 #include <gtest/gtest.h>
 
@@ -110,6 +111,25 @@ TEST(HaalOpties, AValueOfTheWrongTypeGivesTheDefault) {
     EXPECT_EQ(std::tuple(o.techniques.OnOff[9], o.techniques.Halt[9], o.techniques.Order[9],
                          o.techniques.Halt[10], o.techniques.Halt[11]),
               std::tuple(1, 0, 9, 1, 0));
+}
+
+TEST(OptionsForm, TheSaveChoices) {
+    struct Case {
+        SaveChoice choice;
+        bool autoSave, askSave;
+    } cases[] = {{SaveChoice::Allways, true, true},
+                 {SaveChoice::Never, false, false},
+                 {SaveChoice::Ask, false, true}};
+    for (const Case& c : cases) {
+        Options o;
+        OptionsForm f = OptionsForm::From(o);
+        f.Save = c.choice;
+        f.ApplyTo(o);
+        EXPECT_EQ(std::pair(o.AutoSave, o.AskSave), std::pair(c.autoSave, c.askSave));
+        EXPECT_EQ(OptionsForm::From(o).Save, c.choice);
+    }
+    // A stored pair that no choice makes (save without asking, not asking) reads as Allways.
+    EXPECT_EQ(SaveChoiceOf(true, false), SaveChoice::Allways);
 }
 
 }  // namespace

@@ -16,7 +16,7 @@ TechniqueTables Read(const MemorySettingsStore& store) {
     return t;
 }
 
-TEST(TechniqueTables, TheFixedEntriesAreForcedWhateverTheStoreSays) {
+TEST(TechniqueTables, TheFixedEntriesAreForcedAndABrokenOrderIsReset) {
     MemorySettingsStore store;
     for (int i = 0; i < 40; ++i) {
         Put(store, "OnOff" + std::to_string(i), 0);
@@ -32,25 +32,24 @@ TEST(TechniqueTables, TheFixedEntriesAreForcedWhateverTheStoreSays) {
     EXPECT_EQ(t.Order[3], 3);
     EXPECT_EQ(t.Order[39], 39);
     EXPECT_TRUE(IsValidOrder(t.Order));
-}
 
-TEST(TechniqueTables, APositionOutsideTheRangeOrHeldTwiceBringsBackTheDefaultOrder) {
+    // A position outside the range or held twice brings back the default order.
     MemorySettingsStore outside;
     Put(outside, "Order8", 7);
     Put(outside, "Order9", 39);
     Put(outside, "Order10", -4);
     EXPECT_EQ(Read(outside).Order, DefaultTechniqueOrder());
 
-    MemorySettingsStore store;
+    MemorySettingsStore twice;
     // A good swap elsewhere, then the duplicate.
-    Put(store, "Order20", 30);
-    Put(store, "Order30", 20);
-    Put(store, "Order9", 10);
-    Put(store, "Order10", 10);
-    Put(store, "OnOff12", 0);
-    const TechniqueTables t = Read(store);
-    EXPECT_EQ(t.Order, DefaultTechniqueOrder());
-    EXPECT_EQ(t.OnOff[12], 0);  // only the order is reset
+    Put(twice, "Order20", 30);
+    Put(twice, "Order30", 20);
+    Put(twice, "Order9", 10);
+    Put(twice, "Order10", 10);
+    Put(twice, "OnOff12", 0);
+    const TechniqueTables reset = Read(twice);
+    EXPECT_EQ(reset.Order, DefaultTechniqueOrder());
+    EXPECT_EQ(reset.OnOff[12], 0);  // only the order is reset
 
     // A single entry moved out of a swap leaves a hole and a duplicate: reset too.
     MemorySettingsStore broken;

@@ -54,7 +54,9 @@ std::optional<Guess> FirstWorkingGuess(const Board& b, bool digitFirst) {
     return std::nullopt;
 }
 
-TEST(Bifurcation, GuessesDigitByDigitAndRestoresTheBoardBetweenTrials) {
+// On each stuck board the rung is run three ways: on the workbench, under a hint
+// (with ForceZet set, so the trials run for real) and while Autosolve plays.
+TEST(Bifurcation, GuessesDigitByDigitOnEverySideAndKeepsTheTrialsToItself) {
     int placed = 0, orderMatters = 0;
     for (const Board& stuck : StuckBoards(150)) {
         const auto expected = FirstWorkingGuess(stuck, true);
@@ -78,56 +80,36 @@ TEST(Bifurcation, GuessesDigitByDigitAndRestoresTheBoardBetweenTrials) {
         }
         ASSERT_EQ(testing::GridAndMarks(ctx.board), testing::GridAndMarks(after))
             << FormatDigits(stuck.CurrentGrid, '.');
+
+        // Under a hint the board comes back as it was and the record names the guess.
+        testing::RecordingListener heard;
+        SolveContext hint = testing::ContextOn(stuck, Side::Game);
+        ModeScope looking(hint, SolveMode{}.With(SolveMode::kHintOnly).With(SolveMode::kForceZet));
+        hint.listener = &heard;
+        hint.hint = testing::MarkedHint();
+        ASSERT_EQ(Bifurcation(hint), expected.has_value());
+        EXPECT_TRUE(hint.HintOnly() && hint.ForceZet()) << "the mode is as it was";
+        ASSERT_EQ(testing::GridAndMarks(hint.board), testing::GridAndMarks(stuck));
+        EXPECT_TRUE(heard.placed.empty() && heard.removed.empty());
+        if (!expected) continue;
+        const HintRecord& h = hint.hint;
+        EXPECT_EQ(h.HintKind, HintKind::Bifurcation);
+        EXPECT_EQ((Guess{h.HintNumber, h.HintCell}), *expected);
+        EXPECT_EQ(std::tuple(h.HintVariant, h.HintRow), std::tuple(-99, -99));
+
+        // While Autosolve plays, the guess is a move of the game; the trials are not.
+        testing::RecordingListener played;
+        SolveContext autosolve = testing::ContextOn(stuck, Side::Game);
+        ModeScope autosolving(autosolve, autosolve.Mode().With(SolveMode::kAutosolveActive));
+        autosolve.listener = &played;
+        ASSERT_TRUE(Bifurcation(autosolve));
+        EXPECT_EQ(played.placed,
+                  (std::vector<testing::Removal>{{expected->cell, expected->digit}}));
+        EXPECT_TRUE(played.removed.empty());
+        EXPECT_FALSE(autosolve.ForceZet());
     }
     EXPECT_GT(placed, 0);
     EXPECT_GT(orderMatters, 0) << "no board told digit order from cell order";
-    // With the forcing chains on the ladder, every one of these boards has a guess
-    // that the logic carries to the end; a board where all trials fail no longer
-    // comes out of generated puzzles.
-}
-
-// A hint reaches Bifurcation with ForceZet set: the trials run for real, the
-// board comes back as it was, and the record names the guess.
-TEST(Bifurcation, UnderAHintFillsKindTwentyAndChangesNothing) {
-    int hints = 0;
-    for (const Board& stuck : StuckBoards(60)) {
-        const auto expected = FirstWorkingGuess(stuck, true);
-        testing::RecordingListener listener;
-        SolveContext ctx = testing::ContextOn(stuck, Side::Game);
-        ModeScope looking(ctx, SolveMode{}.With(SolveMode::kHintOnly).With(SolveMode::kForceZet));
-        ctx.listener = &listener;
-        ctx.hint = testing::MarkedHint();
-        ASSERT_EQ(Bifurcation(ctx), expected.has_value());
-        EXPECT_TRUE(ctx.HintOnly() && ctx.ForceZet()) << "the mode is as it was";
-        ASSERT_EQ(testing::GridAndMarks(ctx.board), testing::GridAndMarks(stuck));
-        EXPECT_TRUE(listener.placed.empty() && listener.removed.empty());
-        if (!expected) continue;
-        ++hints;
-        const HintRecord& h = ctx.hint;
-        EXPECT_EQ(h.HintKind, 20);
-        EXPECT_EQ((Guess{h.HintNumber, h.HintCell}), *expected);
-        EXPECT_EQ(std::tuple(h.HintVariant, h.HintRow), std::tuple(-99, -99));
-    }
-    EXPECT_GT(hints, 0);
-}
-
-// While Autosolve plays, the guess is a move of the game; the trials are not.
-TEST(Bifurcation, AutosolvePlacesTheGuessThroughZetAuto) {
-    for (const Board& stuck : StuckBoards(40)) {
-        const auto expected = FirstWorkingGuess(stuck, true);
-        if (!expected) continue;
-        testing::RecordingListener listener;
-        SolveContext ctx = testing::ContextOn(stuck, Side::Game);
-        ModeScope autosolving(ctx, ctx.Mode().With(SolveMode::kAutosolveActive));
-        ctx.listener = &listener;
-        ASSERT_TRUE(Bifurcation(ctx));
-        EXPECT_EQ(listener.placed,
-                  (std::vector<testing::Removal>{{expected->cell, expected->digit}}));
-        EXPECT_TRUE(listener.removed.empty());
-        EXPECT_FALSE(ctx.ForceZet());
-        return;
-    }
-    FAIL() << "no stuck board with a working guess";
 }
 
 }  // namespace

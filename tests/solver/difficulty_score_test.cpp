@@ -7,18 +7,28 @@
 
 #include "grid/candidates.h"
 #include "grid/levels.h"
+#include "solver/hard_search.h"
 #include "support/puzzles.h"
 
 namespace tavi {
 namespace {
 
-TEST(DifficultyScore, EveryRungHasItsWeightBelowTheUnsolvedScore) {
+// A step of a rung weighs its weight at the least, and more for longer chains
+// and more trials; every weight lies below the unsolved score.
+TEST(DifficultyScore, EveryRungWeighsBelowTheUnsolvedScoreAndLongerStepsWeighMore) {
     const auto rungs = LadderRungs();
     const auto weight = [&](std::size_t i) { return kRungCatalog[i].weight; };
     for (std::size_t i = 0; i < rungs.size(); ++i) {
         EXPECT_GT(weight(i), 1.0) << "row " << i;
         EXPECT_LT(weight(i) + 2.3 + kMostExtent, kUnsolvedScore) << "row " << i;
+        const double shortest = StepDifficulty(rungs[i], {0, 1});
+        EXPECT_EQ(shortest, RungWeightOf(rungs[i])) << RungKey(rungs[i]);
+        EXPECT_GE(StepDifficulty(rungs[i], {16, 40}), shortest);
     }
+    const Rung& aic = RungsOf(29)[0];
+    EXPECT_GT(StepDifficulty(aic, {10, 0}), StepDifficulty(aic, {6, 0}));
+    const Rung& guess = RungsOf(39)[0];
+    EXPECT_GT(StepDifficulty(guess, {0, 30}), StepDifficulty(guess, {0, 3}));
     // The singles are the easiest, Bifurcation the hardest of all.
     for (std::size_t i = 2; i < rungs.size(); ++i)
         EXPECT_GT(weight(i), weight(1));
@@ -26,15 +36,28 @@ TEST(DifficultyScore, EveryRungHasItsWeightBelowTheUnsolvedScore) {
         EXPECT_LT(weight(i), weight(rungs.size() - 1));
 }
 
-// Over many generated puzzles: the run with the score rates exactly as the plain
-// run, twice alike, and the score lies between its hardest rung's weight and what
-// the bonuses and the extent can add to it.
+// Over many generated puzzles the runs that measure rate exactly as the plain
+// run. With the score, twice alike, the score lies between its hardest rung's
+// weight and what the bonuses and the extent can add to it. On the ladder with
+// its measures, the steps beyond the head, the singles and at the level fit it.
 TEST(DifficultyScore, SameRatingAsThePlainRunAndBoundedByTheHardestRung) {
     const auto& puzzles = testing::GeneratedPuzzles(300);
-    SolveContext plain(Side::Workbench), scored(Side::Workbench);
+    SolveContext plain(Side::Workbench), scored(Side::Workbench), measured(Side::Workbench);
     for (const GeneratedPuzzle& p : puzzles) {
         plain.board = BoardFromPuzzle(p.puzzle);
         const int level = SolveSudoku(plain, {}) ? plain.SolvingLevel : kOutlaw;
+        const LadderRating m = RateOnLadder(measured, p.puzzle);
+        ASSERT_EQ(m.level, level) << FormatDigits(p.puzzle);
+        EXPECT_EQ(LadderRungs()[m.hardestRung].level, m.level);
+        EXPECT_LE(m.stepsBeyondHead, m.stepsBeyondSingles);
+        EXPECT_LE(m.stepsBeyondSingles, m.steps);
+        EXPECT_GE(m.stepsAtLevel, 1);
+        // The head of the ladder rates Easy to Hard; every step beyond it is Crazy
+        // or harder, and Easy needs nothing but singles.
+        EXPECT_EQ(m.stepsBeyondHead > 0, m.level >= 4);
+        EXPECT_EQ(m.stepsBeyondSingles > 0, m.level >= 2);
+        EXPECT_EQ(std::tuple(m.cellsLeft, m.pairsAtLastRung), std::tuple(0, 0));
+
         const PuzzleRating r = RatePuzzleWithScore(scored, p.puzzle);
         ASSERT_EQ(r.level, level) << FormatDigits(p.puzzle);
         EXPECT_EQ(r.score, RatePuzzleWithScore(p.puzzle).score);
@@ -76,18 +99,6 @@ TEST(DifficultyScore, AStepMoreNeverLowersTheScore) {
         }
         EXPECT_EQ(tally.Score(false), kUnsolvedScore);
     }
-}
-
-TEST(DifficultyScore, LongerChainsAndMoreTrialsWeighMore) {
-    for (const Rung& rung : LadderRungs()) {
-        const double shortest = StepDifficulty(rung, {0, 1});
-        EXPECT_EQ(shortest, RungWeightOf(rung)) << RungKey(rung);
-        EXPECT_GE(StepDifficulty(rung, {16, 40}), shortest);
-    }
-    const Rung& aic = RungsOf(29)[0];
-    EXPECT_GT(StepDifficulty(aic, {10, 0}), StepDifficulty(aic, {6, 0}));
-    const Rung& guess = RungsOf(39)[0];
-    EXPECT_GT(StepDifficulty(guess, {0, 30}), StepDifficulty(guess, {0, 3}));
 }
 
 TEST(DifficultyScore, WrittenWithOneDecimal) {

@@ -22,51 +22,44 @@ const GeneratedPuzzle* PuzzleRated(int level) {
     return nullptr;
 }
 
-// The run says how it ended, whatever kind of run it is; its caller speaks.
-TEST(WorkbenchLadder, TellsItsOutcomeInEveryKindOfRun) {
-    const GeneratedPuzzle* p = PuzzleRated(1);
-    ASSERT_NE(p, nullptr);
-    for (const bool import : {false, true})
-        for (const bool check : {false, true}) {
-            SolveContext ctx = testing::ContextOn(BoardFromPuzzle(p->puzzle));
-            WorkbenchRun run;
-            run.ImportRunning = import;
-            run.CheckRunning = check;
-            const SolveOutcome outcome = SolveSudoku(ctx, run);
-            EXPECT_EQ(std::tuple(outcome.solved, outcome.full, outcome.level),
-                      std::tuple(true, true, 1));
-            EXPECT_EQ(ctx.SolvingLevel, 1);
-            EXPECT_EQ(ctx.board.CurrentGrid, p->solution);
-        }
-}
-
-TEST(WorkbenchLadder, ReportsProgressOnlyDuringABatch) {
+// A run says how it ended, whatever kind of run it is, and its caller speaks; a
+// batch (Check All, an import) writes its progress, a run alone shows none.
+TEST(WorkbenchLadder, TellsItsOutcomeAndReportsProgressOnlyInABatch) {
     const GeneratedPuzzle* p = PuzzleRated(3);
     ASSERT_NE(p, nullptr);
-    std::vector<std::string> texts;
-    WorkbenchRun run;
-    run.observer.progress = [&](const std::string& t) { texts.push_back(t); };
-    SolveContext ctx = testing::ContextOn(BoardFromPuzzle(p->puzzle));
-    SolveSudoku(ctx, run);
-    EXPECT_TRUE(texts.empty());
-
-    run.CheckRunning = true;
-    ctx.board = BoardFromPuzzle(p->puzzle);
-    SolveSudoku(ctx, run);
-    ASSERT_FALSE(texts.empty());
-    // Before anything is found the base text is still empty.
-    EXPECT_EQ(texts.front(), " - Scanning for Hidden Singles");
-    const std::set<std::string> seen(texts.begin(), texts.end());
-    EXPECT_TRUE(seen.count("Solving Sudoku : Rated Easy or higher - Scanning for Naked Singles"));
-    EXPECT_TRUE(seen.count("Solving Sudoku : Rated Hard or higher - Scanning for Hidden Singles"));
-
-    texts.clear();
-    run.ImportRunning = true;
-    ctx.board = BoardFromPuzzle(p->puzzle);
-    SolveSudoku(ctx, run);
-    EXPECT_TRUE(std::set<std::string>(texts.begin(), texts.end())
-                    .count("Solving Imported Sudoku : Rated Easy or higher - Scanning for "
-                           "Pointing Pairs"));
+    struct Case {
+        bool import, check;
+        const char* progress;  // one of the texts, or null for none
+    } cases[] = {
+        {false, false, nullptr},
+        {false, true, "Solving Sudoku : Rated Easy or higher - Scanning for Naked Singles"},
+        {true, false,
+         "Solving Imported Sudoku : Rated Easy or higher - Scanning for Pointing Pairs"},
+        {true, true, nullptr},
+    };
+    for (const Case& c : cases) {
+        std::vector<std::string> texts;
+        SolveContext ctx = testing::ContextOn(BoardFromPuzzle(p->puzzle));
+        WorkbenchRun run;
+        run.ImportRunning = c.import;
+        run.CheckRunning = c.check;
+        run.observer.progress = [&](const std::string& t) { texts.push_back(t); };
+        const SolveOutcome outcome = SolveSudoku(ctx, run);
+        EXPECT_EQ(std::tuple(outcome.solved, outcome.full, outcome.level),
+                  std::tuple(true, true, 3));
+        EXPECT_EQ(std::tuple(ctx.SolvingLevel, ctx.board.CurrentGrid), std::tuple(3, p->solution));
+        EXPECT_EQ(texts.empty(), !c.import && !c.check);
+        if (!c.progress) continue;
+        // Before anything is found the base text is still empty.
+        EXPECT_EQ(texts.front(), " - Scanning for Hidden Singles");
+        const std::set<std::string> seen(texts.begin(), texts.end());
+        EXPECT_TRUE(seen.count(c.progress));
+        if (c.check) {
+            EXPECT_TRUE(
+                seen.count("Solving Sudoku : Rated Hard or higher - Scanning for Hidden Singles"));
+        }
+    }
+}
 }
 
 TEST(WorkbenchLadder, FullBoardAndContradictions) {

@@ -2,14 +2,12 @@
 // Every technique case of tests/data/rung_cases.txt: the board, the technique, the
 // changes it makes on the workbench side, and the sentence and the colours its hint
 // writes on the game side. A technique's cases are data lines there, not a test of
-// their own. Every hint of those lines, and every hint on the board states of the
-// hard puzzles, tells and paints exactly what its hit concludes.
+// their own. Every hint of those lines tells and paints exactly what its hit
+// concludes (the soundness walk checks the same on the hard puzzles' boards).
 #include <gtest/gtest.h>
 
 #include <cctype>
 #include <fstream>
-#include <iostream>
-#include <map>
 #include <sstream>
 
 #include "grid/candidates.h"
@@ -17,8 +15,9 @@
 #include "hints/hint_search.h"
 #include "hints/hint_truth.h"
 #include "hints/schrijf_hint.h"
-#include "solver/brute_force.h"
 #include "solver/ladder.h"
+#include "solver/solutions.h"
+#include "support/boards.h"
 #include "support/puzzles.h"
 
 namespace tavi {
@@ -68,15 +67,6 @@ std::string CaseName(const ::testing::TestParamInfo<RungCase>& info) {
     return name;
 }
 
-// The solution of the givens when they have exactly one.
-std::optional<Digits> UniqueSolution(const Digits& givens) {
-    SolveContext ctx;
-    ctx.board.Puzzle = givens;
-    bool contradiction = false;
-    if (BruteForceSolutions(ctx, contradiction) != 1) return std::nullopt;
-    return ctx.board.CurrentGrid;
-}
-
 // One test per line: the technique finds what the line says on the workbench side,
 // and on the game side its hint writes the line's sentence and paints its colours.
 class RungCaseLine : public ::testing::TestWithParam<RungCase> {};
@@ -108,9 +98,9 @@ TEST_P(RungCaseLine, FindsWhatItSaysAndSaysIt) {
         }
 
         // Whatever a line expects, no technique may contradict a puzzle's one solution.
-        if (const auto solution = UniqueSolution(k.board.Puzzle)) {
+        if (const SolutionCount s = Solutions(k.board.Puzzle); s.count == 1) {
             for (const Conclusion& c : work.hint.Conclusions)
-                EXPECT_EQ(c.placed, (*solution)[c.cell] == c.digit)
+                EXPECT_EQ(c.placed, s.first[c.cell] == c.digit)
                     << CellName(c.cell) << (c.placed ? "=" : "-") << int(c.digit)
                     << " contradicts the solution";
         }
@@ -118,50 +108,6 @@ TEST_P(RungCaseLine, FindsWhatItSaysAndSaysIt) {
 }
 
 INSTANTIATE_TEST_SUITE_P(RungCases, RungCaseLine, ::testing::ValuesIn(ReadCases()), CaseName);
-
-// At every state of the hard puzzles where the fixed head of the ladder has
-// nothing left, every ordered rung that finds a hint on the game side must tell
-// and paint exactly what it concludes.
-TEST(RungCases, EveryHintOnTheHardBoardsTellsAndPaintsWhatItConcludes) {
-    const auto puzzles = testing::HardPuzzles();
-    ASSERT_GE(puzzles.size(), 300u) << "tests/data/hard_puzzles.txt";
-    std::vector<const Rung*> ordered;
-    for (const Rung& r : LadderRungs())
-        if (r.number >= kFirstOrderedTechnique && r.number != kBifurcationTechnique)
-            ordered.push_back(&r);
-    std::map<int, int> hintsOfKind;
-    for (size_t k = 0; k < puzzles.size(); ++k) {
-        SolveContext ctx(Side::Workbench);
-        ctx.board = BoardFromPuzzle(puzzles[k].puzzle);
-        bool tried = false;
-        int faults = 0;
-        WorkbenchRun run;
-        run.observer.before = [&](const Rung& rung) {
-            if (tried || rung.number < kFirstOrderedTechnique) return;
-            tried = true;
-            for (const Rung* r : ordered) {
-                SolveContext look(Side::Workbench);
-                look.board = ctx.board;
-                ModeScope looking(look, HintMode(look.Mode(), *r));
-                if (!r->run(look).found) continue;
-                ++hintsOfKind[look.hint.HintKind];
-                const std::string fault = testing::TruthFaults(look.hint, look.board);
-                if (fault.empty() || ++faults > 3) continue;
-                ADD_FAILURE() << "hard puzzle " << k + 1 << ", " << r->Name() << ", kind "
-                              << look.hint.HintKind << " on\n"
-                              << FormatBoardLine(look.board) << "\n"
-                              << SchrijfHint(look.hint, look.board) << "\n"
-                              << fault;
-            }
-        };
-        run.observer.hit = [&](const Rung&) { tried = false; };
-        SolveSudoku(ctx, run);
-    }
-    std::cout << "hints per kind:";
-    for (const auto& [kind, n] : hintsOfKind)
-        std::cout << ' ' << kind << ':' << n;
-    std::cout << '\n';
-}
 
 }  // namespace
 }  // namespace tavi

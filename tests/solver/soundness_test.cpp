@@ -1,17 +1,23 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Soundness of the whole ladder: over thousands of generated puzzles whose unique
 // solution is known, no rung may ever take away a true candidate or place a wrong
-// digit. The test walks the rung table, so every technique joins it by itself the
-// day it lands.
+// digit. And a hint must tell exactly the step that the same rung would take, and
+// change nothing. The tests walk the rung table, so every technique joins them by
+// itself the day it lands.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <fstream>
 #include <iostream>
 #include <sstream>
+#include <tuple>
 
 #include "grid/candidates.h"
-#include "solver/brute_force.h"
+#include "hints/hint_search.h"
+#include "hints/hint_truth.h"
 #include "solver/ladder.h"
+#include "solver/solutions.h"
+#include "support/boards.h"
 #include "support/puzzles.h"
 
 namespace tavi {
@@ -37,54 +43,65 @@ std::string Describe(const GeneratedPuzzle& p, const Rung& rung, int step,
     return s.str();
 }
 
+// The conclusions that turn `before` into `after`, as the board shows them:
+// digits placed, then candidates gone that no placement took with it.
+std::vector<Conclusion> ChangesOnBoard(const Board& before, const Board& after) {
+    std::vector<Conclusion> out;
+    Board placed = before;
+    for (int c = 0; c < 81; ++c)
+        if (after.CurrentGrid[c] != before.CurrentGrid[c]) {
+            out.push_back({std::uint8_t(c), after.CurrentGrid[c], true});
+            Zet(placed, after.CurrentGrid[c], c);
+        }
+    for (int c = 0; c < 81; ++c)
+        for (int d = 1; d <= 9; ++d)
+            if (placed.Has(d, c) && !after.Has(d, c))
+                out.push_back({std::uint8_t(c), std::uint8_t(d), false});
+    return out;
+}
+
+std::vector<Conclusion> Sorted(const ConclusionList& list) {
+    std::vector<Conclusion> out(list.begin(), list.end());
+    std::sort(out.begin(), out.end(), [](const Conclusion& a, const Conclusion& b) {
+        return std::tuple(!a.placed, a.cell, a.digit) < std::tuple(!b.placed, b.cell, b.digit);
+    });
+    return out;
+}
+
 constexpr int kPuzzles = 2000;
 
-TEST(Soundness, TheWorkbenchLadderNeverLosesTheSolution) {
+// The whole ladder on the workbench over every puzzle, and as the game runs it
+// over every fourth.
+TEST(Soundness, TheLadderNeverLosesTheSolutionOnEitherSide) {
     const auto& puzzles = testing::GeneratedPuzzles(kPuzzles);
     int solved = 0;
-    for (const auto& p : puzzles) {
-        SolveContext ctx(Side::Workbench);
-        ctx.board = BoardFromPuzzle(p.puzzle);
-        int step = 0;
-        std::string failure;
-        WorkbenchRun run;
-        run.observer.hit = [&](const Rung& rung) {
-            ++step;
-            if (!failure.empty()) return;
-            const std::string fault = FaultAgainst(ctx.board, p.solution);
-            if (!fault.empty()) failure = Describe(p, rung, step, fault);
-        };
-        const bool ok = SolveSudoku(ctx, run).solved;
-        ASSERT_EQ(failure, "");
-        if (ok) {
-            ++solved;
+    for (int i = 0; i < kPuzzles; ++i) {
+        const auto& p = puzzles[i];
+        for (const Side side : {Side::Workbench, Side::Game}) {
+            if (side == Side::Game && i % 4 != 0) continue;
+            SolveContext ctx(side);
+            ctx.board = BoardFromPuzzle(p.puzzle);
+            int step = 0;
+            std::string failure;
+            WorkbenchRun run;
+            run.observer.hit = [&](const Rung& rung) {
+                ++step;
+                const std::string fault = FaultAgainst(ctx.board, p.solution);
+                if (failure.empty() && !fault.empty()) failure = Describe(p, rung, step, fault);
+            };
+            const bool ok = side == Side::Workbench ? SolveSudoku(ctx, run).solved
+                                                    : SolveSudokuGame(ctx, run.observer).solved;
+            ASSERT_EQ(failure, "");
+            if (!ok) continue;
             ASSERT_EQ(ctx.board.CurrentGrid, p.solution);
-            ASSERT_GE(ctx.SolvingLevel, 1);
+            if (side == Side::Workbench) {
+                ++solved;
+                ASSERT_GE(ctx.SolvingLevel, 1);
+            }
         }
     }
     // The singles, subsets and bifurcation solve nearly all minimal puzzles.
     EXPECT_GT(solved, kPuzzles * 9 / 10);
-}
-
-TEST(Soundness, TheGameLadderNeverLosesTheSolution) {
-    const auto& puzzles = testing::GeneratedPuzzles(kPuzzles);
-    for (int i = 0; i < kPuzzles; i += 4) {
-        const auto& p = puzzles[i];
-        SolveContext ctx(Side::Game);
-        ctx.board = BoardFromPuzzle(p.puzzle);
-        std::string failure;
-        int step = 0;
-        LadderObserver observer;
-        observer.hit = [&](const Rung& rung) {
-            ++step;
-            const std::string fault = FaultAgainst(ctx.board, p.solution);
-            if (failure.empty() && !fault.empty()) failure = Describe(p, rung, step, fault);
-        };
-        if (SolveSudokuGame(ctx, observer)) {
-            ASSERT_EQ(ctx.board.CurrentGrid, p.solution);
-        }
-        ASSERT_EQ(failure, "");
-    }
 }
 
 // Puzzles of tests/data/grave_puzzles.txt with their solutions.
@@ -95,20 +112,20 @@ std::vector<GeneratedPuzzle> GravePuzzles() {
         if (line.empty() || line[0] == '#') continue;
         const auto puzzle = ParseDigits(line);
         if (!puzzle) continue;
-        SolveContext ctx;
-        ctx.board.Puzzle = *puzzle;
-        if (!BruteForceSolve(ctx)) continue;
-        out.push_back({*puzzle, ctx.board.CurrentGrid});
+        const SolutionCount s = Solutions(*puzzle);
+        if (s.count == 1) out.push_back({*puzzle, s.first});
     }
     return out;
 }
 
 // Every rung on its own, so that a rung is checked on many boards even where an
-// easier rung would have come first, for its soundness and for the level it
-// raises: at every state that the ladder passes through on generated puzzles (and
-// on the grave puzzles, kept for the rare rungs), and at every state of the
-// hardest puzzles where the head of the ladder has nothing left.
-TEST(Soundness, EveryRungOnItsOwnKeepsTheSolution) {
+// easier rung would have come first: at every state that the ladder passes through
+// on generated puzzles (and on the grave puzzles, kept for the rare rungs), and at
+// every state of the hardest puzzles where the head of the ladder has nothing
+// left. Each rung keeps the solution and raises its level; asked on the game side
+// for a hint it changes nothing, and concludes in the record exactly what it then
+// really does; on the hard boards the hint also tells and paints just that.
+TEST(Soundness, EveryRungOnItsOwnKeepsTheSolutionAndHintsWhatItDoes) {
     const auto& generated = testing::GeneratedPuzzles(kPuzzles);
     std::vector<GeneratedPuzzle> puzzles(generated.begin(), generated.begin() + 300);
     const auto graves = GravePuzzles();
@@ -130,6 +147,42 @@ TEST(Soundness, EveryRungOnItsOwnKeepsTheSolution) {
         int step = 0;
         bool tried = false;  // this state has had every rung tried
         std::string failure;
+        // The rung asked for a hint, then let act, on the game side: "" when the
+        // hint is what the rung does.
+        auto HintFault = [&](const Rung& rung, bool tellsTheTruth) -> std::string {
+            SolveContext game = ctx;
+            game.side = Side::Game;
+            game.SolvingLevel = 0;
+            game.hint.Conclusions.Clear();
+            testing::RecordingListener heard;
+            SolveContext hint = game;
+            hint.listener = &heard;
+            hint.hint = testing::MarkedHint();
+            bool found = false;
+            {
+                ModeScope looking(hint, HintMode(hint.Mode(), rung));
+                found = rung.run(hint).found;
+            }
+            // Bifurcation's trials run on a copy and leave the level alone too.
+            if (hint.board.Candidates != game.board.Candidates ||
+                hint.board.CurrentGrid != game.board.CurrentGrid || hint.SolvingLevel != 0 ||
+                !heard.placed.empty() || !heard.removed.empty())
+                return Describe(p, rung, step, "the hint changed something");
+            if (rung.run(game).found != found)
+                return Describe(p, rung, step, "the hint and the rung disagree");
+            if (!found) return "";
+            std::ostringstream s;
+            if (!rung.Fills(hint.hint.HintKind)) s << "filled kind " << hint.hint.HintKind << "; ";
+            const auto told = Sorted(hint.hint.Conclusions);
+            if (told.empty() || told != Sorted(game.hint.Conclusions) ||
+                told != ChangesOnBoard(ctx.board, game.board))
+                s << "the hint concludes " << FormatConclusions(hint.hint.Conclusions)
+                  << ", the rung does " << FormatConclusions(game.hint.Conclusions) << "; ";
+            if (tellsTheTruth) s << testing::TruthFaults(hint.hint, ctx.board);
+            return s.str().empty()
+                       ? ""
+                       : Describe(p, rung, step, s.str()) + "\n" + FormatBoardLine(ctx.board);
+        };
         auto tryEveryRung = [&] {
             tried = true;
             for (size_t r = 0; r < rungs.size() && failure.empty(); ++r) {
@@ -142,10 +195,12 @@ TEST(Soundness, EveryRungOnItsOwnKeepsTheSolution) {
                 if (trial.SolvingLevel != (found ? rungs[r].level : 0))
                     failure =
                         Describe(p, rungs[r], step, "level " + std::to_string(trial.SolvingLevel));
-                if (!found) continue;
-                ++hits[r];
-                const std::string fault = FaultAgainst(trial.board, p.solution);
-                if (!fault.empty()) failure = Describe(p, rungs[r], step, fault);
+                if (found) {
+                    ++hits[r];
+                    const std::string fault = FaultAgainst(trial.board, p.solution);
+                    if (!fault.empty()) failure = Describe(p, rungs[r], step, fault);
+                }
+                failure += HintFault(rungs[r], stalledOnly);
             }
         };
         WorkbenchRun run;

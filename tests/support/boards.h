@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <initializer_list>
+#include <ostream>
 #include <utility>
 #include <vector>
 
@@ -14,9 +15,17 @@
 #include "grid/candidates.h"
 #include "solver/solve_context.h"
 
+namespace tavi {
+
+// A kind in a test's message, by its number.
+inline std::ostream& operator<<(std::ostream& out, HintKind kind) {
+    return out << KindNumber(kind);
+}
+
+}  // namespace tavi
+
 namespace tavi::testing {
 
-inline const auto& Row(int r) { return UnitCells[r]; }
 inline const auto& Box(int b) { return UnitCells[18 + b]; }
 
 // No digit placed, all nine candidates everywhere.
@@ -43,14 +52,6 @@ void KeepDigitOnlyIn(Board& b, int digit, const Unit& unit, std::initializer_lis
     for (int c : unit)
         if (std::find(keep.begin(), keep.end(), c) == keep.end())
             b.Candidates[c] &= CandidateMask(~DigitBit(digit));
-}
-
-// Takes each of `digits` from every cell of `unit` except the cells in `keep`.
-template <typename Unit>
-void KeepDigitsOnlyIn(Board& b, std::initializer_list<int> digits, const Unit& unit,
-                      std::initializer_list<int> keep) {
-    for (int d : digits)
-        KeepDigitOnlyIn(b, d, unit, keep);
 }
 
 // The candidates that `after` lost against `before`, as (cell, digit) in cell order.
@@ -84,7 +85,8 @@ inline SolveContext ContextOn(const Board& board, Side side = Side::Workbench) {
 // A hint record whose every field holds `mark`, to see which fields a kind writes.
 inline HintRecord MarkedHint(int mark = -99) {
     HintRecord h;
-    h.HintKind = h.HintVariant = h.HintRow = h.HintColumn = h.HintCell = h.HintNumber = mark;
+    h.HintKind = HintKind::None;
+    h.HintVariant = h.HintRow = h.HintColumn = h.HintCell = h.HintNumber = mark;
     h.HintCellCount = h.HintValueCount = mark;
     h.HintCells.fill(mark);
     h.HintValues.fill(mark);

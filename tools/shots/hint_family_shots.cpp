@@ -20,17 +20,19 @@ struct Family {
 };
 
 const Family kFamilies[] = {
-    {"single", "HIDDEN SINGLE: ", [](const HintRecord& h) { return h.HintKind == 2; }},
-    {"pointing-pair", "POINTING PAIR: ", [](const HintRecord& h) { return h.HintKind == 3; }},
+    {"single",
+     "HIDDEN SINGLE: ", [](const HintRecord& h) { return h.HintKind == HintKind::HiddenSingle; }},
+    {"pointing-pair",
+     "POINTING PAIR: ", [](const HintRecord& h) { return h.HintKind == HintKind::PointingPair; }},
     {"naked-triple", "NAKED TRIPLE: ",
      [](const HintRecord& h) {
-         return h.HintKind == 5 && h.HintVariant > 0 && h.HintCellCount == 3;
+         return h.HintKind == HintKind::Subset && h.HintVariant > 0 && h.HintCellCount == 3;
      }},
     {"hidden-pair", "HIDDEN PAIR: ",
      [](const HintRecord& h) {
-         return h.HintKind == 5 && h.HintVariant < 0 && h.HintCellCount == 2;
+         return h.HintKind == HintKind::Subset && h.HintVariant < 0 && h.HintCellCount == 2;
      }},
-    {"x-wing", "X-WING: ", [](const HintRecord& h) { return h.HintKind == 6; }},
+    {"x-wing", "X-WING: ", [](const HintRecord& h) { return h.HintKind == HintKind::XWing; }},
 };
 
 struct Found {

@@ -635,13 +635,16 @@ struct AicSearch {
         ctx.stepSize.links = p + 1;
         if (ctx.HintOnly()) {
             HintRecord& h = ctx.hint;
+            // The record of AIC: HintVariant the result (1 a cycle, 2 a strong, 3 a weak
+            // discontinuity), HintCells[k] and HintValues[k] the chain's cells and digits
+            // from its start, both counts its length.
             h.HintVariant = result;
             h.HintCellCount = h.HintValueCount = p + 1;
             for (int i = 0; i <= p; ++i) {
                 h.HintCells[i + 1] = cells[i];
                 h.HintValues[i + 1] = chainDigits[i];
             }
-            h.HintKind = 31;
+            h.HintKind = HintKind::AIC;
         }
         return result;
     }

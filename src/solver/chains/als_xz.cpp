@@ -148,6 +148,11 @@ bool BiValueStage(SolveContext& ctx, const CandidateMask (&digits)[81], const Ho
                                     RemoveSeeingAll(ctx, HoldersIn(b, k, set, n), k);
                             }
                             if (ctx.HintOnly()) {
+                                // The record of BiValueALSxz: HintCell the bi-value cell,
+                                // HintNumber x, HintVariant z, HintRow 1 when doubly
+                                // linked, HintCells[1..HintCellCount] the set, HintValues
+                                // the holders of z: the bi-value cell, then those of the
+                                // set.
                                 HintRecord& h = ctx.hint;
                                 h.HintCell = base;
                                 h.HintNumber = x;
@@ -160,7 +165,7 @@ bool BiValueStage(SolveContext& ctx, const CandidateMask (&digits)[81], const Ho
                                 h.HintValues[++h.HintValueCount] = base;
                                 for (int i = 0; i < n; ++i)
                                     if (b.Has(z, set[i])) h.HintValues[++h.HintValueCount] = set[i];
-                                h.HintKind = 32;
+                                h.HintKind = HintKind::BiValueALSxz;
                             }
                             return true;
                         });
@@ -182,6 +187,9 @@ struct AlsPairHit {
 };
 
 // Prepare_Tip_ALSxz: the record of a hit of the second stage.
+// The record of ALSxz: HintNumber x, HintVariant z, HintRow and HintColumn the two sets'
+// candidate masks when doubly linked (else 0), HintCells the first set, HintValues the
+// second. Neither ALS kind keeps its removals: they are the hit's conclusions.
 void Prepare_Tip_ALSxz(HintRecord& h, const AlsPairHit& hit) {
     h.HintNumber = hit.x;
     h.HintVariant = hit.z;
@@ -193,7 +201,7 @@ void Prepare_Tip_ALSxz(HintRecord& h, const AlsPairHit& hit) {
     h.HintValueCount = hit.secondCount;
     for (int i = 0; i < hit.secondCount; ++i)
         h.HintValues[1 + i] = hit.second[i];
-    h.HintKind = 33;
+    h.HintKind = HintKind::ALSxz;
 }
 
 // True if all of `cells` lie in one unit.

@@ -176,11 +176,14 @@ bool Forcing(SolveContext& ctx) {
         for (int d : DigitSet(cellDigits[base]))
             ctx.stepSize.links += branches.Depth(base, d, v);
         if (ctx.HintOnly()) {
+            // The record of ForcingChainFromCell: HintCell the cell whose candidates are
+            // tried, HintNumber the digit decided, HintCellCount the cell decided,
+            // HintVariant the verdict's tally.
             ctx.hint.HintCell = base;
             ctx.hint.HintNumber = v.digit;
             ctx.hint.HintVariant = v.tally;
             ctx.hint.HintCellCount = v.cell;
-            ctx.hint.HintKind = 35;
+            ctx.hint.HintKind = HintKind::ForcingChainFromCell;
         }
         return true;
     }
@@ -203,6 +206,11 @@ bool Forcing(SolveContext& ctx) {
             for (int i = 0; i < n; ++i)
                 ctx.stepSize.links += branches.Depth(holders[i], digit, v);
             if (ctx.HintOnly()) {
+                // The record of ForcingChainFromUnit: HintVariant the unit, 1 row, 2
+                // column, 3 box, with its index in HintRow (row, box) or HintColumn
+                // (column); HintCellCount the digit tried through the unit; HintCell and
+                // HintNumber the cell and digit decided; HintValueCount the tally, 0 when
+                // the decided digit is always false.
                 const int kind = u / 9, index = u % 9;
                 ctx.hint.HintVariant = kind + 1;
                 ctx.hint.HintRow = kind == 1 ? 0 : index;
@@ -211,7 +219,7 @@ bool Forcing(SolveContext& ctx) {
                 ctx.hint.HintNumber = v.digit;
                 ctx.hint.HintCellCount = digit;
                 ctx.hint.HintValueCount = v.tally < 0 ? 0 : v.tally;
-                ctx.hint.HintKind = 36;
+                ctx.hint.HintKind = HintKind::ForcingChainFromUnit;
             }
             return true;
         }

@@ -100,6 +100,11 @@ struct MedusaSearch {
                 VerwijderKnop(ctx, code / 81 + 1, code % 81);
     }
 
+    // The record of Medusa3D, candidates coded as cell + 81 x (digit - 1): HintVariant the
+    // rule 1..6, HintCell the candidate the cluster grew from, HintNumber the digit,
+    // HintRow and HintColumn the two candidates of the rule, HintCells[1..HintCellCount]
+    // the coloured candidates and HintValues[k] the colour of entry k by its sign. Rule 6
+    // puts one more coded candidate in HintValueCount.
     void FillHint(int rule, int start, int d, int number, int row, int column) {
         if (!ctx.HintOnly()) return;
         HintRecord& h = ctx.hint;
@@ -113,7 +118,7 @@ struct MedusaSearch {
             h.HintCells[++h.HintCellCount] = code;
             h.HintValues[++h.HintValueCount] = colour[code % 81][code / 81 + 1];
         }
-        h.HintKind = 34;
+        h.HintKind = HintKind::Medusa3D;
     }
 
     // The rules in their order on the cluster grown from (start, d).

@@ -42,8 +42,11 @@ int CompareGroups(const Colouring& col, int a, int b, int c, int d) {
 // Type 1: the false colours lose the digit and their opposites are placed, in one
 // walk over the list. Every cell of a false colour has a conjugate partner of the
 // opposite colour, so the placements take the digit from it; a removal is made
-// only where no placement does it. The result counts the placed cells. The hint lists all four
-// colours: the false ones in HintCells, the rest in HintValues.
+// only where no placement does it. The result counts the placed cells.
+// The record of MultiColoringType1: HintNumber the digit, each coloured cell coded as cell
+// + 81 x colour (0..3), the false colours in HintCells, the others in HintValues.
+// MultiColoringType2 (Trap): HintCells all coloured cells in the same code, HintValues[1]
+// and [2] the two cells whose common peers lose the digit.
 int Decide(SolveContext& ctx, int digit, const Colouring& col, const int (&colours)[4],
            int falseMask) {
     HintRecord& h = ctx.hint;
@@ -73,7 +76,7 @@ int Decide(SolveContext& ctx, int digit, const Colouring& col, const int (&colou
     }
     if (ctx.HintOnly()) {
         h.HintNumber = digit;
-        h.HintKind = 22;
+        h.HintKind = HintKind::MultiColoringType1;
     }
     return placed;
 }
@@ -97,7 +100,7 @@ bool Trap(SolveContext& ctx, int digit, const Colouring& col, const int (&colour
                 h.HintValues[1] = col.cells[k];
                 h.HintValues[2] = col.cells[m];
                 h.HintValueCount = 2;
-                h.HintKind = 23;
+                h.HintKind = HintKind::MultiColoringType2;
             }
             return true;
         }

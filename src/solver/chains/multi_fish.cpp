@@ -65,11 +65,15 @@ bool MultiFish(SolveContext& ctx) {
                         for (int k = 1; k <= 9; ++k)
                             if (!HasDigit(four, k)) VerwijderKnop(ctx, k, crossCells[i]);
                     if (ctx.HintOnly()) {
+                        // The record of MultiFish: HintVariant 1 and the four digits in
+                        // HintValues[1..4]; the truth rows, link columns and link cells
+                        // follow from them and the board, the removals are the hit's
+                        // conclusions.
                         ctx.hint.HintVariant = 1;
                         ctx.hint.HintValueCount = 4;
                         for (int i = 0; i < 4; ++i)
                             ctx.hint.HintValues[1 + i] = digits[i];
-                        ctx.hint.HintKind = 37;
+                        ctx.hint.HintKind = HintKind::MultiFish;
                     }
                     return true;
                 }

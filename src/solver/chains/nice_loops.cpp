@@ -115,6 +115,9 @@ struct LoopWalk {
         return kNone;
     }
 
+    // The record of NiceLoop: HintVariant the result (1 a cycle, 2 a strong, 3 a weak
+    // discontinuity), HintNumber the digit, HintCells[1..HintCellCount] the loop's cells
+    // from its start.
     int Hit(int result, int p) {
         HintRecord& h = ctx.hint;
         if (result == kCycle) {
@@ -132,7 +135,7 @@ struct LoopWalk {
             h.HintCellCount = p + 1;
             for (int i = 0; i <= p; ++i)
                 h.HintCells[i + 1] = cells[i];
-            h.HintKind = 28;
+            h.HintKind = HintKind::NiceLoop;
         }
         return result;
     }

@@ -11,7 +11,10 @@ using namespace chains;
 
 namespace {
 
-void FillColoursHint(SolveContext& ctx, int kind, int digit, const Colouring& col, int group,
+// The record of SimpleColorsTrap and SimpleColorsWrap: HintNumber the digit, HintCell and
+// HintVariant the two cells that make the hit, HintCells[1..HintCellCount] the cells of one
+// colour, HintValues[1..HintValueCount] those of the other.
+void FillColoursHint(SolveContext& ctx, HintKind kind, int digit, const Colouring& col, int group,
                      int cellK, int cellM) {
     HintRecord& h = ctx.hint;
     h.HintNumber = digit;
@@ -36,7 +39,8 @@ bool ColourWrap(SolveContext& ctx, int digit, const Colouring& col, int group) {
             for (int e = 0; e < col.count; ++e)
                 if (col.colour[e] == ck) VerwijderKnop(ctx, digit, col.cells[e]);
             if (ctx.HintOnly())
-                FillColoursHint(ctx, 21, digit, col, group, col.cells[k], col.cells[m]);
+                FillColoursHint(ctx, HintKind::SimpleColorsWrap, digit, col, group, col.cells[k],
+                                col.cells[m]);
             return true;
         }
     }
@@ -53,7 +57,8 @@ bool ColourTrap(SolveContext& ctx, int digit, const Colouring& col, int group) {
             if (col.colour[m] != Colouring::Opposite(ck)) continue;
             if (!RemoveSeenByBoth(ctx, col.cells[k], col.cells[m], digit)) continue;
             if (ctx.HintOnly())
-                FillColoursHint(ctx, 12, digit, col, group, col.cells[k], col.cells[m]);
+                FillColoursHint(ctx, HintKind::SimpleColorsTrap, digit, col, group, col.cells[k],
+                                col.cells[m]);
             return true;
         }
     }

@@ -73,7 +73,10 @@ struct XYSearch {
         return (ctx.board.CandidatesOf(cell) - DigitSet::Of(digit)).First();
     }
 
-    void FillHint(int kind, int digit, const std::vector<Link>& chain) {
+    // The record of XYChain and DoubleImplicationChain: HintNumber the digit, HintCells[k]
+    // the chain's cells in order and HintValues[k] the digit each leaves by, both counts
+    // its length.
+    void FillHint(HintKind kind, int digit, const std::vector<Link>& chain) {
         HintRecord& h = ctx.hint;
         h.HintNumber = digit;
         h.HintCellCount = h.HintValueCount = int(chain.size());
@@ -91,7 +94,7 @@ struct XYSearch {
         const int first = chain.front().cell, last = chain.back().cell;
         const int y = chain.back().exit, x = chain[n - 2].exit;
         if (y == d && RemoveSeenByBoth(ctx, first, last, d)) {
-            if (ctx.HintOnly()) FillHint(18, d, chain);
+            if (ctx.HintOnly()) FillHint(HintKind::XYChain, d, chain);
             ctx.stepSize.links = n;
             return true;
         }
@@ -101,7 +104,7 @@ struct XYSearch {
             VerwijderKnop(ctx, d, last);
             for (int k = 1; k + 1 < n; ++k)
                 VerwijderKnop(ctx, chain[k - 1].exit, chain[k].cell);
-            if (ctx.HintOnly()) FillHint(19, d, chain);
+            if (ctx.HintOnly()) FillHint(HintKind::DoubleImplicationChain, d, chain);
             ctx.stepSize.links = n;
             return true;
         }

@@ -54,7 +54,7 @@ bool RemoveFromCrossLines(SolveContext& ctx, int digit, bool rows, int lineSet, 
 // One fish of `size` lines: the row pass for all digits, then the column pass.
 // An X-Wing line must hold the digit in exactly its two crossing lines; a larger
 // fish's line in any non-empty part of them.
-bool Fish(SolveContext& ctx, int size, int kind) {
+bool Fish(SolveContext& ctx, int size, HintKind kind) {
     const Board& b = ctx.board;
     const bool exact = size == 2;
     // For each digit the mask of each row by column, and of each column by row.
@@ -119,6 +119,10 @@ bool Fish(SolveContext& ctx, int size, int kind) {
                 }
                 if (count != size) continue;
                 if (!RemoveFromCrossLines(ctx, digit, rows, lineSet, crossSet)) continue;
+                // The record of XWing, Swordfish and Jellyfish: HintNumber the digit,
+                // HintVariant 1 for the row pass and 2 for the column pass,
+                // HintCells[1..HintCellCount] the crossings of the base and cover lines row
+                // by row (4, 9 or 16).
                 if (ctx.HintOnly()) {
                     // The square of the pattern, row by row on the board.
                     const int rowSet = rows ? lineSet : crossSet;
@@ -142,9 +146,9 @@ bool Fish(SolveContext& ctx, int size, int kind) {
 
 }  // namespace
 
-bool XWing(SolveContext& ctx) { return Fish(ctx, 2, 6); }
-bool SwordFish(SolveContext& ctx) { return Fish(ctx, 3, 7); }
-bool JellyFish(SolveContext& ctx) { return Fish(ctx, 4, 13); }
+bool XWing(SolveContext& ctx) { return Fish(ctx, 2, HintKind::XWing); }
+bool SwordFish(SolveContext& ctx) { return Fish(ctx, 3, HintKind::Swordfish); }
+bool JellyFish(SolveContext& ctx) { return Fish(ctx, 4, HintKind::Jellyfish); }
 
 // An X-Wing whose second line holds one or two extra candidates, the fin, in the
 // box of one of its corners. The base line holds the digit exactly twice, in two
@@ -206,6 +210,12 @@ bool FinnedXWing(SolveContext& ctx) {
                             if (!removed) continue;
                             if (ctx.HintOnly()) {
                                 HintRecord& h = ctx.hint;
+                                // The record of FinnedXWing: HintVariant 1 for the row pass
+                                // and 2 for the column pass, HintNumber the digit, the
+                                // clean base line in HintRow or HintColumn,
+                                // HintCells[1..HintCellCount] (one or two) the cells that
+                                // lose the digit, HintCells[3..6] the corners, [3] and [4]
+                                // on the clean line, [5] and [6] on the finned line.
                                 h.HintVariant = pass;
                                 h.HintNumber = digit;
                                 (rows ? h.HintRow : h.HintColumn) = base;
@@ -216,7 +226,7 @@ bool FinnedXWing(SolveContext& ctx) {
                                 h.HintCells[4] = at(base, c2);
                                 h.HintCells[5] = at(finned, c1);
                                 h.HintCells[6] = at(finned, c2);
-                                h.HintKind = 15;
+                                h.HintKind = HintKind::FinnedXWing;
                             }
                             return true;
                         }
@@ -283,6 +293,10 @@ bool MultiXWingForm(SolveContext& ctx, int form, int unitKind, int clashKind,
                             for (int c : UnitCells[UnitThrough(q, clashKind)])
                                 if (c != q && c != t) removed |= VerwijderKnop(ctx, y, c);
                             if (!removed) continue;
+                            // The record of MultiValueXWing: HintVariant the form 1..6,
+                            // HintCells[1..4] the cells p, q, s, t and HintValues[1..4] the
+                            // digits a, b, x, y, both counts 4; HintRow and HintColumn the
+                            // two boxes where the form names boxes, else the two units.
                             if (ctx.HintOnly()) {
                                 HintRecord& h = ctx.hint;
                                 h.HintVariant = form;
@@ -299,7 +313,7 @@ bool MultiXWingForm(SolveContext& ctx, int form, int unitKind, int clashKind,
                                     h.HintRow = u1;
                                     h.HintColumn = u2;
                                 }
-                                h.HintKind = 8;
+                                h.HintKind = HintKind::MultiValueXWing;
                             }
                             return true;
                         }

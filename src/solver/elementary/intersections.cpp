@@ -76,11 +76,14 @@ bool PointingPair(SolveContext& ctx) {
             const int leftTop = Global::BoxLeftTop[box];
             for (int segment = 0; segment < 6; ++segment) {
                 if (count[segment] != total || !VerwijderPP(ctx, digit, leftTop, segment)) continue;
+                // The record of PointingPair: HintCell the box's top left cell, HintVariant
+                // the segment (0..2 the box's rows, 3..5 its columns), HintNumber the
+                // digit. The sentence writer adds the line (RecordAfterSchrijfHint).
                 if (ctx.HintOnly()) {
                     ctx.hint.HintCell = leftTop;
                     ctx.hint.HintVariant = segment;
                     ctx.hint.HintNumber = digit;
-                    ctx.hint.HintKind = 3;
+                    ctx.hint.HintKind = HintKind::PointingPair;
                 }
                 return true;
             }
@@ -103,13 +106,16 @@ bool BoxLine(SolveContext& ctx) {
                     if (CountPlaces(places & (7u << (3 * segment))) != total ||
                         !VerwijderBL(ctx, digit, line, segment, kind))
                         continue;
+                    // The record of BoxLineReduction: HintNumber the digit, HintCell the
+                    // box's top left cell, HintVariant 1 for a row and 2 for a column, and
+                    // the line in HintRow or HintColumn.
                     if (ctx.HintOnly()) {
                         const int cell = kind == 1 ? 9 * line + 3 * segment : 27 * segment + line;
                         ctx.hint.HintNumber = digit;
                         ctx.hint.HintCell = Global::BoxLeftTopOfCell[cell];
                         ctx.hint.HintVariant = kind;
                         (kind == 1 ? ctx.hint.HintRow : ctx.hint.HintColumn) = line;
-                        ctx.hint.HintKind = 4;
+                        ctx.hint.HintKind = HintKind::BoxLineReduction;
                     }
                     return true;
                 }

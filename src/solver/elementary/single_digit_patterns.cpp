@@ -144,12 +144,15 @@ bool EmptyRectangle(SolveContext& ctx) {
                 if (ctx.HintOnly()) {
                     HintRecord& h = ctx.hint;
                     h.HintNumber = digit;
+                    // The record of EmptyRectangle: HintNumber the digit, HintCell the
+                    // target, HintCells[1] the far end of the conjugate pair, HintVariant
+                    // the box's top left cell, HintRow and HintColumn the crossing.
                     h.HintCell = target;
                     h.HintCells[1] = far;
                     h.HintVariant = leftTop;
                     h.HintRow = R;
                     h.HintColumn = C;
-                    h.HintKind = 9;
+                    h.HintKind = HintKind::EmptyRectangle;
                 }
                 return true;
             }
@@ -213,6 +216,9 @@ bool TwoStringKite(SolveContext& ctx) {
                 if (ctx.HintOnly()) {
                     HintRecord& h = ctx.hint;
                     h.HintNumber = digit;
+                    // The record of TwoStringKite: HintNumber the digit, HintRow and
+                    // HintColumn the two strings, HintVariant the kite's box, HintCells[1]
+                    // and [2] the kite's ends, [3] and [4] the free ends, HintCellCount 4.
                     h.HintRow = r;
                     h.HintColumn = c;
                     h.HintVariant = Global::BoxOfCell[kiteRow];
@@ -221,7 +227,7 @@ bool TwoStringKite(SolveContext& ctx) {
                     h.HintCells[3] = freeRow;
                     h.HintCells[4] = freeColumn;
                     h.HintCellCount = 4;
-                    h.HintKind = 25;
+                    h.HintKind = HintKind::TwoStringKite;
                 }
                 return true;
             }
@@ -252,6 +258,10 @@ bool Skyscraper(SolveContext& ctx) {
                         if (!VerwijderXYWing(ctx, 3, -1, freeI, freeJ, digit)) continue;
                         if (ctx.HintOnly()) {
                             HintRecord& h = ctx.hint;
+                            // The record of Skyscraper: HintVariant 1 for rows and 2 for
+                            // columns, HintNumber the digit, HintRow and HintColumn the two
+                            // lines, HintCells[1] and [2] the base ends, [3] and [4] the
+                            // free ends, HintCellCount 4.
                             h.HintVariant = pass;
                             h.HintNumber = digit;
                             h.HintRow = i;
@@ -261,7 +271,7 @@ bool Skyscraper(SolveContext& ctx) {
                             h.HintCells[3] = freeI;
                             h.HintCells[4] = freeJ;
                             h.HintCellCount = 4;
-                            h.HintKind = 26;
+                            h.HintKind = HintKind::Skyscraper;
                         }
                         return true;
                     }

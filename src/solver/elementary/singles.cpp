@@ -8,13 +8,16 @@ namespace tavi {
 namespace {
 
 // A single found in `cell`: under HintOnly the record, and the placement itself.
-void ApplySingle(SolveContext& ctx, int digit, int cell, int kind, int unitVariant) {
+// Both kinds: HintRow, HintColumn the cell, HintNumber the digit; a naked single
+// also the cell in HintCell, a hidden single the unit swept in HintVariant (3 box,
+// 1 row, 2 column).
+void ApplySingle(SolveContext& ctx, int digit, int cell, HintKind kind, int unitVariant) {
     if (ctx.HintOnly()) {
         HintRecord& h = ctx.hint;
         h.HintRow = cell / 9;
         h.HintColumn = cell % 9;
         h.HintNumber = digit;
-        if (kind == 1)
+        if (kind == HintKind::NakedSingle)
             h.HintCell = cell;
         else
             h.HintVariant = unitVariant;
@@ -41,7 +44,7 @@ bool NakedSingle(SolveContext& ctx) {
     const Board& b = ctx.board;
     for (int c = 0; c < 81; ++c) {
         if (b.CurrentGrid[c] == 0 && CountDigits(b.Candidates[c]) == 1) {
-            ApplySingle(ctx, LowestDigit(b.Candidates[c]), c, 1, 0);
+            ApplySingle(ctx, LowestDigit(b.Candidates[c]), c, HintKind::NakedSingle, 0);
             return true;
         }
     }
@@ -64,7 +67,7 @@ bool HiddenSingle(SolveContext& ctx) {
                 for (int c : UnitCells[u])
                     if (b.Has(digit, c)) cell = c;
                 if (game && CountDigits(b.Candidates[cell]) < 2) continue;
-                ApplySingle(ctx, digit, cell, 2, variant);
+                ApplySingle(ctx, digit, cell, HintKind::HiddenSingle, variant);
                 return true;
             }
         }

@@ -42,6 +42,9 @@ bool ForEachDigitSet(CandidateMask pool, int size, Visit&& visit) {
     }
 }
 
+// The record of Subset: HintVariant the unit, 1 row, 2 column, 3 box, negated for a hidden
+// set; the unit in HintRow, HintColumn or HintCell (the box's top left cell); HintCells and
+// HintValues the set's cells and digits, HintCellCount and HintValueCount its size.
 void FillSubsetHint(SolveContext& ctx, int unit, bool naked, int size, const int (&digits)[5],
                     const int (&cells)[5]) {
     HintRecord& h = ctx.hint;
@@ -56,7 +59,7 @@ void FillSubsetHint(SolveContext& ctx, int unit, bool naked, int size, const int
         h.HintCells[i + 1] = cells[i];
         h.HintValues[i + 1] = digits[i];
     }
-    h.HintKind = 5;
+    h.HintKind = HintKind::Subset;
 }
 
 // One unit as it stands: per cell its candidates (bits 0-8) and its digit in

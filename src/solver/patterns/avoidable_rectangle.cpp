@@ -11,6 +11,9 @@ namespace {
 
 bool Placed(const Board& b, int c) { return b.CurrentGrid[c] != 0 && b.Puzzle[c] == 0; }
 
+// The record of AvoidableRectangle: HintNumber the digit that goes, HintValues[1] and [2]
+// the rectangle's digits (and [3] the digit that goes, HintValueCount 3, in pass two),
+// HintCells[1..4] the corners, HintCellCount 4.
 void FillRectangle(SolveContext& ctx, int number, int d, int e, int count,
                    const int (&corners)[4]) {
     HintRecord& h = ctx.hint;
@@ -22,7 +25,7 @@ void FillRectangle(SolveContext& ctx, int number, int d, int e, int count,
     for (int k = 0; k < 4; ++k)
         h.HintCells[k + 1] = corners[k];
     h.HintCellCount = 4;
-    h.HintKind = 30;
+    h.HintKind = HintKind::AvoidableRectangle;
 }
 
 // Pass one: two placed cells with the same digit d on a diagonal, a third corner
@@ -156,11 +159,13 @@ bool BUG(SolveContext& ctx) {
     if (!removed) return false;
     if (ctx.HintOnly()) {
         HintRecord& h = ctx.hint;
+        // The record of BivalueUniversalGrave: HintCell the cell of more than two
+        // candidates, HintValues[1..HintValueCount] the candidates it loses.
         h.HintCell = wide;
         for (int k = 0; k < removed; ++k)
             h.HintValues[k + 1] = gone[k];
         h.HintValueCount = removed;
-        h.HintKind = 24;
+        h.HintKind = HintKind::BivalueUniversalGrave;
     }
     return true;
 }

@@ -74,8 +74,17 @@ int RemoveUnpartnered(SolveContext& ctx, const PairTable& t, int a, int c, int (
     return n;
 }
 
-void FillExclusion(SolveContext& ctx, int kind, int variant, int row, int column, const int* cells,
-                   int size, const Reducers& r, const int* values, int count) {
+// The record of AlignedPairExclusion and AlignedTripleExclusion. HintCells[1..] the pair or
+// triple and then the reducing cells, HintCellCount counting all.
+// HintValues[1..HintValueCount] the digits that go, each naming its cell: for a pair the
+// digit of the first cell and the negated digit of the second; for a triple the digit plus
+// 10 for the second cell and plus 100 for the third. HintVariant for a pair: 0 when it
+// shares one unit, 1 a row and a box (HintRow the row, HintColumn the box's top left cell),
+// 2 a column and a box (HintColumn the column, HintRow the box's top left cell), 3 and 4
+// the same when extended, with the stack or band number for the box. For a triple: 1 the
+// row pass, 2 the column pass, 3 and 4 extended.
+void FillExclusion(SolveContext& ctx, HintKind kind, int variant, int row, int column,
+                   const int* cells, int size, const Reducers& r, const int* values, int count) {
     HintRecord& h = ctx.hint;
     h.HintVariant = variant;
     h.HintRow = row;
@@ -220,7 +229,9 @@ bool AlignedTriple(SolveContext& ctx, const int (&triple)[3], int line, int box,
                 values[count++] = d + (place == 1 ? 10 : place == 2 ? 100 : 0);
         }
     if (!count) return false;
-    if (ctx.HintOnly()) FillExclusion(ctx, 17, variant, row, column, triple, 3, r, values, count);
+    if (ctx.HintOnly())
+        FillExclusion(ctx, HintKind::AlignedTripleExclusion, variant, row, column, triple, 3, r,
+                      values, count);
     return true;
 }
 
@@ -294,7 +305,8 @@ bool APE(SolveContext& ctx) {
                                    : variant == 2 ? a % 9
                                                   : ctx.hint.HintColumn;
                 const int pair[2] = {a, c};
-                FillExclusion(ctx, 16, variant, row, column, pair, 2, r, values, count);
+                FillExclusion(ctx, HintKind::AlignedPairExclusion, variant, row, column, pair, 2, r,
+                              values, count);
             }
             return true;
         }
@@ -374,8 +386,9 @@ bool ExtendedAPE(SolveContext& ctx) {
                         if (!count) continue;
                         if (ctx.HintOnly()) {
                             const int pair[2] = {a, c};
-                            FillExclusion(ctx, 16, pass == 0 ? 3 : 4, pass == 0 ? line : segment,
-                                          pass == 0 ? segment : line, pair, 2, r, values, count);
+                            FillExclusion(ctx, HintKind::AlignedPairExclusion, pass == 0 ? 3 : 4,
+                                          pass == 0 ? line : segment, pass == 0 ? segment : line,
+                                          pair, 2, r, values, count);
                         }
                         return true;
                     }

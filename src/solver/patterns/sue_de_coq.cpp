@@ -76,6 +76,9 @@ bool Crossing(SolveContext& ctx, int box, int lineUnit, bool row) {
     if (!removed) return false;
     if (ctx.HintOnly()) {
         HintRecord& h = ctx.hint;
+        // The record of SueDeCoq: the line in HintRow or HintColumn (the other -1),
+        // HintVariant the box, HintCells[1..HintCellCount] the cells of the line group,
+        // HintValues[1..HintValueCount] those of the box group.
         const int line = row ? lineUnit : lineUnit - 9;
         h.HintRow = row ? line : -1;
         h.HintColumn = row ? -1 : line;
@@ -86,7 +89,7 @@ bool Crossing(SolveContext& ctx, int box, int lineUnit, bool row) {
         for (int k = 0; k < boxGroup.n; ++k)
             h.HintValues[k + 1] = boxGroup.cells[k];
         h.HintValueCount = boxGroup.n;
-        h.HintKind = 27;
+        h.HintKind = HintKind::SueDeCoq;
         // The game shows the pattern at once, with what it removes, and asks
         // whether the player sees it; Cancel forgets it and goes on to the next
         // crossing. Never inside the trials of a guess.

@@ -64,6 +64,12 @@ struct Floor {
     }
 };
 
+// The record of UniqueRectangle: HintVariant the type 1..4, or 5 for the hidden form;
+// HintValues[1] and [2] the rectangle's digits; HintCells[1..4] the corners, the floor
+// first and [3] and [4] the roof; HintCellCount 4. HintNumber the third digit in type 2,
+// the digit that goes in types 4 and 5. Type 3 adds the extra digits in HintValues[3] and
+// [4] and the cell of the naked pair with the roof in HintCells[5] (counts 4 and 5); the
+// hidden form lists its corners as X, the two others, Y.
 void FillHint(SolveContext& ctx, const Floor& f, int variant, int x, int y) {
     HintRecord& h = ctx.hint;
     h.HintVariant = variant;
@@ -75,7 +81,7 @@ void FillHint(SolveContext& ctx, const Floor& f, int variant, int x, int y) {
     h.HintCells[3] = x;
     h.HintCells[4] = y;
     h.HintCellCount = 4;
-    h.HintKind = 29;
+    h.HintKind = HintKind::UniqueRectangle;
 }
 
 // Every cell that sees both roof cells loses `digit`.
@@ -264,7 +270,7 @@ bool HiddenForm(SolveContext& ctx) {
                             h.HintCells[3] = c2;
                             h.HintCells[4] = y;
                             h.HintCellCount = 4;
-                            h.HintKind = 29;
+                            h.HintKind = HintKind::UniqueRectangle;
                         }
                         return true;
                     }

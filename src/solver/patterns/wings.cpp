@@ -61,7 +61,11 @@ struct MasksPresent {
     bool present[512] = {};
 };
 
-void FillWingHint(HintRecord& h, int kind, int digit, std::initializer_list<int> cells) {
+// The record of the wings: HintNumber the digit that goes, HintCells[1..HintCellCount] the
+// stem (the hinge) and then the branches. XYWing keeps its form 1..6 in HintVariant,
+// WXYZWing 1 when the hinge holds all four digits and 2 when it holds three; XYZWing no
+// form.
+void FillWingHint(HintRecord& h, HintKind kind, int digit, std::initializer_list<int> cells) {
     h.HintNumber = digit;
     int n = 0;
     for (int c : cells)
@@ -126,7 +130,8 @@ bool XYWing(SolveContext& ctx) {
                                     return false;
                                 if (ctx.HintOnly()) {
                                     ctx.hint.HintVariant = form;
-                                    FillWingHint(ctx.hint, 10, knop, {stem, first, second});
+                                    FillWingHint(ctx.hint, HintKind::XYWing, knop,
+                                                 {stem, first, second});
                                 }
                                 return true;
                             });
@@ -164,7 +169,8 @@ bool XYZWing(SolveContext& ctx) {
                             EachBranchPair(b, stem, m1, m2, [&](int first, int second, int) {
                                 if (!VerwijderXYZWing(ctx, stem, first, second, knop)) return false;
                                 if (ctx.HintOnly())
-                                    FillWingHint(ctx.hint, 11, knop, {stem, first, second});
+                                    FillWingHint(ctx.hint, HintKind::XYZWing, knop,
+                                                 {stem, first, second});
                                 return true;
                             });
                         if (hit) return true;
@@ -252,7 +258,7 @@ bool WXYZWing(SolveContext& ctx) {
                                     if (!removed) return false;
                                     if (ctx.HintOnly()) {
                                         ctx.hint.HintVariant = full ? 1 : 2;
-                                        FillWingHint(ctx.hint, 14, knop,
+                                        FillWingHint(ctx.hint, HintKind::WXYZWing, knop,
                                                      {hinge, first, second, third});
                                     }
                                     return true;
