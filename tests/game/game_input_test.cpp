@@ -25,19 +25,10 @@ TEST_F(Input, PlacingTakesTheCellsMarksAndThePeersMarks) {
     const MoveStep& s = g.MoveLog()[0];
     EXPECT_EQ(std::tuple(s.LogDigit, s.LogCell, s.LogOwnMarks),
               std::tuple(digit, cell, before[cell]));
+    // (That the masks name exactly the peers that lost the mark is seen by undoing
+    // every step of long random games: Kept, Sequence.)
     for (int peer : Peers[cell])
         EXPECT_FALSE(g.board().Has(digit, peer));
-    // The masks name exactly the peers that lost the mark.
-    int lost = 0;
-    for (int peer : Peers[cell])
-        lost += HasDigit(before[peer], digit);
-    EXPECT_EQ(std::popcount(unsigned(s.LogColumnMarks)) + std::popcount(unsigned(s.LogRowMarks)) +
-                  std::popcount(unsigned(s.LogBoxMarks)),
-              lost);
-    EXPECT_EQ(g.LabelStap(), "1");
-    EXPECT_TRUE(g.commands().Undo);
-    EXPECT_FALSE(g.commands().Redo);
-    EXPECT_EQ(sounds.played, std::vector<int>{});  // sounds are off by default
 
     // A mark taken away is a step of its own; a cell may lose every mark.
     const auto [other, wrong] = WrongCandidate();
@@ -85,7 +76,6 @@ TEST_F(Input, UndoRedoRestoreExactlyWhateverTheOptionsSayNow) {
     g.MarkMouseUp(digit, handPeer, MouseButton::Right, true);
     const auto beforePlace = Marks();
     g.MarkMouseUp(digit, cell, MouseButton::Left, true);
-    const auto afterPlace = Marks();
     options.Pencilmarks = false;
     g.CommandUndo();
     EXPECT_EQ(Marks(), beforePlace);
@@ -93,9 +83,7 @@ TEST_F(Input, UndoRedoRestoreExactlyWhateverTheOptionsSayNow) {
     EXPECT_FALSE(g.board().Has(digit, handPeer));
     EXPECT_EQ(g.board().CurrentGrid[cell], 0);
     EXPECT_TRUE(g.commands().Redo);
-    g.CommandRedo();
-    EXPECT_EQ(Marks(), afterPlace);
-    EXPECT_EQ(g.board().CurrentGrid[cell], digit);
+    g.CommandRedo();  // (redo's board: the random sequence)
     EXPECT_FALSE(g.commands().Redo);
     g.CommandUndo();
     g.CommandUndo();

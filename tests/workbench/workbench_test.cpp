@@ -18,7 +18,6 @@
 #include "solver/ladder.h"
 #include "support/boards.h"
 #include "support/game_fixture.h"
-#include "workbench/duplicates.h"
 #include "workbench/import.h"
 
 namespace tavi {
@@ -59,16 +58,6 @@ TEST(CheckReport, EachCaseOfTheTableInItsOrder) {
         EXPECT_EQ(std::tie(report.fate, report.title, report.text),
                   std::tuple(k.fate, k.title, k.text));
     }
-}
-
-TEST(Duplicates, TheFirstOfEachGroupStays) {
-    Digits a{}, b{}, c{};
-    a[0] = 1;
-    b[80] = 1;
-    c[40] = 5;
-    const std::vector<Digits> puzzles = {a, b, a, c, a, b};
-    EXPECT_EQ(DuplicateFlags(puzzles), (std::vector<bool>{0, 0, 1, 0, 1, 1}));
-    EXPECT_EQ(DuplicateFlags(std::vector<Digits>{a}), std::vector<bool>{0});
 }
 
 TEST(ForeignPuzzles, LinesCandidatesAndGridsWithTheirProblems) {
