@@ -88,6 +88,8 @@ TEST_F(Puzzles, AVanishedPuzzleFileEmptiesTheLevelAndLeavesTheGameAsItWas) {
     g.CommandNew();
     // The log that lost its puzzles is kept aside, and the level has none.
     EXPECT_TRUE(std::filesystem::exists(folders.DataFolder / "Sudoku_Hard.sdl.without-puzzles"));
+    EXPECT_NE(prompter.Box(0).second.find("kept as Sudoku_Hard.sdl.without-puzzles"),
+              std::string::npos);
     EXPECT_EQ(prompter.Last(), TitleText("Tavi Sudoku", "The Hard level has no puzzles."));
     EXPECT_TRUE(g.GridEnabled());
     EXPECT_EQ(g.board().CurrentGrid, grid);

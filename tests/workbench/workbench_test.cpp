@@ -68,13 +68,7 @@ TEST(ForeignPuzzles, LinesCandidatesAndGridsWithTheirProblems) {
     std::string candidates = FormatBoardLine(board).substr(164);
     for (int c = 0; c < 81; ++c)
         if (p.puzzle[c]) candidates[9 * c + p.puzzle[c] - 1] = char('0' + p.puzzle[c]);
-    std::string grid;
-    for (int r = 0; r < 9; ++r) {
-        if (r == 3 || r == 6) grid += "------+-------+------\n";
-        for (int c = 0; c < 9; ++c)
-            grid += std::string(c == 3 || c == 6 ? " | " : c ? " " : "") + line[9 * r + c];
-        grid += "\n";
-    }
+    const std::string grid = testing::GridText(line);
     std::istringstream in("# a comment\n" + line + "  3.4 rated elsewhere\n\n" + candidates +
                           "\r\n" + grid + "12345\n" + grid.substr(0, 60) + "\n" + line + "\n");
     const ForeignPuzzles read = ReadForeignPuzzles(in);
