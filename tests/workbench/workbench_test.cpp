@@ -27,36 +27,31 @@ namespace fs = std::filesystem;
 using testing::ScriptedPrompter;
 
 TEST(CheckReport, EachCaseOfTheTableInItsOrder) {
+    using F = LibraryFate;
     struct Case {
         long r, o, u, t;
         LibraryFate fate;
-        const char* title;
         const char* text;
     } cases[] = {
-        {5, 0, 0, 5, LibraryFate::Delete, "Sudoku solve report",
-         "All sudokus solved and rerated !"},
-        {0, 4, 0, 4, LibraryFate::Delete, "Sudoku solve report",
-         "No sudokus solved, all rerated as Outlaw !"},
-        {0, 0, 0, 3, LibraryFate::Unchanged, "Sudoku solve report",
-         "Not one sudoku was solved by the program !"},
-        {0, 0, 3, 3, LibraryFate::Unchanged, "sudoku solve report",
-         "All sudokus solved, but none of them could be rerated !"},
-        {2, 1, 3, 6, LibraryFate::Compact, "Sudoku solve report",
+        {5, 0, 0, 5, F::Delete, "All sudokus solved and rerated !"},
+        {0, 4, 0, 4, F::Delete, "No sudokus solved, all rerated as Outlaw !"},
+        {0, 0, 0, 3, F::Unchanged, "Not one sudoku was solved by the program !"},
+        {0, 0, 3, 3, F::Unchanged, "All sudokus solved, but none of them could be rerated !"},
+        {2, 1, 3, 6, F::Compact,
          "5 sudokus solved, 2 rerated, 3 not rerated. 1 unsolved and rated as Outlaw!"},
-        {0, 2, 3, 5, LibraryFate::Compact, "Sudoku solve report",
+        {0, 2, 3, 5, F::Compact,
          "3 sudokus solved, but none of them could be rerated. 2 unsolved and rated as Outlaw!"},
-        {0, 2, 0, 12345, LibraryFate::Compact, "Sudoku solve report",
-         "2 unsolved and rated as Outlaw!"},
-        {2, 0, 3, 5, LibraryFate::Compact, "Sudoku solve report",
-         "All sudokus solved, 2 rerated, 3 not rerated."},
-        {2, 0, 0, 5, LibraryFate::Compact, "Sudoku solve report", "2 sudokus solved and rerated."},
-        {2, 3, 0, 6, LibraryFate::Compact, "Sudoku solve report",
-         "2 sudokus solved and rerated. 3 unsolved and rated as Outlaw!"},
+        {0, 2, 0, 12345, F::Compact, "2 unsolved and rated as Outlaw!"},
+        {2, 0, 3, 5, F::Compact, "All sudokus solved, 2 rerated, 3 not rerated."},
+        {2, 0, 0, 5, F::Compact, "2 sudokus solved and rerated."},
+        {2, 3, 0, 6, F::Compact, "2 sudokus solved and rerated. 3 unsolved and rated as Outlaw!"},
     };
     for (const Case& k : cases) {
         const CheckReport report = ReportFor(k.r, k.o, k.u, k.t);
+        // One case has its title in lower case.
+        const char* title = &k == &cases[3] ? "sudoku solve report" : "Sudoku solve report";
         EXPECT_EQ(std::tie(report.fate, report.title, report.text),
-                  std::tuple(k.fate, k.title, k.text));
+                  std::tuple(k.fate, title, k.text));
     }
 }
 
