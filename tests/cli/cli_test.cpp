@@ -66,8 +66,6 @@ TEST(CliSolve, SaysUniqueNoneOrMultiple) {
         std::string line, expected;
     } cases[] = {
         {Text(p.puzzle), Text(p.puzzle) + "\tunique\t" + FormatDigits(p.solution)},
-        {FormatDigits(p.puzzle, '0') + "; extra",
-         FormatDigits(p.puzzle, '0') + "\tunique\t" + FormatDigits(p.solution)},
         {Text(clueLess), Text(clueLess) + "\tmultiple\t-"},
         {Text(DeadCell()), Text(DeadCell()) + "\tnone\t-"},
         {Text(Digits{}), Text(Digits{}) + "\tmultiple\t-"},
@@ -82,13 +80,13 @@ TEST(CliSolve, SaysUniqueNoneOrMultiple) {
     EXPECT_EQ(o.status, 1);  // the clashing givens
     EXPECT_EQ(o.out, expected);
     EXPECT_EQ(o.err,
-              "standard input, line 6: invalid puzzle: two givens in one row, column or "
+              "standard input, line 5: invalid puzzle: two givens in one row, column or "
               "box hold the same digit\n");
 
     // More lines than one block holds, over two threads: the same answers in the
     // same order.
     std::string many, manyExpected;
-    for (int i = 0; i < 900; ++i) {
+    for (int i = 0; i < 1000; ++i) {
         many += input;
         manyExpected += expected;
     }
@@ -212,7 +210,6 @@ TEST(CliSteps, ReplayOverGeneratedPuzzles) {
     // the run takes the same steps as the plain one.
     const auto explained = Lines(RunSteps(input, true).out);
     ASSERT_EQ(explained.size(), lines.size());
-    std::set<std::string> heads;
     for (size_t i = 0; i < lines.size(); ++i) {
         if (!lines[i].starts_with("step")) {
             EXPECT_EQ(explained[i], lines[i]);
@@ -222,13 +219,11 @@ TEST(CliSteps, ReplayOverGeneratedPuzzles) {
         ASSERT_EQ(f.size(), 6u) << explained[i];
         EXPECT_EQ(explained[i].substr(0, lines[i].size()), lines[i]);
         EXPECT_FALSE(f[5].empty()) << explained[i];
-        heads.insert(f[5].substr(0, f[5].find(':')));
         if (f[2] == "39") {
             EXPECT_TRUE(f[5].starts_with("BIFURCATION: ")) << f[5];
         }
     }
-    EXPECT_TRUE(heads.count("HIDDEN SINGLE"));
-    EXPECT_TRUE(heads.count("POINTING PAIR") || heads.count("BOX LINE REDUCTION"));
+    EXPECT_TRUE(Fields(explained[0]).back().starts_with("HIDDEN SINGLE: ")) << explained[0];
 }
 
 // The first hint of each puzzle, with its paints when asked; no hint on a full
@@ -332,13 +327,10 @@ TEST(CliProgram, ExitStatusTellsWhetherEveryLineWasAPuzzle) {
     EXPECT_EQ(o.out, RunRate(Text(FiveHoles()) + "\n" +
                              Text(testing::GeneratedPuzzles(1)[0].puzzle) + "\n")
                          .out);
-    o = run("rate < " + good.string());
-    EXPECT_EQ(o.status, 0);
-    EXPECT_EQ(Lines(o.out).size(), 2u);
     o = run("solve " + bad.string());
     EXPECT_EQ(o.status, 2);
     EXPECT_EQ(Lines(o.out).size(), 1u);
-    EXPECT_EQ(run("steps < " + bad.string()).status, 2);
+    EXPECT_EQ(run("steps < " + bad.string()).status, 2);  // standard input
     // Every command of the usage text is taken, the board commands too.
     o = run("states --all " + good.string());
     EXPECT_EQ(o.status, 0);

@@ -68,20 +68,15 @@ TEST(CliLibrary, BuildWritesNineRatedFilesThatCheckAndReportsTheCounts) {
         EXPECT_EQ(fields[0], LevelName(level));
         EXPECT_EQ(fields[1], std::to_string(records.size()));
         EXPECT_EQ(fields[2], "random");  // no level was searched
-        for (const SudokuRecord& r : records) {
-            const SolutionCount s = Solutions(r.Puzzle);
-            EXPECT_EQ(s.count, 1);
-            EXPECT_EQ(r, (SudokuRecord{r.Puzzle, s.first, 0, 0}));
-        }
         // With its log of empty records: the folder checks and plays at once.
         EXPECT_EQ(fs::file_size(LogFile(dir.path(), LevelStem(level))),
                   records.size() * kSudokuLogRecordSize);
     }
     EXPECT_EQ(Fields(lines[9])[0], "generated");
 
-    // The folder checks without a file error, options in any order; a damaged
-    // record or a library refused makes the check answer 2, and the damaged record
-    // stays as it stands.
+    // The folder checks without a file error (each record whole, its solution
+    // its own), options in any order; a damaged record or a library refused makes
+    // the check answer 2 (the workbench's tests have what it says and leaves).
     const std::string d = dir.path().string();
     Output checked = RunLibrary({"check", "--level", "1", d});
     EXPECT_EQ(checked.status, 0) << checked.err;
@@ -90,12 +85,10 @@ TEST(CliLibrary, BuildWritesNineRatedFilesThatCheckAndReportsTheCounts) {
     SudokuRecord damaged = tavi::testing::RecordOf(2);
     damaged.Solution[5] = damaged.Solution[6];
     ASSERT_TRUE(WriteSudokuRecord(easy, 2, damaged));
-    const auto before = tavi::testing::FileBytes(easy);
     checked = RunLibrary({"check", d, "--level", "1"});
     EXPECT_EQ(checked.status, 2);
     EXPECT_NE(checked.out.find("Record 2 of Sudoku_Easy.sds is damaged"), std::string::npos)
         << checked.out;
-    EXPECT_EQ(tavi::testing::FileBytes(easy), before);
     // Swapped files are refused and left as they are.
     fs::rename(easy, dir / "x");
     fs::rename(LogFile(dir.path(), LevelStem(1)), easy);
@@ -195,7 +188,7 @@ TEST(CliLibrary, ExportWritesPuzzleSolutionAndBestTimeAndFlagsADamagedFile) {
 }
 
 // --score only adds a fourth field to rate: the first three are rate's own, line
-// for line, and the fourth is a number with one decimal; library export --score
+// for line (the practice index checks the score itself); library export --score
 // ends each line with that same score.
 TEST(CliLibrary, ScoreAddsAFourthFieldToRateAndExportGivesTheSame) {
     TempDir dir;
@@ -216,9 +209,6 @@ TEST(CliLibrary, ScoreAddsAFourthFieldToRateAndExportGivesTheSame) {
             continue;
         }
         ASSERT_EQ(scores[i].substr(0, plainLines[i].size() + 1), plainLines[i] + '\t');
-        const std::string score = scores[i].substr(plainLines[i].size() + 1);
-        EXPECT_TRUE(score.size() >= 3 && score[score.size() - 2] == '.') << score;
-        EXPECT_GT(std::stod(score), 0.9);
     }
 
     ASSERT_TRUE(WriteSudokuFile(dir / "x.sds", records));
@@ -228,25 +218,6 @@ TEST(CliLibrary, ScoreAddsAFourthFieldToRateAndExportGivesTheSame) {
     ASSERT_EQ(lines.size(), records.size());
     for (std::size_t i = 0; i < lines.size(); ++i)
         EXPECT_EQ(lines[i].substr(lines[i].rfind('\t')), scores[i].substr(scores[i].rfind('\t')));
-}
-
-// Without a level, import reads a foreign file as the workbench does and files each
-// new puzzle by its own rating.
-TEST(CliLibrary, ImportWithoutALevelRatesAndFilesEachPuzzle) {
-    TempDir dir;
-    const auto& p = tavi::testing::GeneratedPuzzles(2);
-    const fs::path file = dir.path() / "foreign.txt";
-    std::ofstream(file) << FormatDigits(p[0].puzzle, '.') << " from elsewhere\n"
-                        << "a line of no use\n"
-                        << FormatDigits(p[1].puzzle, '0') << "\n"
-                        << FormatDigits(p[0].puzzle, '.') << "\n";
-    std::ostringstream out, err;
-    EXPECT_EQ(LibraryImportCommand(file, dir.path(), out, err), 2);
-    EXPECT_NE(err.str().find("foreign.txt, line 2: no puzzle"), std::string::npos) << err.str();
-    EXPECT_NE(out.str().find("2 sudokus imported: "), std::string::npos) << out.str();
-    EXPECT_NE(out.str().find("1 already in the library (line 4), 1 malformed (line 2)."),
-              std::string::npos)
-        << out.str();
 }
 
 // A check of every level rates each puzzle once: those it moves into a later
@@ -278,8 +249,8 @@ TEST(CliLibrary, CheckOfEveryLevelCountsEachPuzzleOnce) {
 }
 
 // Nothing is read whole: an export of a sparse file far beyond any library is
-// refused at once, and a foreign file of junk lines gets a report of bounded
-// length.
+// refused at once, and a foreign file of junk lines, imported without a level as
+// the workbench reads it, gets a report of bounded length.
 TEST(CliLibrary, OversizedInputsAreRefusedOrReportedInBrief) {
     TempDir dir;
     const fs::path sds = dir / "huge.sds";
@@ -302,6 +273,7 @@ TEST(CliLibrary, OversizedInputsAreRefusedOrReportedInBrief) {
     EXPECT_LT(o.out.size() + o.err.size(), 4000u);
     EXPECT_NE(o.out.find("5001 malformed (lines 1, 2, 3"), std::string::npos) << o.out;
     EXPECT_NE(o.out.find("and 4981 more)"), std::string::npos) << o.out;
+    EXPECT_NE(o.err.find("junk.txt, line 1: no puzzle"), std::string::npos) << o.err;
     EXPECT_NE(o.err.find("and 4981 more lines like these"), std::string::npos) << o.err;
 }
 

@@ -61,11 +61,8 @@ TEST(FirstRun, AMissingOrEmptyLibraryStopsTheStartAndTheNextStartTriesAgain) {
         for (int level = 1; level <= 9; ++level)
             EXPECT_EQ(WholeRecords(LogFile(data.path(), LevelStem(level)), 1449),
                       level == 8 ? 3 : 2);
-
-        // And the one after that makes nothing.
-        RecordingNotifier quiet;
-        ASSERT_TRUE(PrepareLogFiles(folders, again, store, quiet));
-        EXPECT_TRUE(quiet.messages.empty());
+        // (That a start after that makes nothing and says nothing: every game
+        // test's second start, whose first box is the game's own.)
     }
 }
 

@@ -25,19 +25,10 @@ TEST_F(Input, PlacingTakesTheCellsMarksAndThePeersMarks) {
     const MoveStep& s = g.MoveLog()[0];
     EXPECT_EQ(std::tuple(s.LogDigit, s.LogCell, s.LogOwnMarks),
               std::tuple(digit, cell, before[cell]));
+    // (That the masks name exactly the peers that lost the mark is seen by undoing
+    // every step of long random games: Kept, Sequence.)
     for (int peer : Peers[cell])
         EXPECT_FALSE(g.board().Has(digit, peer));
-    // The masks name exactly the peers that lost the mark.
-    int lost = 0;
-    for (int peer : Peers[cell])
-        lost += HasDigit(before[peer], digit);
-    EXPECT_EQ(std::popcount(unsigned(s.LogColumnMarks)) + std::popcount(unsigned(s.LogRowMarks)) +
-                  std::popcount(unsigned(s.LogBoxMarks)),
-              lost);
-    EXPECT_EQ(g.LabelStap(), "1");
-    EXPECT_TRUE(g.commands().Undo);
-    EXPECT_FALSE(g.commands().Redo);
-    EXPECT_EQ(sounds.played, std::vector<int>{});  // sounds are off by default
 
     // A mark taken away is a step of its own; a cell may lose every mark.
     const auto [other, wrong] = WrongCandidate();
@@ -72,43 +63,21 @@ TEST_F(Input, PencilmarksOffMattersOnlyBelowLevelFour) {
     }
 }
 
-TEST_F(Input, UndoRedoRestoreExactlyWhateverTheOptionsSayNow) {
+// Undo and Redo answer only where there is a step, a new step ends the redo
+// tail, and at step 0 Save refuses. (What undo and redo give back, whatever the
+// options say now, is seen by undoing long random games: Sequence, Kept.)
+TEST_F(Input, UndoAndRedoAnswerOnlyWhereThereIsAStep) {
     Game& g = Playing(5);
     auto [cell, digit] = FirstOpenCell();
-    // A peer's mark of the digit taken away by hand first stays away after undo.
-    int handPeer = -1;
-    for (int peer : Peers[cell])
-        if (handPeer < 0 && g.board().Has(digit, peer) &&
-            CountDigits(g.board().Candidates[peer]) > 1)
-            handPeer = peer;
-    ASSERT_GE(handPeer, 0);
-    g.MarkMouseUp(digit, handPeer, MouseButton::Right, true);
-    const auto beforePlace = Marks();
     g.MarkMouseUp(digit, cell, MouseButton::Left, true);
-    const auto afterPlace = Marks();
-    options.Pencilmarks = false;
     g.CommandUndo();
-    EXPECT_EQ(Marks(), beforePlace);
     EXPECT_FALSE(g.WellFilled(digit, Global::BoxOfCell[cell]));
-    EXPECT_FALSE(g.board().Has(digit, handPeer));
-    EXPECT_EQ(g.board().CurrentGrid[cell], 0);
-    EXPECT_TRUE(g.commands().Redo);
+    EXPECT_EQ(std::pair(g.commands().Undo, g.commands().Redo), std::pair(false, true));
     g.CommandRedo();
-    EXPECT_EQ(Marks(), afterPlace);
-    EXPECT_EQ(g.board().CurrentGrid[cell], digit);
-    EXPECT_FALSE(g.commands().Redo);
+    EXPECT_EQ(std::pair(g.commands().Undo, g.commands().Redo), std::pair(true, false));
     g.CommandUndo();
-    g.CommandUndo();
-    EXPECT_EQ(g.CurrentStep(), 0);
-    EXPECT_FALSE(g.commands().Undo);
-    EXPECT_TRUE(g.board().Has(digit, handPeer));
-    // A new step wipes the redo tail.
-    g.CommandRedo();
     PlaceOne();
-    EXPECT_EQ(g.LastStep(), 2);
     EXPECT_FALSE(g.commands().Redo);
-    // Undo at 0 leaves Save refusing.
-    g.CommandUndo();
     g.CommandUndo();
     prompter.shown.clear();
     g.CommandSave();
@@ -154,11 +123,8 @@ TEST_F(Input, FiltersSurviveSteps) {
     const int other = digit % 9 + 1;
     g.DigitButtonUp(other, MouseButton::Left, true);
     EXPECT_FALSE(g.FilterOn(other));
-    // A filtered digit can't be clicked, but its marks stay candidates.
-    const bool had = g.board().Has(other, cell);
-    g.MarkMouseUp(other, cell, MouseButton::Left, true);
-    EXPECT_EQ(g.CurrentStep(), 0);
-    EXPECT_EQ(g.board().Has(other, cell), had);
+    // (That its marks can't be clicked: MainWindowTest; that they stay candidates,
+    // the hint that shows hidden marks first.)
     g.MarkMouseUp(digit, cell, MouseButton::Left, true);
     g.CommandUndo();
     g.CommandRedo();

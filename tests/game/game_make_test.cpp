@@ -66,33 +66,27 @@ TEST_F(Make, EveryWayOutOfValidateThatStoresNothing) {
         bool stillMaking;
     };
     Making();  // the library, for the puzzle it holds already
+    using enum Answer;
+    const std::string twoFail(kTwoLogicFails);
     const Case cases[] = {
         {"16 clues",
          SolvedWithout([](int c) { return c >= 16; }),
-         {Answer::No},
+         {No},
          {"A minimum of 17 clues is required !", abort},
          true},
-        {"solved", Solved(), {Answer::Yes}, {"The sudoku is allready solved !", abort}, false},
-        {"two solutions, Ignore",
-         std::string(kTwoLogicFails),
-         {Answer::Ignore},
-         {unsolved, notUnique},
-         false},
+        {"solved", Solved(), {Yes}, {"The sudoku is allready solved !", abort}, false},
+        {"two solutions, Ignore", twoFail, {Ignore}, {unsolved, notUnique}, false},
         // A clash is named before anything is solved, and so is a puzzle that
         // the library holds already.
-        {"doubled digit",
-         doubled,
-         {Answer::No},
-         {"The clues clash: two 5s in row A.", abort},
-         true},
+        {"doubled digit", doubled, {No}, {"The clues clash: two 5s in row A.", abort}, true},
         {"already in the library",
          FormatDigits(Record(2, 1).puzzle, '.'),
-         {Answer::Yes},
+         {Yes},
          {"This sudoku is already in the library: Medium number 1.", abort},
          false},
-        {"two solutions, Abort", std::string(kTwoLogicFails), {Answer::Abort}, {unsolved}, false},
+        {"two solutions, Abort", twoFail, {Abort}, {unsolved}, false},
         {"two solutions, logic guesses", std::string(kTwoLogicFinishes), {}, {notUnique}, false},
-        {"two solutions, Retry", std::string(kTwoLogicFails), {Answer::Retry}, {unsolved}, true},
+        {"two solutions, Retry", twoFail, {Retry}, {unsolved}, true},
     };
     for (const Case& k : cases) {
         SCOPED_TRACE(k.name);
@@ -114,7 +108,7 @@ TEST_F(Make, EveryWayOutOfValidateThatStoresNothing) {
             EXPECT_EQ(g.commands().MakeCaption, "Validate");
             EXPECT_TRUE(g.GridEnabled());
             // Retry lets Undo take the clues back one by one.
-            EXPECT_EQ(g.commands().Undo, k.answers.front() == Answer::Retry);
+            EXPECT_EQ(g.commands().Undo, k.answers.front() == Retry);
         } else {
             EXPECT_EQ(g.commands(), Ended());
             EXPECT_EQ(g.board().CurrentGrid, Digits{});

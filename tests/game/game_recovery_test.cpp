@@ -226,12 +226,11 @@ TEST_F(Recovery, AGameIsNeverWrittenOntoAnotherPuzzle) {
     EXPECT_EQ(LogOf(6, 2), other);
 
     // The puzzle taken out of the level: the file keeps the other records.
-    auto bytes = FileBytes(sds);
-    bytes.erase(bytes.begin(), bytes.begin() + long(kSudokuRecordSize));
-    WriteBytes(sds, bytes);
-    auto logBytes = FileBytes(sdl);
-    logBytes.erase(logBytes.begin(), logBytes.begin() + long(kSudokuLogRecordSize));
-    WriteBytes(sdl, logBytes);
+    for (const auto& [file, size] :
+         {std::pair{sds, kSudokuRecordSize}, {sdl, kSudokuLogRecordSize}}) {
+        const auto bytes = FileBytes(file);
+        WriteBytes(file, {bytes.begin() + long(size), bytes.end()});
+    }
     const auto sdsBefore = FileBytes(sds), sdlBefore = FileBytes(sdl);
     PlaceOne();
     g.CommandSave();

@@ -67,26 +67,18 @@ TEST(SaveLastSudoku, NumberAndBusyFollowTheGameOnTheBoard) {
     }
 }
 
-TEST(HaalLaatsteSudoku, ReadsWhatSaveLastSudokuWroteAndDefaultsTheRest) {
+// A number or a level that can't be read is taken as missing. (The round trip
+// through SaveLastSudoku is every resumed game's; the range, the settings fuzz.)
+TEST(HaalLaatsteSudoku, ANumberOrLevelThatCantBeReadIsMissing) {
     MemorySettingsStore store;
-    LibraryPosition p;
-    HaalLaatsteSudoku(store, p);
-    EXPECT_EQ(std::tuple(p.LastLevel, p.PuzzleNumber, p.LevelBusy),
-              std::tuple(0, std::array<int, 10>{}, std::array<bool, 10>{}));
-
     SaveLastSudoku(store, Playing(6, 40, 2));
-    store.Write("SudokuLevel1", "Number", "lots");  // damaged: taken as missing
+    store.Write("SudokuLevel1", "Number", "lots");
     store.Write("SudokuLevel2", "Number", "-5");
+    store.Write("Sudoku", "Level", "12");
     LibraryPosition back;
     HaalLaatsteSudoku(store, back);
-    EXPECT_EQ(back.LastLevel, 6);
-    EXPECT_EQ(back.StoredNumber[6], 40);
-    EXPECT_EQ(back.PuzzleNumber, (std::array{0, 0, 0, 30, 40, 50, 40, 70, 80, 90}));
-    EXPECT_EQ(back.LevelBusy, (std::array<bool, 10>{0, 0, 0, 0, 0, 0, 1, 0, 0, 0}));
-
-    store.Write("Sudoku", "Level", "12");
-    HaalLaatsteSudoku(store, back);
-    EXPECT_EQ(back.LastLevel, 0);
+    EXPECT_EQ(std::tuple(back.LastLevel, back.PuzzleNumber[1], back.PuzzleNumber[2]),
+              std::tuple(0, 0, 0));
 }
 
 struct GameLibrary {

@@ -18,44 +18,32 @@ struct Library {
     LibraryFolders folders{app.path(), data.path()};
 };
 
-TEST(CopyLibraryFiles, CopiesWhatIsMissingAndNeverOverwrites) {
+// What is missing is copied, nothing is overwritten, and a level emptied (its
+// files gone) stays empty at every later start, whether it came delivered or was
+// the user's own; a level that never had files gets them once it is delivered.
+TEST(CopyLibraryFiles, CopiesWhatIsMissingAndNeverRefillsAnEmptiedLevel) {
     Library lib;
-    for (int level = 1; level <= 9; ++level)
+    for (int level = 1; level <= 8; ++level)
         MakeLevelFiles(lib.app.path(), LevelStem(level), level, /*withLog=*/false);
-    // The user's own Hard library stays as it is.
-    MakeLevelFiles(lib.data.path(), LevelStem(3), 1, false, 50);
+    MakeLevelFiles(lib.data.path(), LevelStem(3), 1, false, 50);  // the user's own Hard
     const auto hard = FileBytes(PuzzleFile(lib.data.path(), LevelStem(3)));
-
     CopyLibraryFiles(lib.folders);
-
-    for (int level = 1; level <= 9; ++level) {
-        const fs::path copy = PuzzleFile(lib.data.path(), LevelStem(level));
-        EXPECT_EQ(FileBytes(copy),
+    for (int level = 1; level <= 8; ++level) {
+        EXPECT_EQ(FileBytes(PuzzleFile(lib.data.path(), LevelStem(level))),
                   level == 3 ? hard : FileBytes(PuzzleFile(lib.app.path(), LevelStem(level))));
         EXPECT_FALSE(fs::exists(LogFile(lib.data.path(), LevelStem(level))));
     }
-    // The nine puzzle files and the list of the levels that had them.
-    EXPECT_EQ(std::distance(fs::directory_iterator(lib.data.path()), fs::directory_iterator()), 10);
-}
+    // The eight puzzle files and the list of the levels that had them.
+    EXPECT_EQ(std::distance(fs::directory_iterator(lib.data.path()), fs::directory_iterator()), 9);
 
-// A level emptied (its files gone) stays empty at every later start, whether it
-// came delivered or was the user's own; a level that never had files gets them
-// once it is delivered.
-TEST(CopyLibraryFiles, ALevelThatHadFilesIsNeverFilledAgain) {
-    Library lib;
-    for (int level = 1; level <= 8; ++level)
-        MakeLevelFiles(lib.app.path(), LevelStem(level), 2, /*withLog=*/false);
-    MakeLevelFiles(lib.data.path(), LevelStem(2), 1);  // the user's own
-    CopyLibraryFiles(lib.folders);
-    for (int level : {1, 2}) {
+    for (int level : {1, 3})
         fs::remove(PuzzleFile(lib.data.path(), LevelStem(level)));
-        fs::remove(LogFile(lib.data.path(), LevelStem(level)));
-    }
     MakeLevelFiles(lib.app.path(), LevelStem(9), 2, false);  // delivered later
     for (int start = 0; start < 2; ++start) {
         CopyLibraryFiles(lib.folders);
         for (int level = 1; level <= 9; ++level) {
-            EXPECT_EQ(FileExists(PuzzleFile(lib.data.path(), LevelStem(level))), level > 2)
+            EXPECT_EQ(FileExists(PuzzleFile(lib.data.path(), LevelStem(level))),
+                      level != 1 && level != 3)
                 << level;
             EXPECT_TRUE(WasDelivered(lib.data.path(), LevelStem(level))) << level;
         }

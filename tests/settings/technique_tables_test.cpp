@@ -57,20 +57,5 @@ TEST(TechniqueTables, TheFixedEntriesAreForcedAndABrokenOrderIsReset) {
     EXPECT_EQ(Read(broken).Order, DefaultTechniqueOrder());
 }
 
-TEST(TechniqueTables, AStoredPermutationIsKeptAndRoundTrips) {
-    TechniqueTables t;
-    // Reverse the movable positions.
-    for (int i = 8; i <= 38; ++i)
-        t.Order[i] = 46 - i;
-    t.OnOff[20] = 0;
-    t.Halt[25] = 1;
-    ASSERT_TRUE(IsValidOrder(t.Order));
-    MemorySettingsStore store;
-    WriteTechniqueTables(store, t);
-    EXPECT_EQ(store.Values().size(), 120u);
-    const TechniqueTables back = Read(store);
-    EXPECT_EQ(std::tie(back.Order, back.OnOff, back.Halt), std::tie(t.Order, t.OnOff, t.Halt));
-}
-
 }  // namespace
 }  // namespace tavi

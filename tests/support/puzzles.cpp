@@ -55,6 +55,17 @@ Digits WithClash(Digits puzzle) {
     return puzzle;
 }
 
+std::string GridText(std::string_view line) {
+    std::string grid;
+    for (int r = 0; r < 9; ++r) {
+        if (r == 3 || r == 6) grid += "------+-------+------\n";
+        for (int c = 0; c < 9; ++c)
+            grid += std::string(c == 3 || c == 6 ? " | " : c ? " " : "") + line[size_t(9 * r + c)];
+        grid += "\n";
+    }
+    return grid;
+}
+
 std::vector<std::string> Lines(const std::string& text) {
     std::vector<std::string> lines;
     std::istringstream in(text);

@@ -40,6 +40,9 @@ Digits WithoutFirstClue(Digits puzzle);
 // `puzzle` with its first clue copied into an empty cell that sees it: no solution.
 Digits WithClash(Digits puzzle);
 
+// `line` (81 cells) as a grid of nine rows, with the lines between the boxes.
+std::string GridText(std::string_view line);
+
 // What a player sees of a board: its digits and its marks.
 inline auto GridAndMarks(const Board& b) { return std::pair(b.CurrentGrid, b.Candidates); }
 

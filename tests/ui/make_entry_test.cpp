@@ -56,14 +56,7 @@ TEST_F(MakeWindowTest, AGridOfNineLinesPastedEntersItsClues) {
     Open();
     auto* line = Find<QLineEdit>("SudTekst");
     const GeneratedPuzzle record = Record(2, 1);
-    const std::string text = FormatDigits(record.puzzle, '.');
-    std::string grid;
-    for (int r = 0; r < 9; ++r) {
-        if (r == 3 || r == 6) grid += "------+-------+------\n";
-        for (int c = 0; c < 9; ++c)
-            grid += std::string(c == 3 || c == 6 ? " | " : c ? " " : "") + text[size_t(9 * r + c)];
-        grid += "\n";
-    }
+    const std::string grid = tavi::testing::GridText(FormatDigits(record.puzzle, '.'));
     Press("CommandMake");
     QApplication::clipboard()->setText(QString::fromStdString(grid));
     line->setFocus();

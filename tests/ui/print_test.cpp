@@ -112,12 +112,8 @@ TEST_F(PrintTest, APdfJobHoldsItsPagesAndARecordBeyondTheLibraryCancelsIt) {
     ASSERT_EQ(told.size(), 1u);
     EXPECT_EQ(told[0].first, "Print canceled");
     EXPECT_EQ(told[0].second, "An error occurred while trying to read sudokus from file");
-    const QStringList kept = cut.split(QChar('\f'), Qt::SkipEmptyParts);
-    ASSERT_EQ(kept.size(), 2);
-    EXPECT_TRUE(kept[0].contains("Page 1"));
-    EXPECT_TRUE(HasNumber(kept[1], 3));
-    EXPECT_FALSE(HasNumber(kept[1], 4));
-    EXPECT_FALSE(kept[1].contains("Page 2"));
+    // (Which puzzles the job had placed by then: PrintJobTest.)
+    EXPECT_EQ(cut.split(QChar('\f'), Qt::SkipEmptyParts).size(), 2);
 }
 
 TEST_F(PrintTest, TheOnScreenPuzzleEnablesItsChoicesAndTakesAPlaceFromTheRange) {

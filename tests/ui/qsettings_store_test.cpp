@@ -7,7 +7,6 @@
 #include <QFile>
 #include <QTemporaryDir>
 
-#include "settings/options.h"
 #include "ui/program_folders.h"
 
 namespace tavi::ui {
@@ -44,26 +43,6 @@ TEST(QSettingsStore, KeepsSectionsKeysAndTextInAnIniFile) {
     EXPECT_EQ(again.Read("Options", "Sounds", "fallback"), "fallback");
     // The user's store is named after the application.
     EXPECT_TRUE(QSettingsStore().FileName().endsWith("TaviSud1/TaviSud1.ini"));
-}
-
-// A hand-edited value the options can't read falls back and is noted.
-TEST(QSettingsStore, AHandEditedValueFallsBackAndIsNoted) {
-    QTemporaryDir dir;
-    const QString file = dir.filePath("TaviSud1.ini");
-    QSettingsStore(file).Write("Options", "Sounds", "loud");
-    QSettingsStore store(file);
-    Options o;
-    HaalOpties(store, o);
-    EXPECT_FALSE(o.Sounds);
-    ASSERT_EQ(store.Unreadable().size(), 1u);  // said at start
-    EXPECT_EQ(store.Unreadable()[0], "Options/Sounds=loud");
-    EXPECT_EQ(store.Problem(), "");
-
-    // Something at the file's place that can't be read as one: the store says so.
-    ASSERT_TRUE(QDir(dir.path()).mkpath("Folder.ini"));
-    const QSettingsStore folder(dir.filePath("Folder.ini"));
-    EXPECT_NE(folder.Problem().find("Folder.ini was not used: it can't be read"), std::string::npos)
-        << folder.Problem();
 }
 
 TEST(ProgramFolders, TheDataFolderIsMadeAndAnInstalledProgramFindsItsShare) {
@@ -111,10 +90,14 @@ TEST(QSettingsStore, AnEmptyLockBesideTheFileIsNoLock) {
     EXPECT_EQ(QSettingsStore(file).Read("Options", "Sounds", "False"), "True");
 }
 
-// A file that is no settings file is left as it is, and the message says how
-// to have settings kept again.
-TEST(QSettingsStore, AFileThatIsNoSettingsFileSaysHowToFixIt) {
+// A folder at the file's place, or a file that is no settings file, is said; the
+// file is left as it is, and the message says how to have settings kept again.
+TEST(QSettingsStore, AFolderOrAFileThatIsNoSettingsFileIsSaid) {
     QTemporaryDir dir;
+    ASSERT_TRUE(QDir(dir.path()).mkpath("Folder.ini"));
+    const QSettingsStore folder(dir.filePath("Folder.ini"));
+    EXPECT_NE(folder.Problem().find("Folder.ini was not used: it can't be read"), std::string::npos)
+        << folder.Problem();
     const QString file = dir.filePath("TaviSud1.ini");
     WriteFile(file, "[Options\n\xff\xfe=\n[[[\n");
     const QSettingsStore store(file);
