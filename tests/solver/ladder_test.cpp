@@ -60,7 +60,6 @@ TEST(WorkbenchLadder, TellsItsOutcomeAndReportsProgressOnlyInABatch) {
         }
     }
 }
-}
 
 TEST(WorkbenchLadder, FullBoardAndContradictions) {
     const auto& p = testing::GeneratedPuzzles(1)[0];
