@@ -33,12 +33,4 @@ bool PuzzleIndex::Insert(const Digits& puzzle, std::uint64_t place) {
     return true;
 }
 
-std::vector<bool> DuplicateFlags(std::span<const Digits> puzzles) {
-    std::vector<bool> flags(puzzles.size());
-    PuzzleIndex index([&](std::uint64_t i) { return std::optional<Digits>(puzzles[i]); });
-    for (std::size_t i = 0; i < puzzles.size(); ++i)
-        flags[i] = !index.Insert(puzzles[i], i);
-    return flags;
-}
-
 }  // namespace tavi

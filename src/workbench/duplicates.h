@@ -6,7 +6,6 @@
 #include <cstdint>
 #include <functional>
 #include <optional>
-#include <span>
 #include <unordered_map>
 #include <vector>
 
@@ -34,8 +33,5 @@ class PuzzleIndex {
     ReadBack readBack_;
     std::unordered_multimap<std::uint64_t, std::uint64_t> places_;
 };
-
-// For each puzzle, whether an earlier one is the same. One pass.
-std::vector<bool> DuplicateFlags(std::span<const Digits> puzzles);
 
 }  // namespace tavi
