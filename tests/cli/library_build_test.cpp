@@ -9,6 +9,7 @@
 #include <set>
 
 #include "grid/levels.h"
+#include "library/library_files.h"
 #include "solver/canonical_form.h"
 #include "solver/difficulty_score.h"
 #include "solver/solutions.h"
@@ -74,6 +75,35 @@ TEST(LibraryBuild, ALevelNobodyWantsStaysEmptyAndNoSearchRunsWhenTheRandomLevels
         EXPECT_EQ(long(made.levels[level].size()), plan.wanted[level]) << level;
     EXPECT_EQ(made.search.walks, 0);
     EXPECT_FALSE(made.searched[8]);
+}
+
+// A build from given puzzles makes no random ones, never gives back a given
+// puzzle in any clothes, and repeats itself on any number of threads.
+TEST(LibraryBuild, ABuildFromGivenPuzzlesFindsNewOnesOfTheWantedLevelOnly) {
+    std::vector<SudokuRecord> mayhem;
+    ASSERT_TRUE(ReadSudokuFile(
+        PuzzleFile(std::filesystem::path(TAVI_TEST_DATA_DIR) / ".." / ".." / "data",
+                   LevelStem(8)),
+        mayhem));
+    LibraryPlan plan;
+    plan.wanted[8] = 2;
+    plan.walks = 8;
+    plan.ratingsPerWalk = 24;
+    std::set<Digits> given;
+    for (std::size_t i = 0; i < 16; ++i) {
+        plan.from.push_back(mayhem[i].Puzzle);
+        given.insert(CanonicalForm(mayhem[i].Puzzle));
+    }
+    const LibraryPuzzles one = MakeLibraryPuzzles(plan);
+    EXPECT_EQ(one.generated, 0);
+    ASSERT_FALSE(one.levels[8].empty());
+    SolveContext ctx(Side::Workbench);
+    for (const SudokuRecord& r : one.levels[8]) {
+        EXPECT_EQ(given.count(CanonicalForm(r.Puzzle)), 0u) << FormatDigits(r.Puzzle);
+        EXPECT_EQ(RatePuzzleWithScore(ctx, r.Puzzle).level, 8);
+    }
+    plan.threads = 2;
+    EXPECT_EQ(MakeLibraryPuzzles(plan).levels, one.levels);
 }
 
 }  // namespace
