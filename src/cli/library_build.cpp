@@ -11,6 +11,7 @@
 #include "solver/difficulty_score.h"
 #include "solver/generator.h"
 #include "solver/hard_search.h"
+#include "solver/solutions.h"
 
 namespace tavi::cli {
 
@@ -25,6 +26,10 @@ constexpr int kFirstSearchedLevel = 8;
 constexpr std::size_t kStartPoolSize = 48;
 // The walks start from this many of the hardest puzzles met.
 constexpr std::size_t kWalkStarts = 16;
+// A search from given puzzles climbs in this many lines of descent, each from its
+// own share of them and the hardest it met itself, so that the walks do not all
+// crowd into the neighbourhood of the one hardest puzzle.
+constexpr int kLinesFromGiven = 8;
 // Walks per batch, the same for any number of threads: the start puzzles of a
 // batch are chosen from what the batches before it found.
 constexpr int kWalksPerBatch = 8;
@@ -55,10 +60,13 @@ class RandomWorker {
 // of its own. The pool changes only between batches, while no walk runs.
 class SearchWorker {
   public:
-    SearchWorker(const LibraryPlan& plan, int wantedLevel, const std::vector<Digits>& pool)
-        : plan_(plan), search_(wantedLevel, kFindsPerWalk), pool_(pool) {}
+    SearchWorker(const LibraryPlan& plan, int wantedLevel,
+                 const std::vector<std::vector<Digits>>& pools)
+        : plan_(plan), search_(wantedLevel, kFindsPerWalk), pools_(pools) {}
     WalkReport operator()(long k) {
-        return search_.Walk(pool_[std::size_t(k) % std::min(pool_.size(), kWalkStarts)],
+        const std::size_t lines = pools_.size();
+        const std::vector<Digits>& pool = pools_[std::size_t(k) % lines];
+        return search_.Walk(pool[std::size_t(k) / lines % std::min(pool.size(), kWalkStarts)],
                             plan_.start * 0x100000001b3ULL + std::uint64_t(k),
                             plan_.ratingsPerWalk);
     }
@@ -66,7 +74,7 @@ class SearchWorker {
   private:
     const LibraryPlan& plan_;
     HardPuzzleSearch search_;
-    const std::vector<Digits>& pool_;
+    const std::vector<std::vector<Digits>>& pools_;
 };
 
 // A puzzle of the library with what orders it.
@@ -96,6 +104,8 @@ class Collection {
         return true;
     }
     std::size_t Count(int level) const { return levels_[level].size(); }
+    // A puzzle the library already holds elsewhere: never added again.
+    void Exclude(const Digits& puzzle) { forms_.insert(CanonicalForm(puzzle)); }
 
     std::vector<SudokuRecord> InOrder(int level) {
         std::vector<SudokuRecord> records;
@@ -114,14 +124,16 @@ class Collection {
 // The hardest puzzles seen, hardest first; among equals the first seen.
 class Hardest {
   public:
+    explicit Hardest(bool towardOutlaw = false) : towardOutlaw_(towardOutlaw) {}
     void Offer(const Digits& puzzle, const LadderRating& rating) {
         for (const auto& entry : list_)
             if (entry.second == puzzle) return;
+        const auto hardness = rating.Hardness(towardOutlaw_);
         const auto at = std::upper_bound(
-            list_.begin(), list_.end(), rating.Hardness(),
-            [](const auto& hardness, const auto& entry) { return hardness > entry.first; });
+            list_.begin(), list_.end(), hardness,
+            [](const auto& h, const auto& entry) { return h > entry.first; });
         if (std::size_t(at - list_.begin()) >= kStartPoolSize) return;
-        list_.insert(at, {rating.Hardness(), puzzle});
+        list_.insert(at, {hardness, puzzle});
         if (list_.size() > kStartPoolSize) list_.pop_back();
     }
     bool Full(int level) const {
@@ -135,6 +147,7 @@ class Hardest {
     }
 
   private:
+    bool towardOutlaw_;
     std::vector<std::pair<decltype(LadderRating{}.Hardness()), Digits>> list_;
 };
 
@@ -157,57 +170,90 @@ LibraryPuzzles MakeLibraryPuzzles(const LibraryPlan& plan) {
 
     // Random puzzles, taken in the order of the generator, until every level they
     // reach is full and, when the search is to follow, it has enough Extreme
-    // puzzles to start from.
+    // puzzles to start from. A build from given puzzles makes none.
     Hardest hardest;
+    const bool fromGiven = !plan.from.empty();
     const int randomBatch = 16 * std::max(1, plan.threads);
-    made.generated = RunInOrder<RatedPuzzle>(
-        -1, plan.threads, randomBatch, [&] { return RandomWorker(plan.start); },
-        [&](long, const RatedPuzzle& r) {
-            hardest.Offer(r.puzzle.puzzle, r.rating);
-            if (library.Add(r.puzzle.puzzle, r.puzzle.solution, r.rating)) noteFull(r.rating.level);
-            // The search wants Extreme puzzles to start from.
-            const bool startsWanted = plan.walks != 0 && library.Short(kFirstSearchedLevel) &&
-                                      !hardest.Full(kFirstSearchedLevel - 1);
-            return (library.Short(1, kFirstSearchedLevel - 1) || startsWanted) && timeLeft();
-        });
+    if (!fromGiven)
+        made.generated = RunInOrder<RatedPuzzle>(
+            -1, plan.threads, randomBatch, [&] { return RandomWorker(plan.start); },
+            [&](long, const RatedPuzzle& r) {
+                hardest.Offer(r.puzzle.puzzle, r.rating);
+                if (library.Add(r.puzzle.puzzle, r.puzzle.solution, r.rating))
+                    noteFull(r.rating.level);
+                // The search wants Extreme puzzles to start from.
+                const bool startsWanted = plan.walks != 0 && library.Short(kFirstSearchedLevel) &&
+                                          !hardest.Full(kFirstSearchedLevel - 1);
+                return (library.Short(1, kFirstSearchedLevel - 1) || startsWanted) && timeLeft();
+            });
     made.randomSeconds = elapsed();
     for (int level = 1; level < kFirstSearchedLevel; ++level)
         if (library.Wants(level)) made.seconds[level] = made.randomSeconds;
 
-    // The search, for the levels still short, from the hardest random puzzles and
-    // then from the hardest it met itself.
-    const std::vector<Digits> starts = hardest.Puzzles();
     int wantedLevel = kFirstSearchedLevel;
     while (wantedLevel <= kLevelCount && !library.Wants(wantedLevel))
         ++wantedLevel;
-    if (wantedLevel <= kLevelCount && timeLeft() && plan.walks != 0 && !starts.empty()) {
+    const bool towardOutlaw = wantedLevel >= kOutlaw;
+    SolveContext rerate(Side::Workbench);
+    // Rated from scratch, with the trials of Bifurcation when the search climbs
+    // toward Outlaw.
+    const auto rate = [&](const Digits& puzzle, const Digits& solution) {
+        return RateOnLadder(rerate, puzzle, towardOutlaw ? &solution : nullptr);
+    };
+
+    // The lines of descent: one from the hardest random puzzles, or several that
+    // share out the given puzzles, hardest first, in turn.
+    std::vector<Hardest> lines;
+    if (fromGiven) {
+        lines.assign(kLinesFromGiven, Hardest(towardOutlaw));
+        std::vector<std::pair<LadderRating, Digits>> given;
+        for (const Digits& puzzle : plan.from) {
+            library.Exclude(puzzle);
+            const SolutionCount solutions = Solutions(puzzle, 2);
+            if (solutions.count == 1) given.emplace_back(rate(puzzle, solutions.first), puzzle);
+        }
+        std::stable_sort(given.begin(), given.end(), [&](const auto& a, const auto& b) {
+            return a.first.Hardness(towardOutlaw) > b.first.Hardness(towardOutlaw);
+        });
+        for (std::size_t i = 0; i < given.size(); ++i)
+            lines[i % lines.size()].Offer(given[i].second, given[i].first);
+    } else {
+        lines.push_back(hardest);
+    }
+    std::vector<std::vector<Digits>> pools;
+    for (const Hardest& line : lines)
+        if (!line.Puzzles().empty()) pools.push_back(line.Puzzles());
+    lines.resize(pools.size(), Hardest(towardOutlaw));
+
+    // The search, for the levels still short, from the start puzzles and then from
+    // the hardest each line met itself.
+    if (wantedLevel <= kLevelCount && timeLeft() && plan.walks != 0 && !pools.empty()) {
         const double searchStart = elapsed();
         for (int level = wantedLevel; level <= kLevelCount; ++level) {
             made.searched[level] = library.Wants(level);
             begun[level] = searchStart;
         }
-        std::vector<Digits> pool = starts;
-        SolveContext rerate(Side::Workbench);
         const long walks = RunInOrder<WalkReport>(
             plan.walks, plan.threads, kWalksPerBatch,
-            [&] { return SearchWorker(plan, wantedLevel, pool); },
-            [&](long, const WalkReport& walk) {
+            [&] { return SearchWorker(plan, wantedLevel, pools); },
+            [&](long k, const WalkReport& walk) {
                 SearchTally& t = made.search;
                 t.tried += walk.tried;
                 t.unique += walk.unique;
                 t.kept += walk.kept;
+                const std::size_t line = std::size_t(k) % pools.size();
                 for (const SearchFind& find : walk.finds) {
                     // The walk's rating is taken again from scratch on the plain
                     // ladder; the puzzle goes where that one puts it.
-                    const LadderRating fresh = RateOnLadder(rerate, find.puzzle);
+                    const LadderRating fresh = rate(find.puzzle, find.solution);
                     if (fresh.level != find.rating.level) ++t.rerated;
                     if (library.Add(find.puzzle, find.solution, fresh)) noteFull(fresh.level);
-                    hardest.Offer(find.puzzle, fresh);
+                    lines[line].Offer(find.puzzle, fresh);
                 }
-                // The next batch starts from the hardest puzzles met so far, so
-                // that each walk goes on from where the best walks got to.
-                hardest.Offer(walk.last.puzzle, walk.last.rating);
-                pool = hardest.Puzzles();
+                // The line's next walk starts from the hardest puzzles it met so
+                // far, so that it goes on from where its best walks got to.
+                lines[line].Offer(walk.last.puzzle, walk.last.rating);
+                pools[line] = lines[line].Puzzles();
                 return library.Short(wantedLevel) && timeLeft();
             });
         made.search.walks = walks;

@@ -23,6 +23,9 @@ struct LibraryPlan {
     int threads = 1;
     long walks = -1;            // the search makes at most this many walks; -1 no limit
     long ratingsPerWalk = 100;  // candidates with one solution rated per walk
+    // Puzzles the search starts from instead of the hardest random ones, for a
+    // build of the top levels from a library made before; no random puzzles then.
+    std::vector<Digits> from;
 };
 
 struct SearchTally {

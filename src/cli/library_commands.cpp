@@ -163,6 +163,14 @@ int BuildLibrary(const BuildOptions& options, std::ostream& out, std::ostream& e
     plan.minutes = options.minutes;
     plan.threads = options.threads;
     plan.walks = options.walks;
+    for (const fs::path& file : options.from) {
+        std::vector<SudokuRecord> records;
+        std::string why;
+        if (!ReadSudokuFile(file, records, nullptr, &why))
+            return Problem(err, why.empty() ? "can't read " + file.string() : why);
+        for (const SudokuRecord& r : records)
+            plan.from.push_back(r.Puzzle);
+    }
     const LibraryPuzzles made = MakeLibraryPuzzles(plan);
 
     int status = 0;
@@ -332,7 +340,8 @@ int LibraryCommand(const std::vector<std::string>& args, std::ostream& out, std:
     const std::string action = args.size() > 1 ? args[1] : "";
     if (action == "build") {
         const Arguments a =
-            Parse(args, 2, {"out", "per-level", "counts", "start", "minutes", "threads", "walks"});
+            Parse(args, 2,
+                  {"out", "per-level", "counts", "start", "minutes", "threads", "walks", "from"});
         if (!a.problem.empty()) return Problem(err, a.problem);
         BuildOptions options;
         const auto counts = LevelCounts(a);
@@ -353,6 +362,8 @@ int LibraryCommand(const std::vector<std::string>& args, std::ostream& out, std:
         options.start = *start;
         options.minutes = *minutes;
         options.walks = long(*walks);
+        for (const auto& [name, value] : a.named)
+            if (name == "from") options.from.emplace_back(value);
         return BuildLibrary(options, out, err);
     }
     if (action == "export") {

@@ -26,6 +26,8 @@ struct BuildOptions {
     double minutes = 10;            // stop after this long even when levels are short
     int threads = 1;                // the same library whatever the number, time allowing
     long walks = -1;                // walks of the search for hard puzzles at most; -1 no limit
+    // Library files whose puzzles the search starts from; no random puzzles then.
+    std::vector<std::filesystem::path> from;
 };
 // Generates and rates puzzles until every level has its count, the levels that
 // random puzzles do not reach filled by the search for hard puzzles, or until the

@@ -5,6 +5,8 @@
 #include <array>
 #include <random>
 #include <set>
+#include <tuple>
+#include <utility>
 
 #include "grid/candidates.h"
 #include "grid/levels.h"
@@ -34,9 +36,29 @@ CandidateMask FreeDigits(const Digits& givens, int cell) {
     return CandidateMask(kAllCandidates & ~used);
 }
 
+// Of the cells Bifurcation tries on the board of `ctx`, those whose true digit
+// lets the ladder without Bifurcation finish, and how far below Extreme each of
+// those trials stayed.
+std::pair<int, int> TrialsThatSolve(const SolveContext& ctx, const Digits& solution) {
+    int solving = 0, ease = 0;
+    for (int cell = 0; cell < 81; ++cell) {
+        if (CountDigits(ctx.board.Candidates[cell]) != 2) continue;
+        SolveContext trial = ctx;
+        trial.listener = nullptr;
+        trial.SolvingLevel = 0;
+        ModeScope forced(trial,
+                         trial.Mode().Without(SolveMode::kHintOnly).With(SolveMode::kForceZet));
+        if (BIFSolveSudoku(trial, solution[cell], cell)) {
+            ++solving;
+            ease += kLevelCount - trial.SolvingLevel;
+        }
+    }
+    return {solving, ease};
+}
+
 }  // namespace
 
-LadderRating RateOnLadder(SolveContext& ctx, const Digits& puzzle) {
+LadderRating RateOnLadder(SolveContext& ctx, const Digits& puzzle, const Digits* solution) {
     ctx.board = BoardFromPuzzle(puzzle);
     ctx.SolvingLevel = 0;
     LadderRating r;
@@ -54,7 +76,13 @@ LadderRating RateOnLadder(SolveContext& ctx, const Digits& puzzle) {
     };
     bool lastRungSeen = false;
     run.observer.before = [&](const Rung& rung) {
-        if (rung.number != kBifurcationTechnique || lastRungSeen) return;
+        if (rung.number != kBifurcationTechnique) return;
+        if (solution) {
+            const auto [solving, ease] = TrialsThatSolve(ctx, *solution);
+            if (!lastRungSeen || std::pair(solving, ease) < std::pair(r.trialsThatSolve, r.trialEase))
+                std::tie(r.trialsThatSolve, r.trialEase) = std::pair(solving, ease);
+        }
+        if (lastRungSeen) return;
         lastRungSeen = true;
         for (int c = 0; c < 81; ++c)
             r.pairsAtLastRung += CountDigits(ctx.board.Candidates[c]) == 2;
@@ -72,7 +100,9 @@ WalkReport HardPuzzleSearch::Walk(const Digits& start, std::uint64_t draw, long 
     const auto below = [&](int n) { return int(rng() % std::uint64_t(n)); };
 
     Digits current = start;
-    LadderRating currentRating = RateOnLadder(ctx_, current);
+    const bool trials = TowardOutlaw();
+    const Digits startSolution = trials ? Solutions(start, 1).first : Digits{};
+    LadderRating currentRating = RateOnLadder(ctx_, current, trials ? &startSolution : nullptr);
     std::set<Digits> found;
     std::array<int, 10> foundPerLevel{};
 
@@ -103,13 +133,14 @@ WalkReport HardPuzzleSearch::Walk(const Digits& start, std::uint64_t draw, long 
         const SolutionCount solutions = Solutions(candidate, 2);
         if (solutions.count != 1) continue;
         ++report.unique;
-        const LadderRating rating = RateOnLadder(ctx_, candidate);
+        const LadderRating rating =
+            RateOnLadder(ctx_, candidate, trials ? &solutions.first : nullptr);
         if (rating.level >= wanted_ && foundPerLevel[rating.level] < findsPerLevel_ &&
             found.insert(candidate).second) {
             ++foundPerLevel[rating.level];
             report.finds.push_back({candidate, solutions.first, rating});
         }
-        if (rating.Hardness() >= currentRating.Hardness()) {
+        if (rating.Hardness(trials) >= currentRating.Hardness(trials)) {
             current = candidate;
             currentRating = rating;
             ++report.kept;

@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "grid/board.h"
+#include "grid/levels.h"
 #include "solver/solve_context.h"
 
 namespace tavi {
@@ -31,21 +32,32 @@ struct LadderRating {
     // Cells of two candidates when the walk first came to Bifurcation, the last
     // rung, which tries them: the fewer, the nearer the puzzle is to Outlaw.
     int pairsAtLastRung = 0;
+    // Measured only when the solution is given: of the cells Bifurcation could
+    // try, those whose true digit lets the ladder finish, at the board where the
+    // fewest did. None means the ladder fails there: the puzzle is Outlaw. The
+    // ease adds for each of them how far below Extreme its trial stayed, so that
+    // a puzzle whose last good trial needs the hardest rungs is nearer still.
+    int trialsThatSolve = 0;
+    int trialEase = 0;
 
-    // How hard, for the search: the level, then the hardest rung, then the pairs
-    // the last rung had to try, how often the puzzle's level was needed, how early
-    // the hardest rung was needed and the cells the ladder left. More is harder.
-    auto Hardness() const {
-        return std::tuple(level, hardestRung, -pairsAtLastRung, stepsAtLevel, emptyAtHardest,
-                          cellsLeft);
+    // How hard, for the search: the level, then the hardest rung, then (when the
+    // search climbs toward Outlaw) the trials that still solve and their ease, the
+    // pairs the last rung had to try, how often the puzzle's level was needed, how
+    // early the hardest rung was needed and the cells the ladder left. More is harder.
+    auto Hardness(bool towardOutlaw = false) const {
+        return std::tuple(level, hardestRung, towardOutlaw ? -trialsThatSolve : 0,
+                          towardOutlaw ? -trialEase : 0, -pairsAtLastRung, stepsAtLevel,
+                          emptyAtHardest, cellsLeft);
     }
     // How far into a level, for the order of a library file: the steps beyond the
     // head, then those beyond the singles, then all steps. More is further.
     auto Depth() const { return std::tuple(stepsBeyondHead, stepsBeyondSingles, steps); }
 };
 
-// Rates `puzzle` from scratch on `ctx` (its board is replaced).
-LadderRating RateOnLadder(SolveContext& ctx, const Digits& puzzle);
+// Rates `puzzle` from scratch on `ctx` (its board is replaced). With its
+// `solution` the trials of Bifurcation are measured too, at a cost.
+LadderRating RateOnLadder(SolveContext& ctx, const Digits& puzzle,
+                          const Digits* solution = nullptr);
 
 struct SearchFind {
     Digits puzzle;
@@ -65,11 +77,13 @@ struct WalkReport {
 // `draw`, until `ratings` candidates with one solution were rated (or 50 times as
 // many were made). Every rated candidate whose level is at least `wantedLevel` is
 // a find; at most `findsPerLevel` per level, so that one walk does not fill a
-// level with near neighbours.
+// level with near neighbours. A walk that wants Outlaw climbs on the trials of
+// Bifurcation as well: Mayhem puzzles differ most in how many of them still solve.
 class HardPuzzleSearch {
   public:
     HardPuzzleSearch(int wantedLevel, int findsPerLevel)
         : wanted_(wantedLevel), findsPerLevel_(findsPerLevel) {}
+    bool TowardOutlaw() const { return wanted_ >= kOutlaw; }
 
     WalkReport Walk(const Digits& start, std::uint64_t draw, long ratings);
 

@@ -9,6 +9,7 @@
 #include <set>
 
 #include "grid/levels.h"
+#include "library/library_files.h"
 #include "solver/canonical_form.h"
 #include "solver/difficulty_score.h"
 #include "solver/solutions.h"
@@ -63,6 +64,35 @@ TEST(LibraryBuild, LevelsHoldTheirOwnPuzzlesOnceEasierFirstTheSameOnAnyNumberOfT
     EXPECT_EQ(two.search.tried, one.search.tried);
     for (int level = 1; level <= kLevelCount; ++level)
         EXPECT_EQ(two.levels[level], one.levels[level]) << level;
+}
+
+// A build from given puzzles makes no random ones, never gives back a given
+// puzzle in any clothes, and repeats itself on any number of threads.
+TEST(LibraryBuild, ABuildFromGivenPuzzlesFindsNewOnesOfTheWantedLevelOnly) {
+    std::vector<SudokuRecord> mayhem;
+    ASSERT_TRUE(ReadSudokuFile(
+        PuzzleFile(std::filesystem::path(TAVI_TEST_DATA_DIR) / ".." / ".." / "data",
+                   LevelStem(8)),
+        mayhem));
+    LibraryPlan plan;
+    plan.wanted[8] = 2;
+    plan.walks = 8;
+    plan.ratingsPerWalk = 24;
+    std::set<Digits> given;
+    for (std::size_t i = 0; i < 16; ++i) {
+        plan.from.push_back(mayhem[i].Puzzle);
+        given.insert(CanonicalForm(mayhem[i].Puzzle));
+    }
+    const LibraryPuzzles one = MakeLibraryPuzzles(plan);
+    EXPECT_EQ(one.generated, 0);
+    ASSERT_FALSE(one.levels[8].empty());
+    SolveContext ctx(Side::Workbench);
+    for (const SudokuRecord& r : one.levels[8]) {
+        EXPECT_EQ(given.count(CanonicalForm(r.Puzzle)), 0u) << FormatDigits(r.Puzzle);
+        EXPECT_EQ(RatePuzzleWithScore(ctx, r.Puzzle).level, 8);
+    }
+    plan.threads = 2;
+    EXPECT_EQ(MakeLibraryPuzzles(plan).levels, one.levels);
 }
 
 }  // namespace

@@ -9,12 +9,49 @@
 #include <set>
 
 #include "grid/candidates.h"
+#include "grid/levels.h"
+#include "library/library_files.h"
 #include "solver/ladder.h"
 #include "solver/solutions.h"
 #include "support/puzzles.h"
 
 namespace tavi {
 namespace {
+
+constexpr int kMayhem = 8;
+
+// The delivered Mayhem and Outlaw puzzles: the only ones that reach Bifurcation.
+std::vector<SudokuRecord> Delivered(int level) {
+    std::vector<SudokuRecord> records;
+    ReadSudokuFile(PuzzleFile(std::filesystem::path(TAVI_TEST_DATA_DIR) / ".." / ".." / "data",
+                              LevelStem(level)),
+                   records);
+    return records;
+}
+
+// Bifurcation fails exactly where no trial of a true digit lets the ladder finish:
+// the measure the search climbs on toward Outlaw is zero for Outlaw puzzles only,
+// and measuring it leaves the rating as it was.
+TEST(HardSearch, TheTrialsThatSolveAreNoneExactlyForOutlawPuzzles) {
+    SolveContext ctx(Side::Workbench);
+    int checked = 0;
+    for (const int level : {kMayhem, kOutlaw}) {
+        const std::vector<SudokuRecord> records = Delivered(level);
+        for (std::size_t i = 0; i < records.size() && i < 12; ++i) {
+            const SudokuRecord& r = records[i];
+            const LadderRating plain = RateOnLadder(ctx, r.Puzzle);
+            const LadderRating measured = RateOnLadder(ctx, r.Puzzle, &r.Solution);
+            EXPECT_EQ(measured.Hardness(), plain.Hardness()) << FormatDigits(r.Puzzle);
+            if (plain.level < kMayhem) continue;  // an earlier Outlaw file's puzzle
+            EXPECT_EQ(measured.trialsThatSolve == 0, plain.level == kOutlaw)
+                << FormatDigits(r.Puzzle);
+            EXPECT_GE(measured.trialEase, measured.trialsThatSolve);
+            EXPECT_GT(measured.Hardness(true), LadderRating{}.Hardness(true));
+            ++checked;
+        }
+    }
+    EXPECT_GE(checked, 12);
+}
 
 // The first generated puzzle that rates at least Kamikaze, to walk from.
 const GeneratedPuzzle& HardStart() {
