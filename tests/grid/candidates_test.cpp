@@ -75,14 +75,5 @@ TEST(PlaceDigit, FollowsTheMode) {
     }
 }
 
-TEST(EmptyCell, FindsAnOpenCellWithoutCandidatesAndIgnoresFilledCells) {
-    Board b = OpenBoard();
-    b.CurrentGrid[0] = 4;
-    b.Candidates[0] = 0;
-    EXPECT_FALSE(EmptyCell(b));
-    b.Candidates[80] = 0;
-    EXPECT_TRUE(EmptyCell(b));
-}
-
 }  // namespace
 }  // namespace tavi

@@ -35,15 +35,10 @@ inline Board OpenBoard() {
     return b;
 }
 
-inline CandidateMask MaskOf(std::initializer_list<int> digits) {
-    CandidateMask m = 0;
-    for (int d : digits)
-        m |= DigitBit(d);
-    return m;
-}
-
 inline void SetCandidates(Board& b, int cell, std::initializer_list<int> digits) {
-    b.Candidates[cell] = MaskOf(digits);
+    b.Candidates[cell] = 0;
+    for (int d : digits)
+        b.Candidates[cell] |= DigitBit(d);
 }
 
 // Takes `digit` from every cell of `unit` except the cells in `keep`.
