@@ -83,21 +83,6 @@ struct PaintedBoard {
             }
         }
     }
-    // The cells painted in `role`, ascending.
-    std::vector<int> CellsIn(int role) const {
-        std::vector<int> out;
-        for (int c = 0; c < 81; ++c)
-            if (cell[c] == role) out.push_back(c);
-        return out;
-    }
-    // The (cell, digit) candidates painted in `role`, in cell order.
-    std::vector<Removal> DigitsIn(int role) const {
-        std::vector<Removal> out;
-        for (int c = 0; c < 81; ++c)
-            for (int d = 1; d <= 9; ++d)
-                if (digit[c][d] == role) out.emplace_back(c, d);
-        return out;
-    }
 };
 
 }  // namespace tavi::testing

@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Boards built by hand for the scan-order tests: start from a board where every
-// cell is open with all nine candidates, then shape the candidates of a few
-// units so that exactly the patterns a test wants are on it.
+// Boards and solver contexts built by hand: a board where every cell is open with
+// all nine candidates, a few cells' candidates set, and what the solver tells.
 #pragma once
 
-#include <algorithm>
 #include <initializer_list>
 #include <ostream>
 #include <utility>
@@ -26,8 +24,6 @@ inline std::ostream& operator<<(std::ostream& out, HintKind kind) {
 
 namespace tavi::testing {
 
-inline const auto& Box(int b) { return UnitCells[18 + b]; }
-
 // No digit placed, all nine candidates everywhere.
 inline Board OpenBoard() {
     Board b;
@@ -39,14 +35,6 @@ inline void SetCandidates(Board& b, int cell, std::initializer_list<int> digits)
     b.Candidates[cell] = 0;
     for (int d : digits)
         b.Candidates[cell] |= DigitBit(d);
-}
-
-// Takes `digit` from every cell of `unit` except the cells in `keep`.
-template <typename Unit>
-void KeepDigitOnlyIn(Board& b, int digit, const Unit& unit, std::initializer_list<int> keep) {
-    for (int c : unit)
-        if (std::find(keep.begin(), keep.end(), c) == keep.end())
-            b.Candidates[c] &= CandidateMask(~DigitBit(digit));
 }
 
 // The candidates that `after` lost against `before`, as (cell, digit) in cell order.
