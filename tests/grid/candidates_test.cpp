@@ -5,7 +5,6 @@
 
 #include "solver/primitives.h"
 #include "support/boards.h"
-#include "support/puzzles.h"
 
 namespace tavi {
 namespace {

@@ -68,20 +68,21 @@ struct PaintedBoard {
     std::array<std::array<int, 10>, 81> digit;
 
     explicit PaintedBoard(const std::vector<HintPaint>& paints) {
-        cell.fill(-1);
-        for (auto& d : digit)
-            d.fill(-1);
+        Erase();
         for (const HintPaint& p : paints) {
             if (p.what == HintPaint::Erase) {
-                cell.fill(-1);
-                for (auto& d : digit)
-                    d.fill(-1);
+                Erase();
             } else if (p.what == HintPaint::Cell) {
                 cell[p.cell] = p.role;
             } else {
                 digit[p.cell][p.digit] = p.role;
             }
         }
+    }
+    void Erase() {
+        cell.fill(-1);
+        for (auto& d : digit)
+            d.fill(-1);
     }
 };
 

@@ -20,6 +20,11 @@ namespace {
 using Step = std::tuple<int, int, bool>;
 using Steps = std::set<Step>;
 
+// Two cells that share a row, a column or a box; a cell sees itself.
+bool Sees(int a, int b) {
+    return a / 9 == b / 9 || a % 9 == b % 9 || Global::BoxOfCell[a] == Global::BoxOfCell[b];
+}
+
 int CellOf(const std::string& name) {
     static const std::string kRows = "ABCDEFGHJ";
     return int(kRows.find(name[0])) * 9 + (name[1] - '1');
@@ -211,10 +216,7 @@ std::string EmptyRectangleClaimFault(const HintRecord& h, const Board& board,
     if (!m) return "no forced cell named\n";
     const int digit = std::stoi((*m)[1].str());
     const int target = CellOf((*m)[2].str()), forced = CellOf((*m)[3].str());
-    auto sees = [](int a, int b) {
-        return a != b &&
-               (a / 9 == b / 9 || a % 9 == b % 9 || Global::BoxOfCell[a] == Global::BoxOfCell[b]);
-    };
+    auto sees = [](int a, int b) { return a != b && Sees(a, b); };
     bool forcedByPair = false;
     for (int unit = 0; unit < 27 && !forcedByPair && !sees(forced, target); ++unit) {
         std::vector<int> holders;
@@ -261,10 +263,7 @@ std::string TruthFaults(const HintRecord& h, const Board& board) {
     for (const auto& [cell, digit, _] : placed)
         for (int c = 0; c < 81; ++c)
             for (int d = 1; d <= 9; ++d)
-                if ((c == cell) != (d == digit) &&
-                    (c == cell || c / 9 == cell / 9 || c % 9 == cell % 9 ||
-                     Global::BoxOfCell[c] == Global::BoxOfCell[cell]))
-                    follows.insert({c, d, false});
+                if ((c == cell) != (d == digit) && Sees(c, cell)) follows.insert({c, d, false});
     const bool allShown =
         std::includes(attacked.begin(), attacked.end(), removed.begin(), removed.end());
     const bool noneFalse =

@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 #include "hints/hint_records.h"
-#include "hints/schrijf_hint.h"
 
 namespace tavi {
 namespace {

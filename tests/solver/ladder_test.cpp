@@ -7,7 +7,6 @@
 #include <set>
 
 #include "grid/candidates.h"
-#include "grid/levels.h"
 #include "support/boards.h"
 #include "support/puzzles.h"
 
