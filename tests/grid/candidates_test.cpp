@@ -25,7 +25,6 @@ TEST(VerwijderKnop, HonoursHintOnlyAndForceZet) {
         {"under a hint with ForceZet", true, true, 7, true, false, false},
         {"ForceZet alone", false, true, 7, true, true, false},
         {"not a candidate", false, false, 3, false, false, false},
-        {"not a candidate under a hint", true, false, 3, false, false, false},
     };
     for (const Case& k : cases) {
         SCOPED_TRACE(k.name);

@@ -8,7 +8,6 @@
 
 #include <cctype>
 #include <fstream>
-#include <sstream>
 
 #include "grid/candidates.h"
 #include "hints/hint_paint.h"
@@ -41,10 +40,7 @@ std::vector<RungCase> ReadCases() {
     for (std::string text; std::getline(file, text);) {
         ++number;
         if (text.empty() || text[0] == '#') continue;
-        std::vector<std::string> fields;
-        std::istringstream split(text);
-        for (std::string f; std::getline(split, f, '\t');)
-            fields.push_back(f);
+        std::vector<std::string> fields = testing::Fields(text);
         fields.resize(5);
         std::string why;
         const auto board = ParseBoardLine(fields[0], &why);
