@@ -9,7 +9,7 @@
 namespace tavi {
 namespace {
 
-using testing::OpenBoard, testing::RecordingListener, testing::SetCandidates;
+using testing::OpenBoard, testing::RecordingListener;
 
 // How a technique's removal lands: under a hint it only reports, with ForceZet it
 // removes quietly, otherwise it removes and the game's move log hears of it.
@@ -29,7 +29,7 @@ TEST(VerwijderKnop, HonoursHintOnlyAndForceZet) {
     for (const Case& k : cases) {
         SCOPED_TRACE(k.name);
         Board b = OpenBoard();
-        SetCandidates(b, 12, {1, 7, 9});
+        b.Candidates[12] = DigitBit(1) | DigitBit(7) | DigitBit(9);
         RecordingListener listener;
         SolveContext ctx = testing::ContextOn(b, Side::Game);
         ctx.listener = &listener;
@@ -37,8 +37,9 @@ TEST(VerwijderKnop, HonoursHintOnlyAndForceZet) {
                                 .With(SolveMode::kHintOnly, k.hintOnly)
                                 .With(SolveMode::kForceZet, k.forceZet));
         EXPECT_EQ(VerwijderKnop(ctx, k.digit, 12), k.answer);
-        EXPECT_EQ(ctx.board.Has(k.digit, 12), k.digit == 7 && !k.removes);
-        EXPECT_EQ(testing::Removals(b, ctx.board).size(), k.removes ? 1u : 0u);
+        Board expected = b;
+        if (k.removes) expected.Candidates[12] = DigitBit(1) | DigitBit(9);
+        EXPECT_EQ(ctx.board.Candidates, expected.Candidates);
         EXPECT_TRUE(listener.placed.empty());
         EXPECT_EQ(listener.removed, std::vector<testing::Removal>(k.heard, {12, 7}));
     }

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Boards and solver contexts built by hand: a board where every cell is open with
-// all nine candidates, a few cells' candidates set, and what the solver tells.
+// all nine candidates, a context on a board, and what the solver tells.
 #pragma once
 
-#include <initializer_list>
 #include <ostream>
 #include <utility>
 #include <vector>
@@ -31,21 +30,8 @@ inline Board OpenBoard() {
     return b;
 }
 
-inline void SetCandidates(Board& b, int cell, std::initializer_list<int> digits) {
-    b.Candidates[cell] = 0;
-    for (int d : digits)
-        b.Candidates[cell] |= DigitBit(d);
-}
-
-// The candidates that `after` lost against `before`, as (cell, digit) in cell order.
+// A placement or a removal as (cell, digit).
 using Removal = std::pair<int, int>;
-inline std::vector<Removal> Removals(const Board& before, const Board& after) {
-    std::vector<Removal> out;
-    for (int c = 0; c < 81; ++c)
-        for (int d = 1; d <= 9; ++d)
-            if (before.Has(d, c) && !after.Has(d, c)) out.emplace_back(c, d);
-    return out;
-}
 
 // The game's move log as the solver sees it: what it was told, in order.
 struct RecordingListener : MoveListener {
