@@ -68,14 +68,10 @@ struct PaintedBoard {
     std::array<std::array<int, 10>, 81> digit;
 
     explicit PaintedBoard(const std::vector<HintPaint>& paints) {
-        cell.fill(-1);
-        for (auto& d : digit)
-            d.fill(-1);
+        Erase();
         for (const HintPaint& p : paints) {
             if (p.what == HintPaint::Erase) {
-                cell.fill(-1);
-                for (auto& d : digit)
-                    d.fill(-1);
+                Erase();
             } else if (p.what == HintPaint::Cell) {
                 cell[p.cell] = p.role;
             } else {
@@ -83,20 +79,10 @@ struct PaintedBoard {
             }
         }
     }
-    // The cells painted in `role`, ascending.
-    std::vector<int> CellsIn(int role) const {
-        std::vector<int> out;
-        for (int c = 0; c < 81; ++c)
-            if (cell[c] == role) out.push_back(c);
-        return out;
-    }
-    // The (cell, digit) candidates painted in `role`, in cell order.
-    std::vector<Removal> DigitsIn(int role) const {
-        std::vector<Removal> out;
-        for (int c = 0; c < 81; ++c)
-            for (int d = 1; d <= 9; ++d)
-                if (digit[c][d] == role) out.emplace_back(c, d);
-        return out;
+    void Erase() {
+        cell.fill(-1);
+        for (auto& d : digit)
+            d.fill(-1);
     }
 };
 

@@ -20,6 +20,11 @@ namespace {
 using Step = std::tuple<int, int, bool>;
 using Steps = std::set<Step>;
 
+// Two cells that share a row, a column or a box; a cell sees itself.
+bool Sees(int a, int b) {
+    return a / 9 == b / 9 || a % 9 == b % 9 || Global::BoxOfCell[a] == Global::BoxOfCell[b];
+}
+
 int CellOf(const std::string& name) {
     static const std::string kRows = "ABCDEFGHJ";
     return int(kRows.find(name[0])) * 9 + (name[1] - '1');
@@ -34,27 +39,24 @@ std::string Describe(const Steps& steps) {
 }
 
 // The cells and the digits of a text, in order: "A1", "B2 and C3", "A1, B2".
-std::vector<int> CellsIn(const std::string& text) {
-    std::vector<int> out;
-    static const std::regex kCell("[A-HJ][1-9]");
-    for (auto it = std::sregex_iterator(text.begin(), text.end(), kCell);
-         it != std::sregex_iterator(); ++it)
-        out.push_back(CellOf(it->str()));
-    return out;
-}
-std::vector<int> DigitsIn(const std::string& text) {
-    std::vector<int> out;
-    for (char c : text)
-        if (c >= '1' && c <= '9') out.push_back(c - '0');
-    return out;
-}
-
 // Every match of `pattern` in `text`, with its groups.
 std::vector<std::smatch> AllOf(const std::string& text, const std::regex& pattern) {
     std::vector<std::smatch> out;
     for (auto it = std::sregex_iterator(text.begin(), text.end(), pattern);
          it != std::sregex_iterator(); ++it)
         out.push_back(*it);
+    return out;
+}
+std::vector<int> CellsIn(const std::string& text) {
+    std::vector<int> out;
+    for (const auto& m : AllOf(text, std::regex("[A-HJ][1-9]")))
+        out.push_back(CellOf(m.str()));
+    return out;
+}
+std::vector<int> DigitsIn(const std::string& text) {
+    std::vector<int> out;
+    for (char c : text)
+        if (c >= '1' && c <= '9') out.push_back(c - '0');
     return out;
 }
 
@@ -68,6 +70,14 @@ std::optional<std::smatch> Find(const std::string& text, const char* pattern) {
 // the kinds and forms whose sentence states a rule rather than its cells.
 std::optional<Steps> Named(const HintRecord& h, const Board& board, const std::string& s) {
     Steps out;
+    // One digit (group 1) taken from the cells listed in group 2.
+    auto listed = [&](const char* pattern) {
+        const auto m = Find(s, pattern);
+        if (!m) return Steps{{-1, 0, false}};
+        for (int c : CellsIn((*m)[2].str()))
+            out.insert({c, std::stoi((*m)[1].str()), false});
+        return out;
+    };
     auto one = [&](const char* pattern, int digitGroup, int cellGroup, bool placed) {
         const auto m = Find(s, pattern);
         if (!m) return std::optional<Steps>(Steps{{-1, 0, placed}});
@@ -83,13 +93,8 @@ std::optional<Steps> Named(const HintRecord& h, const Board& board, const std::s
             return one("number (\\d) would be truth for cell ([A-HJ]\\d)", 1, 2, true);
         case HintKind::EmptyRectangle:
             return one("If value (\\d) .*this means that cell ([A-HJ]\\d) can't", 1, 2, false);
-        case HintKind::FinnedXWing: {
-            const auto m = Find(s, "Since number (\\d) .*this number can't appear in cells? (.*)$");
-            if (!m) return Steps{{-1, 0, false}};
-            for (int c : CellsIn((*m)[2].str()))
-                out.insert({c, std::stoi((*m)[1].str()), false});
-            return out;
-        }
+        case HintKind::FinnedXWing:
+            return listed("Since number (\\d) .*this number can't appear in cells? (.*)$");
         case HintKind::AlignedPairExclusion:
         case HintKind::AlignedTripleExclusion: {
             static const std::regex kClause(
@@ -145,16 +150,11 @@ std::optional<Steps> Named(const HintRecord& h, const Board& board, const std::s
                     out.insert({c, std::stoi(m[1].str()), false});
             return out;
         }
-        case HintKind::Medusa3D: {
+        case HintKind::Medusa3D:
             if (h.HintVariant != 4) return std::nullopt;
-            const auto m = Find(s,
-                                "opposite coloured candidates (\\d) in cells .*can be removed "
-                                "from cell\\(s\\) (.*)\\.$");
-            if (!m) return Steps{{-1, 0, false}};
-            for (int c : CellsIn((*m)[2].str()))
-                out.insert({c, std::stoi((*m)[1].str()), false});
-            return out;
-        }
+            return listed(
+                "opposite coloured candidates (\\d) in cells .*can be removed from cell\\(s\\) "
+                "(.*)\\.$");
         case HintKind::ForcingChainFromCell:
         case HintKind::ForcingChainFromUnit: {
             if (const auto m =
@@ -216,10 +216,7 @@ std::string EmptyRectangleClaimFault(const HintRecord& h, const Board& board,
     if (!m) return "no forced cell named\n";
     const int digit = std::stoi((*m)[1].str());
     const int target = CellOf((*m)[2].str()), forced = CellOf((*m)[3].str());
-    auto sees = [](int a, int b) {
-        return a != b &&
-               (a / 9 == b / 9 || a % 9 == b % 9 || Global::BoxOfCell[a] == Global::BoxOfCell[b]);
-    };
+    auto sees = [](int a, int b) { return a != b && Sees(a, b); };
     bool forcedByPair = false;
     for (int unit = 0; unit < 27 && !forcedByPair && !sees(forced, target); ++unit) {
         std::vector<int> holders;
@@ -266,10 +263,7 @@ std::string TruthFaults(const HintRecord& h, const Board& board) {
     for (const auto& [cell, digit, _] : placed)
         for (int c = 0; c < 81; ++c)
             for (int d = 1; d <= 9; ++d)
-                if ((c == cell) != (d == digit) &&
-                    (c == cell || c / 9 == cell / 9 || c % 9 == cell % 9 ||
-                     Global::BoxOfCell[c] == Global::BoxOfCell[cell]))
-                    follows.insert({c, d, false});
+                if ((c == cell) != (d == digit) && Sees(c, cell)) follows.insert({c, d, false});
     const bool allShown =
         std::includes(attacked.begin(), attacked.end(), removed.begin(), removed.end());
     const bool noneFalse =

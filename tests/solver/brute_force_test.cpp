@@ -3,7 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include "grid/candidates.h"
 #include "support/puzzles.h"
 
 namespace tavi {

@@ -8,7 +8,6 @@
 
 #include <cctype>
 #include <fstream>
-#include <sstream>
 
 #include "grid/candidates.h"
 #include "hints/hint_paint.h"
@@ -41,10 +40,7 @@ std::vector<RungCase> ReadCases() {
     for (std::string text; std::getline(file, text);) {
         ++number;
         if (text.empty() || text[0] == '#') continue;
-        std::vector<std::string> fields;
-        std::istringstream split(text);
-        for (std::string f; std::getline(split, f, '\t');)
-            fields.push_back(f);
+        std::vector<std::string> fields = testing::Fields(text);
         fields.resize(5);
         std::string why;
         const auto board = ParseBoardLine(fields[0], &why);
@@ -73,37 +69,35 @@ class RungCaseLine : public ::testing::TestWithParam<RungCase> {};
 
 TEST_P(RungCaseLine, FindsWhatItSaysAndSaysIt) {
     const RungCase& k = GetParam();
+    ASSERT_EQ(k.fault, "");
+    ASSERT_FALSE(RungsOf(k.technique).empty()) << "no technique " << k.technique;
+
+    SolveContext work(Side::Workbench);
+    work.board = k.board;
+    const Rung* hit = RunTechnique(work, k.technique);
+    EXPECT_EQ(hit ? FormatConclusions(work.hint.Conclusions) : "none", k.changes);
+
+    SolveContext look(Side::Game);
+    look.board = k.board;
+    const Rung* hinted = nullptr;
     {
-        ASSERT_EQ(k.fault, "");
-        ASSERT_FALSE(RungsOf(k.technique).empty()) << "no technique " << k.technique;
+        ModeScope looking(look, HintMode(look.Mode(), RungsOf(k.technique)[0]));
+        hinted = RunTechnique(look, k.technique);
+    }
+    EXPECT_EQ(look.board.Candidates, k.board.Candidates) << "a hint changes nothing";
+    EXPECT_EQ(hinted ? SchrijfHint(look.hint, k.board) : "", k.sentence);
+    EXPECT_EQ(hinted ? DescribePaints(PaintHint(look.hint, k.board)) : "", k.paint);
+    if (hinted) {
+        EXPECT_TRUE(hinted->Fills(look.hint.HintKind)) << "kind " << look.hint.HintKind;
+        EXPECT_EQ(testing::TruthFaults(look.hint, k.board), "");
+    }
 
-        SolveContext work(Side::Workbench);
-        work.board = k.board;
-        const Rung* hit = RunTechnique(work, k.technique);
-        EXPECT_EQ(hit ? FormatConclusions(work.hint.Conclusions) : "none", k.changes);
-
-        SolveContext look(Side::Game);
-        look.board = k.board;
-        const Rung* hinted = nullptr;
-        {
-            ModeScope looking(look, HintMode(look.Mode(), RungsOf(k.technique)[0]));
-            hinted = RunTechnique(look, k.technique);
-        }
-        EXPECT_EQ(look.board.Candidates, k.board.Candidates) << "a hint changes nothing";
-        EXPECT_EQ(hinted ? SchrijfHint(look.hint, k.board) : "", k.sentence);
-        EXPECT_EQ(hinted ? DescribePaints(PaintHint(look.hint, k.board)) : "", k.paint);
-        if (hinted) {
-            EXPECT_TRUE(hinted->Fills(look.hint.HintKind)) << "kind " << look.hint.HintKind;
-            EXPECT_EQ(testing::TruthFaults(look.hint, k.board), "");
-        }
-
-        // Whatever a line expects, no technique may contradict a puzzle's one solution.
-        if (const SolutionCount s = Solutions(k.board.Puzzle); s.count == 1) {
-            for (const Conclusion& c : work.hint.Conclusions)
-                EXPECT_EQ(c.placed, s.first[c.cell] == c.digit)
-                    << CellName(c.cell) << (c.placed ? "=" : "-") << int(c.digit)
-                    << " contradicts the solution";
-        }
+    // Whatever a line expects, no technique may contradict a puzzle's one solution.
+    if (const SolutionCount s = Solutions(k.board.Puzzle); s.count == 1) {
+        for (const Conclusion& c : work.hint.Conclusions)
+            EXPECT_EQ(c.placed, s.first[c.cell] == c.digit)
+                << CellName(c.cell) << (c.placed ? "=" : "-") << int(c.digit)
+                << " contradicts the solution";
     }
 }
 

@@ -1,11 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Boards built by hand for the scan-order tests: start from a board where every
-// cell is open with all nine candidates, then shape the candidates of a few
-// units so that exactly the patterns a test wants are on it.
+// Boards and solver contexts built by hand: a board where every cell is open with
+// all nine candidates, a context on a board, and what the solver tells.
 #pragma once
 
-#include <algorithm>
-#include <initializer_list>
 #include <ostream>
 #include <utility>
 #include <vector>
@@ -26,8 +23,6 @@ inline std::ostream& operator<<(std::ostream& out, HintKind kind) {
 
 namespace tavi::testing {
 
-inline const auto& Box(int b) { return UnitCells[18 + b]; }
-
 // No digit placed, all nine candidates everywhere.
 inline Board OpenBoard() {
     Board b;
@@ -35,34 +30,8 @@ inline Board OpenBoard() {
     return b;
 }
 
-inline CandidateMask MaskOf(std::initializer_list<int> digits) {
-    CandidateMask m = 0;
-    for (int d : digits)
-        m |= DigitBit(d);
-    return m;
-}
-
-inline void SetCandidates(Board& b, int cell, std::initializer_list<int> digits) {
-    b.Candidates[cell] = MaskOf(digits);
-}
-
-// Takes `digit` from every cell of `unit` except the cells in `keep`.
-template <typename Unit>
-void KeepDigitOnlyIn(Board& b, int digit, const Unit& unit, std::initializer_list<int> keep) {
-    for (int c : unit)
-        if (std::find(keep.begin(), keep.end(), c) == keep.end())
-            b.Candidates[c] &= CandidateMask(~DigitBit(digit));
-}
-
-// The candidates that `after` lost against `before`, as (cell, digit) in cell order.
+// A placement or a removal as (cell, digit).
 using Removal = std::pair<int, int>;
-inline std::vector<Removal> Removals(const Board& before, const Board& after) {
-    std::vector<Removal> out;
-    for (int c = 0; c < 81; ++c)
-        for (int d = 1; d <= 9; ++d)
-            if (before.Has(d, c) && !after.Has(d, c)) out.emplace_back(c, d);
-    return out;
-}
 
 // The game's move log as the solver sees it: what it was told, in order.
 struct RecordingListener : MoveListener {
