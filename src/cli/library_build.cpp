@@ -129,9 +129,9 @@ class Hardest {
         for (const auto& entry : list_)
             if (entry.second == puzzle) return;
         const auto hardness = rating.Hardness(towardOutlaw_);
-        const auto at = std::upper_bound(
-            list_.begin(), list_.end(), hardness,
-            [](const auto& h, const auto& entry) { return h > entry.first; });
+        const auto at =
+            std::upper_bound(list_.begin(), list_.end(), hardness,
+                             [](const auto& h, const auto& entry) { return h > entry.first; });
         if (std::size_t(at - list_.begin()) >= kStartPoolSize) return;
         list_.insert(at, {hardness, puzzle});
         if (list_.size() > kStartPoolSize) list_.pop_back();

@@ -79,7 +79,8 @@ LadderRating RateOnLadder(SolveContext& ctx, const Digits& puzzle, const Digits*
         if (rung.number != kBifurcationTechnique) return;
         if (solution) {
             const auto [solving, ease] = TrialsThatSolve(ctx, *solution);
-            if (!lastRungSeen || std::pair(solving, ease) < std::pair(r.trialsThatSolve, r.trialEase))
+            if (!lastRungSeen ||
+                std::pair(solving, ease) < std::pair(r.trialsThatSolve, r.trialEase))
                 std::tie(r.trialsThatSolve, r.trialEase) = std::pair(solving, ease);
         }
         if (lastRungSeen) return;

@@ -71,8 +71,7 @@ TEST(LibraryBuild, LevelsHoldTheirOwnPuzzlesOnceEasierFirstTheSameOnAnyNumberOfT
 TEST(LibraryBuild, ABuildFromGivenPuzzlesFindsNewOnesOfTheWantedLevelOnly) {
     std::vector<SudokuRecord> mayhem;
     ASSERT_TRUE(ReadSudokuFile(
-        PuzzleFile(std::filesystem::path(TAVI_TEST_DATA_DIR) / ".." / ".." / "data",
-                   LevelStem(8)),
+        PuzzleFile(std::filesystem::path(TAVI_TEST_DATA_DIR) / ".." / ".." / "data", LevelStem(8)),
         mayhem));
     LibraryPlan plan;
     plan.wanted[8] = 2;
