@@ -205,7 +205,6 @@ LibraryPuzzles MakeLibraryPuzzles(const LibraryPlan& plan) {
     // share out the given puzzles, hardest first, in turn.
     std::vector<Hardest> lines;
     if (fromGiven) {
-        lines.assign(kLinesFromGiven, Hardest(towardOutlaw));
         std::vector<std::pair<LadderRating, Digits>> given;
         for (const Digits& puzzle : plan.from) {
             library.Exclude(puzzle);
@@ -215,15 +214,15 @@ LibraryPuzzles MakeLibraryPuzzles(const LibraryPlan& plan) {
         std::stable_sort(given.begin(), given.end(), [&](const auto& a, const auto& b) {
             return a.first.Hardness(towardOutlaw) > b.first.Hardness(towardOutlaw);
         });
+        lines.assign(std::min<std::size_t>(kLinesFromGiven, given.size()), Hardest(towardOutlaw));
         for (std::size_t i = 0; i < given.size(); ++i)
             lines[i % lines.size()].Offer(given[i].second, given[i].first);
-    } else {
+    } else if (!hardest.Puzzles().empty()) {
         lines.push_back(hardest);
     }
     std::vector<std::vector<Digits>> pools;
     for (const Hardest& line : lines)
-        if (!line.Puzzles().empty()) pools.push_back(line.Puzzles());
-    lines.resize(pools.size(), Hardest(towardOutlaw));
+        pools.push_back(line.Puzzles());
 
     // The search, for the levels still short, from the start puzzles and then from
     // the hardest each line met itself.
